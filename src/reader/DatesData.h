@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "LocatedBytes.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace chronomender {
+
+/// Why a value was refused, or which damage was tolerated.
+enum class FindingReason : std::uint8_t {
+    NotAStamp,        ///< the bytes do not have the form of a date stamp
+    NotAZoneStamp,    ///< the bytes do not have the form of a zone stamp
+    ZoneOutOfRange,   ///< beyond ±18:00, or minutes above 59
+    NoRoom,           ///< read, but the field is too short to be written in place
+    OutsideFile,      ///< the file ends before the value does
+    NotAGpsDate,      ///< the bytes do not have the form of a GPS date
+    CoordinateMissing, ///< the GPS directory has some of the four coordinate tags only
+    DirectoryLoop,    ///< a directory is reached a second time
+    ScanLimit,        ///< no header within the part of the file that is searched
+};
+
+/// Something the reader refused or tolerated; shown by `mend info`, never fatal.
+struct Finding {
+    std::string what; ///< the value's name, for example "ExifDateTimeOriginal"
+    std::uint64_t offset = 0;
+    FindingReason reason{};
+
+    bool operator==(const Finding &) const = default;
+};
+
+/// Short English words for a reason, for example "the field is too short to be written in place".
+const char *findingText(FindingReason reason);
+
+/// The three unsigned rationals hour, minute, second of a GPS time: 24 bytes in file byte order.
+struct GpsTimeStamp {
+    LocatedBytes value;
+    bool needsConv = false; ///< the rationals are big-endian
+
+    bool operator==(const GpsTimeStamp &) const = default;
+};
+
+/// The location bytes of a GPS directory. The four coordinate values appear together or not at all,
+/// altitude needs both its values. Reference values stand inside the directory entry.
+struct GpsLocation {
+    bool needsConv = false; ///< the rationals are big-endian
+    std::optional<LocatedBytes> latitudeRef, latitude, longitudeRef, longitude;
+    std::optional<LocatedBytes> altitudeRef, altitude;
+    std::optional<LocatedBytes> hPositioningError;
+
+    bool operator==(const GpsLocation &) const = default;
+};
+
+/// What one read of a still image found. Everything is optional, and nothing found is a valid
+/// result. Stamps hold 20 bytes: the 19 of the file and a zero byte; zone stamps hold 7.
+/// A stamp of zeros or blanks is reported like any other: it marks an empty tag.
+struct DatesData {
+    std::optional<LocatedBytes> exifDateTimeOriginal, exifDateTimeDigitized, tiffDateTime;
+    std::optional<LocatedBytes> exifOffsetTimeOriginal, exifOffsetTimeDigitized, exifOffsetTiffTime;
+    std::optional<GpsTimeStamp> gpsTimeStamp;
+    std::optional<LocatedBytes> gpsDateStamp; ///< 11 bytes
+    std::optional<GpsLocation> gpsLocation;
+    std::optional<std::uint64_t> tiffHeaderStartOffset;
+    bool isHeaderIntel = false; ///< little-endian; meaningful with a header only
+    std::optional<std::uint64_t> jpgXmpOffset, cr3XmpOffset, xmpHeaderStartOffset;
+    std::string make, model; ///< as in IFD0, up to the first zero byte, at most 128 bytes; "" if absent
+    std::vector<Finding> findings;
+};
+
+} // namespace chronomender
