@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace chronomender {
+
+/// Undo by inverse operations. Every undoable command registers its inverse; performing the inverse
+/// registers the forward form again, and so undo and redo are one thing. Main thread only.
+///
+/// Targets are held weakly: a record whose target is gone is passed over silently.
+///
+///     undo.beginGroup();
+///     undo.registerUndo(item, [](MySinglePic &pic) { … });
+///     undo.setActionName("dragInSingleMode");
+///     undo.endGroup();
+class UndoManager {
+public:
+    template <class Target, class Action>
+    void registerUndo(const std::shared_ptr<Target> &target, Action action) {
+        std::weak_ptr<Target> weak = target;
+        add({target.get(), [weak, action = std::move(action)] {
+                 if (auto alive = weak.lock())
+                     action(*alive);
+             }});
+    }
+
+    void beginGroup();
+    /// Closes the group; an empty group leaves no trace. Groups nest; the outermost is one undo step.
+    void endGroup();
+
+    bool canUndo() const { return !m_undo.empty(); }
+    bool canRedo() const { return !m_redo.empty(); }
+    void undo();
+    void redo();
+    bool isUndoing() const { return m_state == State::Undoing; }
+    bool isRedoing() const { return m_state == State::Redoing; }
+
+    /// Names the step being built, or the last one: a text key, shown in menus.
+    void setActionName(std::string key);
+    std::string undoActionName() const;
+    std::string redoActionName() const;
+
+    /// Forgets all records of a target (an item that left, a folder that was saved).
+    void removeAllActionsWithTarget(const void *target);
+    void removeAllActions();
+
+private:
+    struct Record {
+        const void *target;
+        std::function<void()> perform;
+    };
+    struct Group {
+        std::string actionName;
+        std::vector<Record> records;
+    };
+    enum class State { Idle, Undoing, Redoing };
+
+    void add(Record record);
+    void perform(std::vector<Group> &from, State state);
+    std::vector<Group> &currentStack();
+
+    std::vector<Group> m_undo, m_redo;
+    Group m_open;
+    int m_depth = 0;
+    State m_state = State::Idle;
+};
+
+/// Holds a group open for a scope.
+class UndoGroup {
+public:
+    explicit UndoGroup(UndoManager &manager) : m_manager(manager) { m_manager.beginGroup(); }
+    ~UndoGroup() { m_manager.endGroup(); }
+    UndoGroup(const UndoGroup &) = delete;
+    UndoGroup &operator=(const UndoGroup &) = delete;
+
+private:
+    UndoManager &m_manager;
+};
+
+} // namespace chronomender
