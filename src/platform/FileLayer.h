@@ -34,7 +34,8 @@ struct FileError {
     std::string text() const;
 };
 
-/// An open file. Closing happens with the object. All operations retry on EINTR. One thread at a time.
+/// An open file. Closing happens with the object. All operations retry on EINTR. One thread at a
+/// time.
 class OpenFile {
 public:
     virtual ~OpenFile() = default;
@@ -42,8 +43,8 @@ public:
     /// Reads up to `room.size()` bytes at `offset`; the count read (short only at the end of the
     /// file), or none on an error.
     virtual std::optional<std::size_t> pread(std::span<char> room, std::uint64_t offset) = 0;
-    /// Writes all of `bytes` at `offset`, or answers false. A write never lengthens the file: one that
-    /// would pass the present end is refused before it starts.
+    /// Writes all of `bytes` at `offset`, or answers false. A write never lengthens the file: one
+    /// that would pass the present end is refused before it starts.
     virtual bool pwrite(std::string_view bytes, std::uint64_t offset) = 0;
     virtual std::optional<FileAttributes> attributes() = 0;
     /// Sets the modification time and leaves the access time alone.
@@ -63,8 +64,8 @@ class FileLayer {
 public:
     virtual ~FileLayer() = default;
 
-    /// Opens an existing regular file; never creates, never truncates, never follows a symbolic link
-    /// in the last component. On failure returns none and sets `error` when given.
+    /// Opens an existing regular file; never creates, never truncates, never follows a symbolic
+    /// link in the last component. On failure returns none and sets `error` when given.
     virtual std::unique_ptr<OpenFile> open(const std::string &path, OpenMode mode,
                                            FileError *error = nullptr) = 0;
     /// Attributes of the path itself (a link is reported as a link); none when there is none.

@@ -16,7 +16,8 @@ namespace chronomender {
 class FolderReference {
 public:
     /// None when the path is no readable directory; `error` then tells why (ENOTDIR, EACCES, …).
-    static std::shared_ptr<FolderReference> open(const std::string &path, FileError *error = nullptr);
+    static std::shared_ptr<FolderReference> open(const std::string &path,
+                                                 FileError *error = nullptr);
     ~FolderReference();
     FolderReference(const FolderReference &) = delete;
     FolderReference &operator=(const FolderReference &) = delete;

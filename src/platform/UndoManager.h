@@ -19,7 +19,7 @@ namespace chronomender {
 ///     undo.endGroup();
 class UndoManager {
 public:
-    template <class Target, class Action>
+    template<class Target, class Action>
     void registerUndo(const std::shared_ptr<Target> &target, Action action) {
         std::weak_ptr<Target> weak = target;
         add({target.get(), [weak, action = std::move(action)] {
@@ -29,7 +29,8 @@ public:
     }
 
     void beginGroup();
-    /// Closes the group; an empty group leaves no trace. Groups nest; the outermost is one undo step.
+    /// Closes the group; an empty group leaves no trace. Groups nest; the outermost is one undo
+    /// step.
     void endGroup();
 
     bool canUndo() const { return !m_undo.empty(); }

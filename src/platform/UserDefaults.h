@@ -26,8 +26,8 @@ struct DefaultEntry {
 std::span<const DefaultEntry> defaultEntries();
 const DefaultEntry *findDefaultEntry(std::string_view key);
 
-/// The user's preferences: registered defaults, overlaid by the stored file, overlaid by the run's own
-/// values. Values are texts and are read as integers or booleans. Safe on all threads.
+/// The user's preferences: registered defaults, overlaid by the stored file, overlaid by the run's
+/// own values. Values are texts and are read as integers or booleans. Safe on all threads.
 class UserDefaults {
 public:
     enum class Outcome : std::uint8_t { Done, UnknownKey, ValueNotAllowed };

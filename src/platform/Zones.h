@@ -21,7 +21,8 @@ struct Zone {
 };
 
 /// The zone database and the system's zone. Shared by all threads: a const Zones is safe to use
-/// everywhere; `setSystemZone` and `refreshSystemZone` are for the main thread while no worker runs.
+/// everywhere; `setSystemZone` and `refreshSystemZone` are for the main thread while no worker
+/// runs.
 class Zones {
 public:
     /// Takes the system's zone from TZ, else the link /etc/localtime, else /etc/timezone, else UTC.
@@ -33,8 +34,8 @@ public:
     /// Reads the system's zone again; true when it changed.
     bool refreshSystemZone();
 
-    /// The zone of that exact name, accepted only from the list of the zone database or as ±HH:MM up
-    /// to ±18:00; none otherwise. An unknown name never falls back to anything.
+    /// The zone of that exact name, accepted only from the list of the zone database or as ±HH:MM
+    /// up to ±18:00; none otherwise. An unknown name never falls back to anything.
     std::optional<Zone> zoneWithName(std::string_view name) const;
     /// Names of the database, sorted.
     const std::vector<std::string> &zoneNames() const;

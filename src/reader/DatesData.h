@@ -12,15 +12,15 @@ namespace chronomender {
 
 /// Why a value was refused, or which damage was tolerated.
 enum class FindingReason : std::uint8_t {
-    NotAStamp,        ///< the bytes do not have the form of a date stamp
-    NotAZoneStamp,    ///< the bytes do not have the form of a zone stamp
-    ZoneOutOfRange,   ///< beyond ±18:00, or minutes above 59
-    NoRoom,           ///< read, but the field is too short to be written in place
-    OutsideFile,      ///< the file ends before the value does
-    NotAGpsDate,      ///< the bytes do not have the form of a GPS date
+    NotAStamp,         ///< the bytes do not have the form of a date stamp
+    NotAZoneStamp,     ///< the bytes do not have the form of a zone stamp
+    ZoneOutOfRange,    ///< beyond ±18:00, or minutes above 59
+    NoRoom,            ///< read, but the field is too short to be written in place
+    OutsideFile,       ///< the file ends before the value does
+    NotAGpsDate,       ///< the bytes do not have the form of a GPS date
     CoordinateMissing, ///< the GPS directory has some of the four coordinate tags only
-    DirectoryLoop,    ///< a directory is reached a second time
-    ScanLimit,        ///< no header within the part of the file that is searched
+    DirectoryLoop,     ///< a directory is reached a second time
+    ScanLimit,         ///< no header within the part of the file that is searched
 };
 
 /// Something the reader refused or tolerated; shown by `mend info`, never fatal.
@@ -66,7 +66,8 @@ struct DatesData {
     std::optional<std::uint64_t> tiffHeaderStartOffset;
     bool isHeaderIntel = false; ///< little-endian; meaningful with a header only
     std::optional<std::uint64_t> jpgXmpOffset, cr3XmpOffset, xmpHeaderStartOffset;
-    std::string make, model; ///< as in IFD0, up to the first zero byte, at most 128 bytes; "" if absent
+    std::string make,
+        model; ///< as in IFD0, up to the first zero byte, at most 128 bytes; "" if absent
     std::vector<Finding> findings;
 };
 

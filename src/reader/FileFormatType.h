@@ -40,10 +40,10 @@ constexpr bool isMovieFormat(FileFormatType type) {
 /// `extension` is without the dot, in any letter case. Example: "CR2" gives FileFormatRaw.
 FileFormatType fileFormatTypeForExtension(std::string_view extension);
 
-/// The format that the first bytes of a file prove, or none when they say nothing. Content wins over
-/// the extension wherever it answers. `extension` only decides between raw and TIFF behind a TIFF
-/// header. At least 32 bytes should be given where the file has them; a DNG version tag is looked
-/// for only in the bytes that are given.
+/// The format that the first bytes of a file prove, or none when they say nothing. Content wins
+/// over the extension wherever it answers. `extension` only decides between raw and TIFF behind a
+/// TIFF header. At least 32 bytes should be given where the file has them; a DNG version tag is
+/// looked for only in the bytes that are given.
 std::optional<FileFormatType> fileFormatTypeForContent(std::string_view firstBytes,
                                                        std::string_view extension);
 

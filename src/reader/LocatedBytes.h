@@ -13,8 +13,8 @@ using Bytes = std::string;
 /// overwrites, so `offset` is absolute in the file and `data` holds exactly the bytes found there.
 ///
 /// `room` is the length in bytes that the file declares for the field, starting at `offset`, and so
-/// the most that may ever be written. It can be smaller than `data`: such a value is read and shown,
-/// and never patched.
+/// the most that may ever be written. It can be smaller than `data`: such a value is read and
+/// shown, and never patched.
 struct LocatedBytes {
     std::uint64_t offset = 0;
     std::uint32_t room = 0;

@@ -13,14 +13,14 @@ namespace chronomender {
 
 /// Finds every date and location in one file, with the place of its bytes.
 ///
-/// It never trusts the file: each read is bounded by the file's length, counts and depths are capped,
-/// and what cannot be read is absent. It never writes, never throws, and reports by absence only; the
-/// list of findings says what was refused. One reader serves one file, on any thread.
+/// It never trusts the file: each read is bounded by the file's length, counts and depths are
+/// capped, and what cannot be read is absent. It never writes, never throws, and reports by absence
+/// only; the list of findings says what was refused. One reader serves one file, on any thread.
 ///
 ///     MySingleFolderDataReader reader;
 ///     if (reader.open("/photos/IMG_1.JPG")) {
-///         auto format = fileFormatTypeForContent(reader.firstBytes(), "JPG").value_or(FileFormatNone);
-///         DatesData dates = reader.readDates(format, "JPG");
+///         auto format = fileFormatTypeForContent(reader.firstBytes(),
+///         "JPG").value_or(FileFormatNone); DatesData dates = reader.readDates(format, "JPG");
 ///     }
 class MySingleFolderDataReader {
 public:
@@ -29,8 +29,8 @@ public:
     MySingleFolderDataReader(const MySingleFolderDataReader &) = delete;
     MySingleFolderDataReader &operator=(const MySingleFolderDataReader &) = delete;
 
-    /// Opens the file read-only; false when that fails (errno tells why). A directory, a device or a
-    /// pipe is refused.
+    /// Opens the file read-only; false when that fails (errno tells why). A directory, a device or
+    /// a pipe is refused.
     bool open(const std::string &path);
     /// Reads through a descriptor that somebody else owns and keeps open.
     bool borrow(int descriptor);
@@ -42,8 +42,8 @@ public:
     /// The first bytes of the file, as many as one block holds; empty for an empty file.
     std::string_view firstBytes();
 
-    /// Dates and location of the opened file. `extension` (without the dot, any case) matters for raw
-    /// files only. `startOffset` is a place where a TIFF header is known to stand, or 0.
+    /// Dates and location of the opened file. `extension` (without the dot, any case) matters for
+    /// raw files only. `startOffset` is a place where a TIFF header is known to stand, or 0.
     DatesData readDates(FileFormatType format, std::string_view extension,
                         std::uint64_t startOffset = 0);
 

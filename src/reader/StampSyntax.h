@@ -11,23 +11,23 @@
 namespace chronomender {
 
 // The written forms of dates inside files, by position and without any zone rules. Import, save and
-// the checks before a save all read stamps with these functions, so that what a save builds is judged
-// by the same reader that will meet it in the file.
+// the checks before a save all read stamps with these functions, so that what a save builds is
+// judged by the same reader that will meet it in the file.
 
-/// Wall-clock fields of a stamp, range-checked: year 1 to 9999, a real day of the proleptic Gregorian
-/// calendar, 00:00:00 to 23:59:59.
+/// Wall-clock fields of a stamp, range-checked: year 1 to 9999, a real day of the proleptic
+/// Gregorian calendar, 00:00:00 to 23:59:59.
 struct CivilFields {
     int year = 1, month = 1, day = 1, hour = 0, minute = 0, second = 0;
 
     bool operator==(const CivilFields &) const = default;
 };
 
-/// The 19 characters of a stamp held in 20 bytes, or none. A stamp of 18 characters followed by zero
-/// bytes gets "0" added, one of 17 gets "00" (Exif writers that cut the seconds short).
+/// The 19 characters of a stamp held in 20 bytes, or none. A stamp of 18 characters followed by
+/// zero bytes gets "0" added, one of 17 gets "00" (Exif writers that cut the seconds short).
 std::optional<std::string> exifTimeStampFromData(const Bytes &data);
 
-/// Reads "yyyy:MM:dd HH:mm:ss" by position: digits only, a blank accepted as a leading zero, byte 10
-/// a blank or a colon. None when the fields are not a date.
+/// Reads "yyyy:MM:dd HH:mm:ss" by position: digits only, a blank accepted as a leading zero, byte
+/// 10 a blank or a colon. None when the fields are not a date.
 std::optional<CivilFields> civilFromExifTimeStamp(std::string_view stamp);
 
 /// True when a stamp cannot be read as a date: all zeros with its colons in place, blanks, and any

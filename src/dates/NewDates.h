@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "MySingleFolder.h"
+#include "UserDefaults.h"
+
+#include <optional>
+
+namespace chronomender {
+
+/// The preferences of a date calculation, taken once so that a whole save uses one set of values
+/// and one moment of saving. Field names are the preference keys.
+struct DateChangeOptions {
+    int dateChangeEXIFEXIFDigiDate = 1;
+    int dateChangeEXIFEXIFDigiDateUnchangedOption = 1;
+    int dateChangeEXIFEXIFModDate = 1;
+    int dateChangeEXIFEXIFModDateUnchangedOption = 1;
+    int dateChangeEXIFChangeFinderWhenChangingEXIF = 1;
+    int dateChangeEXIFFinderCreaDate2 = 0;
+    int dateChangeEXIFFinderModDate = 0;
+    int dateChangeEXIFFinderModDateUnchangedOption = 1;
+    int dateChangeEXIFFinderModDateEXIFModDateOptions = 1;
+    int dateChangeEXIFFinderModDateEXIFModDateUnchangedOption = 1;
+    int dateChangeNoEXIFFinderModDate = 2;
+    int dateChangeNoEXIFFinderModDateUnchangedOption = 1;
+    int dateChangeNoEXIFButTIFFMetaModDate = 2;
+    int dateChangeNoEXIFButTIFFFinderModDate = 2;
+    int dateChangeNoEXIFButTIFFFinderModDateUnchangedOption = 1;
+    Date nowDate;
+    bool isSavingPhotosWithoutDateChangesEnabled = false;
+};
+
+/// Reads the fifteen keys from the preferences.
+DateChangeOptions cachedSaveOptions(const UserDefaults &defaults, Date now, bool savingAll);
+
+/// Live calculations feed displays; save calculations feed a save.
+enum class CalculationMode { Live, Save };
+
+struct NewDateContext {
+    CalculationMode mode = CalculationMode::Live;
+    DateChangeOptions options;
+    int dateComparisonThresold = 3; ///< seconds within which two dates count as the same
+    int dateChangeTypeAtLocationOnlyChanges = 1;
+    bool force = false;    ///< calculate even an unchanged item
+    OptionalDate dragDate; ///< the transient date of an interactive drag
+};
+
+/// Fills the five NEW slots (and `spDateTimeModified_tempFIX`, in save mode `isAffectedBySave`)
+/// from the item's one corrected date. An unchanged item ends with every NEW equal to its OLD.
+void calculateNewDates(MySinglePic &pic, const NewDateContext &context);
+
+/// Copies the OLD slots into the NEW ones.
+void afterCalculationSetNewToOld(MySinglePic &pic, CalculationMode mode);
+
+} // namespace chronomender

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "DatesData.h"
+#include "FileLayer.h"
+#include "MySingleFolder.h"
+#include "Zones.h"
+
+namespace chronomender {
+
+/// Fills the item's attributes, OLD slots, zone and GPS values from what the reader found.
+void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
+                                        const MySingleFolder &folder, const Zones &zones);
+/// Stores size and times of the file, takes the two file-date slots, and moves a type whose
+/// modification stamp is younger than the file. Runs after the stamps are in.
+void setImageAttributesFromFileAttributes(MySinglePic &pic, const FileAttributes &attributes,
+                                          int dateComparisonThresold);
+void validateMetaNormalization(MySinglePic &pic);
+void validateFilesystemNormalization(MySinglePic &pic);
+
+/// Coordinates from the recorded GPS values; a location at 0/0 or out of range is none.
+void setLocationFromData(MySinglePic &pic);
+
+/// Reads the item's file again: size, times, offsets, stamps (after a save by the external tool).
+/// False when the file cannot be read.
+bool refreshInternalData(MySinglePic &pic, const MySingleFolder &folder, const Zones &zones);
+
+} // namespace chronomender

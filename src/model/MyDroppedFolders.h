@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "MySingleFolder.h"
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace chronomender {
+
+/// The session's folders in order, and the pool of folder colours. Main thread.
+class MyDroppedFolders {
+public:
+    /// `colorCount`: how many colours the user's palette has.
+    explicit MyDroppedFolders(int colorCount = 12);
+
+    const std::vector<MySingleFolderPtr> &droppedFolders() const { return m_droppedFolders; }
+    /// Appends a folder and gives it its rank and its colour.
+    void append(const MySingleFolderPtr &folder);
+    /// Inserts a subfolder right behind its parent.
+    void insertBehind(const MySingleFolderPtr &folder, const MySingleFolderPtr &parent);
+    void remove(const std::vector<MySingleFolderPtr> &deleted);
+
+    /// The first folder with exactly this path; none otherwise.
+    MySingleFolderPtr folderWithPath(const std::string &path) const;
+    /// The folder that is the same directory (device and inode) under whatever path; none
+    /// otherwise.
+    MySingleFolderPtr folderWithIdentity(const FileAttributes &attributes) const;
+    static MediaTypesState mediaStateForFolders(const std::vector<MySingleFolderPtr> &folders);
+
+    std::uint16_t indexOfNextColor();
+    void recycleColorIndexFromFolder(MySingleFolder &folder);
+    void recycleColorIndexFromDeletedFolders(const std::vector<MySingleFolderPtr> &deleted);
+    void possiblyUseNewlyAddedColors();
+    bool canReDistributeColors() const;
+    void reDistributeColors();
+
+private:
+    int m_maxColorIndex;
+    std::int64_t m_nextRank = 0;
+    std::set<std::uint16_t> m_availableColorIndexes;
+    std::vector<MySingleFolderPtr> m_droppedFolders;
+};
+
+} // namespace chronomender

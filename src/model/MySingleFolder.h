@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "FolderAccess.h"
+#include "MySinglePic.h"
+#include "ZoneAssignments.h"
+
+#include <absl/time/time.h>
+
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace chronomender {
+
+/// 1 one shift for the whole folder, 2 a shift per item.
+enum class EditMode : std::int32_t { Together = 1, Single = 2 };
+
+/// The together shift as the date fields show it.
+struct DateModificationFields {
+    std::string dmDirection = "+";
+    std::string dmDays = "0", dmHours = "0", dmMinutes = "0", dmSeconds = "0";
+
+    bool operator==(const DateModificationFields &) const = default;
+};
+
+/// How empty date tags of the folder's files are to be read; kept once asked.
+struct PerFolderImportOptions {
+    enum class EmptyTags : std::uint8_t { LeaveAlone, FileDate, FixedDate };
+    EmptyTags withEmptyExifFixDate = EmptyTags::FileDate;
+    OptionalDate prefFixDateDate;                          ///< date of the first such file
+    absl::Duration step = absl::ZeroDuration();            ///< added from file to file
+    absl::Duration intervalStepper = absl::ZeroDuration(); ///< how far the sequence got
+};
+
+/// What the media of a folder are.
+enum class MediaTypesState : std::int64_t { Nothing = 0, Photos = 1, Movies = 2, Both = 3 };
+
+inline constexpr std::uint16_t noColorIndex = 65535;
+
+/// One folder on disk with its items, its shift and its zone choices. Changed on the main thread,
+/// except that an import run adds to `picsImportedAndTempStoredUntilAllReady`.
+class MySingleFolder : public std::enable_shared_from_this<MySingleFolder> {
+public:
+    static MySingleFolderPtr initWithFolder(std::string path,
+                                            std::shared_ptr<FolderReference> folder, EditMode mode);
+
+    std::string sfFolder; ///< display name
+    EditMode sfEditMode = EditMode::Together;
+    absl::Duration sfDateModificationsTimeInterval = absl::ZeroDuration();
+    DateModificationFields sfDateModifications;
+    bool hasChangedDirection = false;     ///< the shown direction is "-"
+    bool tempHasChangedDirection = false; ///< the direction just picked, also at a shift of 0
+    std::int64_t singlePicModeImages = 0; ///< items with a shift of their own
+    OptionalDate sfFrom, sfTill;
+    std::int64_t sfPics = -1; ///< number of items; -1 before the first import has ended
+    int fixedDates = 0, saveErrors = 0, renameErrors = 0;
+    std::optional<PerFolderImportOptions> perFolderImportOptions;
+    bool isEXIFIgnored = false;
+    bool isUnsavedDueToTZC = false;
+    bool isDisconnected = false;
+    std::uint16_t colorIndex = noColorIndex;
+    std::int64_t folderSortGeneral = 0; ///< rank in order of creation
+    int importDepth = 0;
+    MediaTypesState mediaTypesState = MediaTypesState::Nothing;
+    OptionalDate lastLocalChange; ///< proofs older than this are out of date
+    bool isQuicktimeMVHDTimezoneCorrectionEnabled = false;
+    int harmonizingRawJpgsType = -1; ///< -1 until the folder first has a raw with its JPEG
+    std::int64_t hasDSTJumperType = 0;
+    ZoneAssignments sourceTimeZones, targetTimeZones;
+
+    std::vector<MySinglePicPtr> sfPicDetails_fullArray; ///< masters in import order: the main list
+    std::vector<MySinglePicPtr> bundleDependentsRawAndJPG, bundleDependentsLivePhotos;
+    std::vector<MySinglePicPtr> picsImportedAndTempStoredUntilAllReady;
+
+    /// Where the folder is now; the last known path when it cannot be asked. Safe on all threads.
+    std::string sfFolderPath() const;
+    /// The open folder; none when it cannot be reached.
+    std::shared_ptr<FolderReference> reference() const;
+    /// The folder's path for work on its files, none when the folder cannot be reached.
+    std::optional<std::string> unlockedSecUrl() const;
+    bool isWriteableCheckingTrashed(bool refuseTrash) const;
+
+    std::int64_t count() const { return static_cast<std::int64_t>(sfPicDetails_fullArray.size()); }
+    std::int64_t fullMediaCount() const;
+    bool isUnsavedFolder() const;
+    bool isDateModified() const;
+    bool isTogetherDateUIModified() const;
+    std::int64_t unsavedImagesCount() const;
+
+private:
+    MySingleFolder() = default;
+    mutable std::mutex m_pathMutex;
+    std::shared_ptr<FolderReference> m_reference;
+    mutable std::string m_sfLastKnownFolderPath;
+};
+
+} // namespace chronomender

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "DateSlots.h"
+#include "FileFormatType.h"
+#include "SinglePicAttributes.h"
+#include "SpType.h"
+
+#include <absl/time/time.h>
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace chronomender {
+
+class MySingleFolder;
+class MySinglePic;
+using MySinglePicPtr = std::shared_ptr<MySinglePic>;
+using MySingleFolderPtr = std::shared_ptr<MySingleFolder>;
+
+/// The item's own shift against `spDateTimeOriginal`, used in single mode.
+struct Shift {
+    absl::Duration singlePicModification = absl::ZeroDuration();
+};
+
+/// Which slots were filled from XMP instead of the file's tags.
+struct XmpFlags {
+    bool isCreaXmp = false, isDigiXmp = false, isModiXmp = false;
+    bool hasModiXmp = false; ///< a TIFF tag exists and XMP holds a modification stamp as well
+};
+
+/// Zone and daylight-saving state. Bit sets are over `StampSlot`.
+struct ZoneFlags {
+    bool isUnsavedDueToTZC = false;
+    unsigned dstDivergenceState = 0;
+    unsigned dstAmbiguityAtImportState = 0;
+    unsigned dstAmbiguityAtExportState = 0;
+    int usesAltTimeAtAmbiguityReason = 0;
+    unsigned majorDateDifferenceType = 0; ///< bits 1, 2, 4
+    bool hasMinorDateDifference = false;
+};
+
+/// Membership in a group of two (raw and JPEG, still and movie).
+struct GroupLink {
+    MySinglePicPtr bundleDependentImage;          ///< the dependent half, on the master
+    std::weak_ptr<MySinglePic> bundleMasterImage; ///< the master, on the dependent half
+};
+
+struct LocationState {
+    std::optional<double> gpsLat, gpsLong; ///< degrees, south and west negative
+    OptionalDate spGpsUTCDate;             ///< GPS time of the picture
+    bool isGpsXmp = false;                 ///< that time came from XMP
+    bool hasLocationChange = false;        ///< the user or a track changed the location
+};
+
+/// Result of the last proof that the file is still what was read.
+enum class FileUnchangedState : std::uint8_t {
+    Unchanged = 0,
+    NotFound = 1,
+    CannotBeOpened = 2,
+    AttributesDiffer = 3,
+    BytesDiffer = 4, ///< recorded bytes differ, or a sidecar is missing
+    MustBeReadAgain = 5,
+};
+
+struct SaveState {
+    unsigned saveErrorType = 0; ///< bits: 1 location, 2 tag adding, 4 date
+    FileUnchangedState fileUnchangedState = FileUnchangedState::Unchanged;
+    OptionalDate lastCheckedAt;
+    bool isInvalidDueToChangesAfterImport = false;
+    bool isVerifiedDuringSave = false;
+    bool isWriteUnnecessaryDuringActiveSave = false;
+    bool didRefreshTimesAfterSave = false;
+    bool isAffectedBySave = false;
+    bool needsInternalDataRefresh = false;
+    bool shouldAddExifDateTimeTags = false;
+    bool didAddExifDateTimeTags = false;
+    unsigned tagAddType = 0;        ///< bits of StampSlot: the tags to add
+    unsigned normalizationType = 0; ///< bit 1: stamps out of order; bit 4: file dates out of order
+};
+
+struct ImportState {
+    int importedState = 8;
+    bool wasLocationDataSearched = false;
+    /// The empty-tag question was answered with "leave alone": shown, and never part of a save.
+    bool isLeftAlone = false;
+    bool isExtraHardLink = false; ///< the file has more than one name on disk
+};
+
+/// Positions in the visible lists; -1 before the first build and when not listed.
+struct ListPositions {
+    std::int64_t indexInSource_full = -1, indexInSource_filtered = -1;
+    std::int64_t indexInFolder_full = -1, indexInFolder_filtered = -1;
+};
+
+struct Marks {
+    bool isKeeper = false, isRejected = false;
+    std::int64_t marker = 0;
+};
+
+struct CameraInfo {
+    std::string make, model;
+    std::string pivMakeModel; ///< make and model for display; "" when unknown
+    std::int32_t pivImageWidth = 0, pivImageHeight = 0;
+};
+
+/// One media item: one file of one folder, what was read from it, and what the user corrected.
+///
+/// A plain record with questions about itself; it does no I/O and asks no selection. Created by
+/// import on a worker and published when finished; from then on changed on the main thread only.
+class MySinglePic : public std::enable_shared_from_this<MySinglePic> {
+public:
+    /// The only way an item comes to be at import. Takes a fresh `sessionUniqueId`.
+    static MySinglePicPtr create(std::string name, const MySingleFolderPtr &folder, SpType type,
+                                 Date date);
+
+    // ---- identity
+    std::string spName; ///< file name without directory, UTF-8
+    std::string spNameAtImport;
+    std::uint32_t sessionUniqueId = 0;
+    FileFormatType fileFormatType = FileFormatNone;
+    SpType spType = SpTypeUnsupported;
+    Date spDateTimeOriginal;         ///< the main date as read; shifts are deltas over it
+    Date spDateTimeModified_tempFIX; ///< corrected date of one calculation
+
+    // ---- state
+    SinglePicAttributes singlePicAttributes;
+    std::vector<Finding> findings; ///< what the reader refused or tolerated
+    DateSlots slots;
+    Shift shift;
+    XmpFlags xmp;
+    ZoneFlags zones;
+    GroupLink group;
+    LocationState location;
+    SaveState save;
+    ImportState importState;
+    ListPositions positions;
+    Marks marks;
+    CameraInfo camera;
+    std::vector<std::string> spSidecarExtensions; ///< as spelled on disk
+    bool isMovedToTrash = false;
+    bool isExtensionHidden = false;
+    bool isHeaderIntel = false;
+
+    // ---- questions
+    /// The folder the item stands in; none once it left.
+    MySingleFolderPtr spSingleRealFolder() const { return m_folder.lock(); }
+    void setFolder(const MySingleFolderPtr &folder) { m_folder = folder; }
+    std::string spPath() const;     ///< folder path joined with the name
+    std::string spBaseName() const; ///< name without extension
+    std::string extension() const;  ///< as spelled, without the dot; "" without one
+    const std::string &spSortNameCachedErrorOrReal() const { return spName; }
+    std::int64_t spCategory() const;                 ///< rank of the real folder
+    std::vector<std::string> spSidecarPaths() const; ///< paths of all sidecar files
+    std::string spXMPPath() const;                   ///< path of the XMP sidecar; "" without one
+
+    bool isMovie() const { return chronomender::isMovie(spType); }
+    bool isRaw() const { return fileFormatType == FileFormatRaw; }
+    bool hasLocation() const { return location.gpsLat.has_value(); }
+    bool hasCorrectableDate() const { return !hasNoCorrectableDate(spType); }
+    bool hasSaveErrorLocation() const { return save.saveErrorType & 1U; }
+    bool hasSaveErrorTagAdd() const { return save.saveErrorType & 2U; }
+    bool hasSaveErrorTime() const { return save.saveErrorType & 6U; }
+    bool needsNormalization() const { return save.normalizationType & 5U; }
+
+    /// The date the item shows now: a harmonised dependent photo answers with its master's.
+    Date spDateTimeModified() const;
+    /// Place on the timeline: the date of the item's `sortPic`.
+    Date spDateTimeModified_sort() const { return sortPic().spDateTimeModified(); }
+    const MySinglePic &sortPic() const { return *this; }
+    /// Main date plus the item's own shift; none when that shift is 0.
+    OptionalDate singlePicModeDate() const;
+
+    bool isThisHarmonizationChanged() const;
+    bool isGroupHarmonized() const;
+    bool isBundleMasterAffectedByHarmonization() const;
+    /// A save would have a date to write for this item.
+    bool isThisTimeUnsaved() const;
+    /// The same without stored save errors and without tags to be added.
+    bool isThisPureTimeUnsaved() const;
+    bool hasLocationChange() const { return location.hasLocationChange; }
+    bool isUnsavedOrGroupHarmonized() const;
+    bool isUnsavedIgnoringSaveError() const;
+
+    /// The source date is a wall-clock stamp without a zone.
+    bool isDataSourceLocal() const;
+    bool isDataSourceXmp() const;
+
+    /// The recorded stamp and zone stamp of a slot; none when the file has none.
+    const LocatedBytes *stamp(StampSlot slot) const;
+    const LocatedBytes *zoneStamp(StampSlot slot) const;
+    bool isSlotXmp(StampSlot slot) const;
+
+private:
+    MySinglePic() = default;
+    std::weak_ptr<MySingleFolder> m_folder;
+};
+
+/// "Canon EOS R5" of "Canon" and "Canon EOS R5"; "NIKON CORPORATION NIKON D5000" where the model
+/// does not repeat the make: trimmed make, blank, model, the make left out when the model begins
+/// with it.
+std::string completeMakerModelString(const std::string &make, const std::string &model);
+
+} // namespace chronomender

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Cancellation.h"
+#include "FileLayer.h"
+#include "MySingleFolder.h"
+#include "NewDates.h"
+#include "SaveErrors.h"
+#include "UndoManager.h"
+#include "UserDefaults.h"
+#include "Zones.h"
+
+#include <atomic>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace chronomender {
+
+/// What a run does. The numbers are those of the threads' arguments.
+enum class SaveProcessType : int {
+    Save = 1,
+    Rename = 2,
+    SaveThenRename = 3,
+    SaveThenRenameAll = 4
+};
+
+enum class SlotResult : std::uint8_t { Unchanged, WrittenInPlace, Refused, NotStorable };
+struct SlotOutcome {
+    std::string_view slot; ///< name of the slot, from `slotDescriptions`
+    OptionalDate oldDate, newDate;
+    SlotResult result = SlotResult::Unchanged;
+};
+
+enum class ItemResult : std::uint8_t {
+    Saved,
+    Unchanged,  ///< nothing to write
+    Refused,    ///< a problem stopped it before the save, or the proof failed
+    Failed,     ///< an error in the middle
+    NotReached, ///< the run was cancelled before it
+};
+
+/// What happened to one item, or in a dry run would happen.
+struct ItemOutcome {
+    MySinglePicPtr pic;
+    ItemResult result = ItemResult::Unchanged;
+    std::vector<SlotOutcome> slots;
+    std::vector<PreSaveFinding> problems;
+    std::vector<SaveError> errors;
+};
+
+/// Stage one's answer: items that would be saved, with every NEW slot filled, and the problems
+/// found. Nothing has been written.
+struct PreProcessResult {
+    std::vector<MySingleFolderPtr> folders;
+    std::vector<ItemOutcome> items;
+    std::vector<PreSaveFinding> problems;
+    bool wasCancelled = false;
+};
+
+struct SaveRunResult {
+    std::vector<ItemOutcome> items;
+    std::vector<SaveError> errors;
+    bool wasCancelled = false;
+};
+
+struct SaveRequest {
+    SaveProcessType type = SaveProcessType::Save;
+    MySingleFolderPtr onlyFolder; ///< none: every folder with unsaved items
+    bool savingAll = false;       ///< items without changes are written as well
+};
+
+struct SaveServices {
+    FileLayer &files;
+    const Zones &zones;
+    const UserDefaults &defaults;
+    UndoManager &undo;
+    const Cancellation &cancellation;
+    std::function<Date()> now;
+    std::function<void(std::size_t done, std::size_t total)>
+        progress; ///< any worker thread; may be empty
+};
+
+/// The two-stage save. Runs on one worker thread (files of different items may be proved and
+/// patched side by side); every change of the model happens on the main thread, which must be
+/// running its event loop, or is the calling thread.
+class SaveDriver {
+public:
+    SaveDriver(const std::vector<MySingleFolderPtr> &folders, SaveServices services);
+
+    bool isSavingInProgress() const;
+
+    /// Stage one: proves every file unchanged, calculates every new date, checks what was
+    /// calculated.
+    PreProcessResult preProcessThread(const SaveRequest &request);
+    /// Stage two: proves each file again and overwrites exactly the recorded values. Problems in
+    /// `preProcess` count as accepted.
+    SaveRunResult continueProcessThread(const SaveRequest &request,
+                                        const PreProcessResult &preProcess);
+
+    /// How many items lie between two progress updates.
+    static std::size_t piValueForCount(std::size_t count);
+
+private:
+    const std::vector<MySingleFolderPtr> &m_folders;
+    SaveServices m_services;
+    std::atomic<bool> m_isSavingInProgress{false};
+};
+
+} // namespace chronomender

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "DateModifications.h"
+#include "MySingleFolder.h"
+#include "UndoManager.h"
+
+namespace chronomender {
+
+enum class DateChangeOutcome { Done, NothingChanged, RefusedOutOfBounds };
+
+/// Gives the folder a new total shift, undoably. Refused as a whole when its first or last
+/// correctable item would leave the bounds of all dates. Main thread.
+DateChangeOutcome dragChangedDates(absl::Duration totalShift, MySingleFolder &folder,
+                                   UndoManager &undo);
+
+/// The same bounds for a shift of a single item, added to the one it has.
+DateChangeOutcome dragMovesValuesBy(absl::Duration difference,
+                                    const std::vector<MySinglePicPtr> &items, UndoManager &undo);
+
+} // namespace chronomender
