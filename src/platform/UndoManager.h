@@ -11,7 +11,8 @@ namespace chronomender {
 /// Undo by inverse operations. Every undoable command registers its inverse; performing the inverse
 /// registers the forward form again, and so undo and redo are one thing. Main thread only.
 ///
-/// Targets are held weakly: a record whose target is gone is passed over silently.
+/// Targets are held weakly: a record whose target is gone is passed over silently, and so is a step
+/// that has only such records. Neither undo nor redo does anything inside an open group.
 ///
 ///     undo.beginGroup();
 ///     undo.registerUndo(item, [](MySinglePic &pic) { … });
@@ -23,8 +24,10 @@ public:
     void registerUndo(const std::shared_ptr<Target> &target, Action action) {
         std::weak_ptr<Target> weak = target;
         add({target.get(), [weak, action = std::move(action)] {
-                 if (auto alive = weak.lock())
+                 const auto alive = weak.lock();
+                 if (alive)
                      action(*alive);
+                 return alive != nullptr;
              }});
     }
 
@@ -52,7 +55,7 @@ public:
 private:
     struct Record {
         const void *target;
-        std::function<void()> perform;
+        std::function<bool()> perform; ///< false when the target is gone
     };
     struct Group {
         std::string actionName;
@@ -66,6 +69,7 @@ private:
 
     std::vector<Group> m_undo, m_redo;
     Group m_open;
+    Group m_performing; ///< what is left of the step that is being undone or redone
     int m_depth = 0;
     State m_state = State::Idle;
 };

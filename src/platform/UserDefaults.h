@@ -30,7 +30,8 @@ const DefaultEntry *findDefaultEntry(std::string_view key);
 /// own values. Values are texts and are read as integers or booleans. Safe on all threads.
 class UserDefaults {
 public:
-    enum class Outcome : std::uint8_t { Done, UnknownKey, ValueNotAllowed };
+    /// NotStored: the value holds for this run, but the file could not be written.
+    enum class Outcome : std::uint8_t { Done, UnknownKey, ValueNotAllowed, NotStored };
 
     /// Registered defaults only; nothing is read from disk.
     UserDefaults() = default;
@@ -43,15 +44,15 @@ public:
 
     /// Sets a value for this run only.
     Outcome setForThisRun(std::string_view key, std::string_view value);
-    /// Sets and stores a value.
+    /// Sets and stores a value; it also takes the place of a value that was set for this run.
     Outcome set(std::string_view key, std::string_view value);
     /// Words for what a key accepts, for example "0, 1, 2, 3" or "0 to 3600".
     static std::string allowedText(const DefaultEntry &entry);
 
 private:
-    Outcome check(std::string_view key, std::string_view value) const;
-    std::optional<std::string> valueLocked(std::string_view key) const;
-    bool storeLocked() const;
+    static Outcome check(std::string_view key, std::string_view value);
+    std::optional<std::string_view> valueLocked(std::string_view key) const;
+    bool storeLocked(std::string_view key, std::string_view value) const;
 
     mutable std::mutex m_mutex;
     std::string m_storePath;

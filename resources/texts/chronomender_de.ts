@@ -1,0 +1,187 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name></name>
+    <message id="dragInSingleMode">
+        <translation>Aufnahmen zeitlich verschieben</translation>
+    </message>
+    <message id="errorPanelDefaultButton">
+        <translation>OK</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID0">
+        <translation>Das Foto wurde gespeichert, aber das Dateidatum ließ sich nicht setzen. Vielleicht lässt der Datenträger es nicht zu.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID1">
+        <translation>Die Begleitdatei konnte nicht gelesen werden. Ihre Zeiten und ihr Ort wurden nicht übernommen.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID10">
+        <translation>Die Datei ließ sich nicht öffnen. Prüfen Sie, ob Sie sie lesen dürfen.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID11">
+        <translation>Die Datei wurde seit dem Einlesen von einem anderen Programm geändert. Sie blieb, wie sie ist.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID12">
+        <translation>Die Datei wurde nicht gefunden. Vielleicht wurde sie verschoben, umbenannt oder gelöscht, oder der Datenträger ist nicht angeschlossen.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID15">
+        <translation>Die Begleitdatei gibt es nicht mehr. Nur das Foto selbst wurde berücksichtigt.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID16">
+        <translation>Die Begleitdatei passt zu mehreren Fotos desselben Namens; es wurde keines ausgewählt.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID17">
+        <translation>Es gibt kein Foto und keinen Film, zu dem die Begleitdatei gehört.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID18">
+        <translation>Der Name beginnt mit einem Punkt; die Dateiverwaltung blendet die Datei deshalb aus.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID2">
+        <translation>Die Datei ließ sich nicht zum Schreiben öffnen. Prüfen Sie, ob sie schreibgeschützt ist oder von einem anderen Programm benutzt wird.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID3">
+        <translation>Die Datei wurde seit dem Einlesen von einem anderen Programm geändert. Sie wurde nicht angerührt. Lesen Sie ihren Ordner neu ein, um mit ihrem jetzigen Zustand zu arbeiten.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID4">
+        <translation>Die Datei oder ihr Ordner war nicht erreichbar. Vielleicht wurde sie verschoben oder gelöscht, oder der Datenträger ist nicht angeschlossen.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID6">
+        <translation>Die XMP-Angaben in der Datei ließen sich nicht an die neuen Zeiten angleichen.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID7">
+        <translation>Die Begleitdatei ließ sich nicht zum Schreiben öffnen. Prüfen Sie, ob sie schreibgeschützt ist.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_bundleAddOn">
+        <translation>und die zugehörige Datei</translation>
+    </message>
+    <message id="errorPanelInformativeText_back_multi">
+        <translation>Ihre Korrekturen bleiben erhalten; Sie können die Ursachen beheben und erneut speichern.</translation>
+    </message>
+    <message id="errorPanelInformativeText_back_single">
+        <translation>Ihre Korrektur bleibt erhalten; Sie können die Ursache beheben und erneut speichern.</translation>
+    </message>
+    <message id="errorPanelInformativeText_front_multi">
+        <translation>Bei %1 Dateien gab es Probleme:</translation>
+    </message>
+    <message id="errorPanelInformativeText_front_single">
+        <translation>Bei einer Datei gab es ein Problem:</translation>
+    </message>
+    <message id="errorPanelMessageText">
+        <translation>Es konnte nicht alles ausgeführt werden.</translation>
+    </message>
+    <message id="preSaveSummary_error_01_ambiguousStamp">
+        <translation>Die neue Zeit liegt in der Stunde, die durch die Zeitumstellung doppelt vorkommt oder ausfällt</translation>
+    </message>
+    <message id="preSaveSummary_error_01_ambiguousStamp_details">
+        <translation>Ein Foto speichert die Zeit einer Wanduhr. Wird die Uhr zurückgestellt, gibt es eine Stunde zweimal; wird sie vorgestellt, fehlt eine Stunde. Eine Zeit darin sagt nicht sicher, wann das Bild entstand. Wenn Sie trotzdem speichern, kann die gespeicherte Zeit um eine Stunde anders gelesen werden. Das lässt sich vermeiden, indem Sie eine Zielzeitzone ohne Zeitumstellung an diesem Tag wählen, zum Beispiel UTC.</translation>
+    </message>
+    <message id="preSaveSummary_error_02_pre1904">
+        <translation>Das neue Datum eines Films liegt vor 1904</translation>
+    </message>
+    <message id="preSaveSummary_error_02_pre1904_details">
+        <translation>Ein Film zählt seine Zeit ab dem Beginn des Jahres 1904 und kann kein früheres Datum aufnehmen. Wenn Sie trotzdem speichern, wird dieses Datum des Films nicht geschrieben. Prüfen Sie die Zeitverschiebung des Ordners und des Films.</translation>
+    </message>
+    <message id="preSaveSummary_error_03_pre1970">
+        <translation>Ein neues Dateidatum liegt vor 1970</translation>
+    </message>
+    <message id="preSaveSummary_error_03_pre1970_details">
+        <translation>Manche Festplatten und Speicherkarten können kein Dateidatum vor 1970 aufnehmen, und manche Programme zeigen es falsch an. Das Datum im Foto selbst ist nicht betroffen. Das Speichern ist gefahrlos; nur das Datum, das die Dateiverwaltung zeigt, kann verloren gehen.</translation>
+    </message>
+    <message id="preSaveSummary_error_04_livePhotoDriftingApart">
+        <translation>Foto und Film eines Live-Fotos würden auseinanderlaufen</translation>
+    </message>
+    <message id="preSaveSummary_error_04_livePhotoDriftingApart_details">
+        <translation>Beide gehören zusammen, weil sie im selben Augenblick entstanden sind. Mit den neuen Zeiten würden sie nicht mehr als Paar erkannt. Geben Sie beiden dieselbe Zeitverschiebung und dieselbe Zeitzone, oder speichern Sie trotzdem und verlieren das Paar.</translation>
+    </message>
+    <message id="preSaveSummary_error_05_notFound">
+        <translation>Die Datei ist nicht mehr an ihrem Ort</translation>
+    </message>
+    <message id="preSaveSummary_error_05_notFound_details">
+        <translation>Sie wurde nach dem Einlesen verschoben, umbenannt oder gelöscht. Sie wird beim Speichern ausgelassen und behält ihre Korrektur; Sie können sie zurücklegen und erneut speichern.</translation>
+    </message>
+    <message id="preSaveSummary_error_06_modifiedAfterImport">
+        <translation>Die Datei wurde von einem anderen Programm geändert</translation>
+    </message>
+    <message id="preSaveSummary_error_06_modifiedAfterImport_details">
+        <translation>Seit dem Einlesen stimmen ihre Größe, ihr Dateidatum oder die gespeicherten Zeiten nicht mehr überein. In sie zu schreiben könnte sie beschädigen; sie wird deshalb ausgelassen und nicht angerührt. Lesen Sie den Ordner neu ein, um mit der Datei in ihrem jetzigen Zustand zu arbeiten.</translation>
+    </message>
+    <message id="preSaveSummary_error_07_notFound">
+        <translation>Eine von zwei zusammengehörigen Dateien ist nicht mehr an ihrem Ort</translation>
+    </message>
+    <message id="preSaveSummary_error_07_notFound_details">
+        <translation>Eine Hälfte des Paares wurde nach dem Einlesen verschoben, umbenannt oder gelöscht. Das Paar wird beim Speichern ausgelassen und behält seine Korrektur; Sie können die Datei zurücklegen und erneut speichern.</translation>
+    </message>
+    <message id="preSaveSummary_error_08_modifiedAfterImport">
+        <translation>Eine von zwei zusammengehörigen Dateien wurde von einem anderen Programm geändert</translation>
+    </message>
+    <message id="preSaveSummary_error_08_modifiedAfterImport_details">
+        <translation>Seit dem Einlesen ist eine Hälfte des Paares nicht mehr dieselbe. In sie zu schreiben könnte sie beschädigen; das Paar wird deshalb ausgelassen und nicht angerührt. Lesen Sie den Ordner neu ein, um mit den Dateien in ihrem jetzigen Zustand zu arbeiten.</translation>
+    </message>
+    <message id="preSaveSummary_error_10_disconnected">
+        <translation>Ein Ordner ist nicht erreichbar</translation>
+    </message>
+    <message id="preSaveSummary_error_10_disconnected_details">
+        <translation>Die Festplatte oder Speicherkarte ist nicht angeschlossen, oder der Ordner wurde gelöscht. Seine Dateien werden beim Speichern ausgelassen und behalten ihre Korrekturen. Schließen Sie den Datenträger wieder an und speichern Sie noch einmal.</translation>
+    </message>
+    <message id="preSaveSummary_error_11_oldVersion_file">
+        <translation>Die Datei wurde von einer älteren Version dieses Programms eingelesen</translation>
+    </message>
+    <message id="preSaveSummary_error_11_oldVersion_file_details">
+        <translation>Was über sie bekannt ist, reicht nicht aus, um gefahrlos in sie zu schreiben. Sie wird beim Speichern ausgelassen. Lesen Sie ihren Ordner neu ein und speichern Sie dann.</translation>
+    </message>
+    <message id="preSaveSummary_error_11_oldVersion_group">
+        <translation>Zwei zusammengehörige Dateien wurden von einer älteren Version dieses Programms eingelesen</translation>
+    </message>
+    <message id="preSaveSummary_error_11_oldVersion_group_details">
+        <translation>Was über das Paar bekannt ist, reicht nicht aus, um gefahrlos hineinzuschreiben. Es wird beim Speichern ausgelassen. Lesen Sie seinen Ordner neu ein und speichern Sie dann.</translation>
+    </message>
+    <message id="preSaveSummary_error_12_zoneStampRewritten">
+        <translation>Die im Foto gespeicherte Zeitzone würde ersetzt</translation>
+    </message>
+    <message id="preSaveSummary_error_12_zoneStampRewritten_details">
+        <translation>Das Foto sagt, in welcher Zeitzone seine Uhr ging. Sie haben keine Zielzeitzone gewählt; beim Speichern würden daher die Uhrzeit und der Zeitunterschied der Zone dieses Rechners geschrieben. Der Augenblick bleibt derselbe, aber die angezeigte Uhrzeit ändert sich. Um die Zone jedes Fotos zu behalten, wählen Sie als Ziel „own“; um die Zonen absichtlich zu ändern, speichern Sie trotzdem.</translation>
+    </message>
+    <message id="preSaveSummary_error_13_unreadableStamp">
+        <translation>Eine Zeitangabe im Foto ist nicht lesbar und würde überschrieben</translation>
+    </message>
+    <message id="preSaveSummary_error_13_unreadableStamp_details">
+        <translation>Das Feld ist nicht leer, aber was darin steht, ist keine Zeitangabe. Vielleicht bewahrt ein anderes Programm dort etwas Eigenes auf. Wenn Sie trotzdem speichern, wird es durch die korrigierte Zeit ersetzt und lässt sich nicht zurückholen. Lassen Sie diese Dateien sonst beim Speichern aus.</translation>
+    </message>
+    <message id="preSaveSummary_error_groupDetail_modifiedAfterImport">
+        <translation>seit dem Einlesen geändert</translation>
+    </message>
+    <message id="preSaveSummary_error_groupDetail_notFound">
+        <translation>nicht gefunden</translation>
+    </message>
+    <message id="preSaveSummary_header_multi">
+        <translation>Vor dem Speichern wurden %1 Probleme gefunden.</translation>
+    </message>
+    <message id="preSaveSummary_header_single">
+        <translation>Vor dem Speichern wurde ein Problem gefunden.</translation>
+    </message>
+    <message id="preSaveSummary_header_subline">
+        <translation>Es wurde noch nichts geschrieben. Lesen Sie, was mit den folgenden Dateien geschähe, und entscheiden Sie dann, ob gespeichert wird.</translation>
+    </message>
+    <message id="preSaveSummary_submit_save">
+        <translation>Speichern</translation>
+    </message>
+    <message id="preSaveSummary_submit_save&amp;renamne">
+        <translation>Speichern und umbenennen</translation>
+    </message>
+    <message id="resetAllInFolderMode">
+        <translation>Zeitverschiebung des Ordners zurücknehmen</translation>
+    </message>
+    <message id="resetAllInSingleMode">
+        <translation>Alle einzelnen Zeitverschiebungen zurücknehmen</translation>
+    </message>
+    <message id="undoDateChangeText">
+        <translation>Ordner zeitlich verschieben</translation>
+    </message>
+    <message id="workPanelPreSave">
+        <translation>Dateien werden vor dem Speichern geprüft…</translation>
+    </message>
+    <message id="workPanelSave">
+        <translation>Die korrigierten Zeiten werden gespeichert…</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SystemFiles.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
+
+namespace chronomender::systemFiles {
+namespace {
+
+constexpr unsigned wantedFields =
+    STATX_TYPE | STATX_MODE | STATX_NLINK | STATX_INO | STATX_SIZE | STATX_MTIME | STATX_BTIME;
+
+Date dateOf(const statx_timestamp &stamp) {
+    return absl::FromUnixSeconds(stamp.tv_sec) + absl::Nanoseconds(stamp.tv_nsec);
+}
+
+FileAttributes::Kind kindOf(unsigned mode) {
+    switch (mode & S_IFMT) {
+    case S_IFREG:
+        return FileAttributes::Kind::Regular;
+    case S_IFDIR:
+        return FileAttributes::Kind::Directory;
+    case S_IFLNK:
+        return FileAttributes::Kind::SymbolicLink;
+    default:
+        return FileAttributes::Kind::Other;
+    }
+}
+
+std::optional<FileAttributes> queried(int directory, const char *name, int flags) {
+    struct statx found;
+    if (retryInterrupted([&] { return statx(directory, name, flags, wantedFields, &found); }) != 0)
+        return std::nullopt;
+    FileAttributes attributes;
+    attributes.size = found.stx_size;
+    attributes.modificationDate = dateOf(found.stx_mtime);
+    if ((found.stx_mask & STATX_BTIME) != 0)
+        attributes.birthDate = dateOf(found.stx_btime);
+    attributes.device = makedev(found.stx_dev_major, found.stx_dev_minor);
+    attributes.inode = found.stx_ino;
+    attributes.hardLinks = found.stx_nlink;
+    attributes.kind = kindOf(found.stx_mode);
+    return attributes;
+}
+
+} // namespace
+
+std::optional<FileAttributes> attributesOf(int descriptor) {
+    return queried(descriptor, "", AT_EMPTY_PATH);
+}
+
+std::optional<FileAttributes> attributesOf(int directory, const char *name) {
+    return queried(directory, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT);
+}
+
+bool renameByLink(const char *from, const char *to) {
+    if (link(from, to) != 0) {
+        if (errno == EPERM || errno == EMLINK || errno == ENOSYS)
+            errno = EOPNOTSUPP;
+        return false;
+    }
+    if (unlink(from) == 0)
+        return true;
+    const int reason = errno;
+    unlink(to); // both names are the same file: taking the new one back loses nothing
+    errno = reason;
+    return false;
+}
+
+} // namespace chronomender::systemFiles

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "FileLayer.h"
+
+#include <cerrno>
+
+namespace chronomender::systemFiles {
+
+/// Attributes of an open descriptor, exact to the nanosecond; none on an error (errno is set).
+std::optional<FileAttributes> attributesOf(int descriptor);
+/// Attributes of a name inside the folder `directory` (or AT_FDCWD); a link is not followed.
+std::optional<FileAttributes> attributesOf(int directory, const char *name);
+
+/// Renames by a second hard link, for file systems that cannot rename without replacing: making the
+/// link fails with EEXIST where the new name is taken. Where there are no hard links either,
+/// nothing is renamed and the error is EOPNOTSUPP.
+bool renameByLink(const char *from, const char *to);
+
+/// Repeats a system call that a signal interrupted.
+template<class Call>
+auto retryInterrupted(Call call) {
+    for (;;) {
+        const auto result = call();
+        if (result != -1 || errno != EINTR)
+            return result;
+    }
+}
+
+} // namespace chronomender::systemFiles
