@@ -55,7 +55,9 @@ struct GpsLocation {
 };
 
 /// What one read of a still image found. Everything is optional, and nothing found is a valid
-/// result. Stamps hold 20 bytes: the 19 of the file and a zero byte; zone stamps hold 7.
+/// result. Stamps hold 20 bytes: the 19 of the file and a zero byte. A stamp of 17 or 18 characters
+/// whose field ends before byte 19 holds exactly that field, without a zero byte added. Zone stamps
+/// hold 7 bytes, or 6 where the field (or the file) has no more; only the first six are text.
 /// A stamp of zeros or blanks is reported like any other: it marks an empty tag.
 struct DatesData {
     std::optional<LocatedBytes> exifDateTimeOriginal, exifDateTimeDigitized, tiffDateTime;
