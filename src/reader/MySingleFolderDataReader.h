@@ -32,14 +32,16 @@ public:
     /// Opens the file read-only; false when that fails (errno tells why). A directory, a device or
     /// a pipe is refused.
     bool open(const std::string &path);
-    /// Reads through a descriptor that somebody else owns and keeps open.
+    /// Reads through a descriptor that somebody else owns and keeps open; refuses what `open` does.
+    /// The descriptor's read position is not used, but may be moved in a sparse file.
     bool borrow(int descriptor);
     void closeFile();
 
     /// The open descriptor, or -1.
     int descriptor() const;
     std::uint64_t fileLength() const;
-    /// The first bytes of the file, as many as one block holds; empty for an empty file.
+    /// The first bytes of the file, at most 16 KiB; empty for an empty file. The view holds until
+    /// the file is closed.
     std::string_view firstBytes();
 
     /// Dates and location of the opened file. `extension` (without the dot, any case) matters for

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ByteOrder.h"
+#include "FileWindow.h"
+
+#include <algorithm>
+
+namespace chronomender {
+
+/// A part of a file, addressed from its own beginning. A range made inside another never reaches
+/// beyond it, and each range knows where in the file it stands. Cheap to copy; the window is not
+/// owned and must outlive it.
+///
+///     ByteRange file(window);                            // the whole file
+///     auto segment = file.from(20)->upTo(300);           // file bytes 20 to 319
+///     segment.absolute(4);                               // 24
+class ByteRange {
+public:
+    explicit ByteRange(FileWindow &window) : m_window(&window), m_length(window.length()) {}
+
+    std::uint64_t length() const { return m_length; }
+    std::uint64_t absolute(std::uint64_t offset) const { return m_begin + offset; }
+
+    /// What lies behind `offset`, with the same end; none when that is outside.
+    std::optional<ByteRange> from(std::uint64_t offset) const {
+        if (offset > m_length)
+            return std::nullopt;
+        ByteRange rest = *this;
+        rest.m_begin += offset;
+        rest.m_length -= offset;
+        return rest;
+    }
+
+    /// The first `length` bytes of this range, or all of it when it is shorter.
+    ByteRange upTo(std::uint64_t length) const {
+        ByteRange part = *this;
+        part.m_length = std::min(m_length, length);
+        return part;
+    }
+
+    /// Bytes still there behind `offset`; 0 outside.
+    std::uint64_t left(std::uint64_t offset) const {
+        return offset > m_length ? 0 : m_length - offset;
+    }
+
+    /// Exactly `length` bytes at `offset`, or none. The view holds until the next read.
+    std::optional<std::string_view> bytes(std::uint64_t offset, std::size_t length) const {
+        if (left(offset) < length)
+            return std::nullopt;
+        return m_window->bytes(m_begin + offset, length);
+    }
+
+private:
+    FileWindow *m_window;
+    std::uint64_t m_begin = 0;
+    std::uint64_t m_length = 0;
+};
+
+} // namespace chronomender

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "FileWindow.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <unistd.h>
+
+namespace chronomender {
+
+namespace {
+
+constexpr std::uint64_t kPage = 4096;
+
+bool holds(std::uint64_t heldOffset, std::size_t heldLength, std::uint64_t offset,
+           std::size_t length) {
+    return offset >= heldOffset && length <= heldLength &&
+           offset - heldOffset <= heldLength - length;
+}
+
+} // namespace
+
+FileWindow::FileWindow(int descriptor, std::uint64_t length, bool hasHoles)
+    : m_descriptor(descriptor), m_length(length), m_hasHoles(hasHoles) {}
+
+std::size_t FileWindow::readInto(char *target, std::uint64_t offset, std::size_t length) const {
+    std::size_t got = 0;
+    while (got < length) {
+        const ssize_t count =
+            ::pread(m_descriptor, target + got, length - got, static_cast<off_t>(offset + got));
+        if (count > 0)
+            got += static_cast<std::size_t>(count);
+        else if (count == 0 || errno != EINTR)
+            break;
+    }
+    return got;
+}
+
+std::string_view FileWindow::head() {
+    if (!m_hasHead) {
+        m_hasHead = true;
+        m_headBuffer = std::make_unique_for_overwrite<char[]>(kBlock);
+        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(kBlock, m_length));
+        m_headLength = readInto(m_headBuffer.get(), 0, wanted);
+    }
+    return {m_headBuffer.get(), m_headLength};
+}
+
+void FileWindow::fetch(std::uint64_t offset, std::size_t length) {
+    if (m_capacity < length) {
+        m_buffer = std::make_unique_for_overwrite<char[]>(length);
+        m_capacity = length;
+    }
+    const auto wanted =
+        static_cast<std::size_t>(std::min<std::uint64_t>(length, m_length - offset));
+    m_heldOffset = offset;
+    m_heldLength = readInto(m_buffer.get(), offset, wanted);
+}
+
+std::optional<std::string_view> FileWindow::bytes(std::uint64_t offset, std::size_t length) {
+    if (length > kLongestView || length > m_length || offset > m_length - length)
+        return std::nullopt;
+    const std::string_view first = head();
+    if (holds(0, first.size(), offset, length))
+        return first.substr(static_cast<std::size_t>(offset), length);
+    if (!holds(m_heldOffset, m_heldLength, offset, length))
+        fetch(offset - offset % kPage, kBlock);
+    if (!holds(m_heldOffset, m_heldLength, offset, length))
+        return std::nullopt;
+    return std::string_view(m_buffer.get() + (offset - m_heldOffset), length);
+}
+
+std::string_view FileWindow::block(std::uint64_t offset) {
+    if (offset >= m_length)
+        return {};
+    fetch(offset, kScanBlock);
+    return {m_buffer.get(), m_heldLength};
+}
+
+std::uint64_t FileWindow::nextData(std::uint64_t offset) {
+    if (!m_hasHoles || offset >= m_length)
+        return offset;
+    const off_t place = ::lseek(m_descriptor, static_cast<off_t>(offset), SEEK_DATA);
+    if (place >= 0)
+        return static_cast<std::uint64_t>(place);
+    return errno == ENXIO ? m_length : offset;
+}
+
+} // namespace chronomender

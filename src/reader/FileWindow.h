@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+namespace chronomender {
+
+/// A file seen through small blocks of memory. Every look is bounded by the length that the file
+/// had when the window was made; a file that has shrunk since answers none, like any place outside.
+///
+/// The first block stays in memory, one more follows the reader around. So a view from `head()`
+/// holds as long as the window, one from `bytes()` or `block()` until the next call of either. The
+/// descriptor is the caller's; its read position is moved by `nextData()` only.
+class FileWindow {
+public:
+    static constexpr std::size_t kBlock = 16 * 1024;      ///< bytes fetched at once for values
+    static constexpr std::size_t kScanBlock = 128 * 1024; ///< bytes fetched at once for scans
+    static constexpr std::size_t kLongestView = 4096;     ///< the most that `bytes()` gives
+
+    FileWindow(int descriptor, std::uint64_t length, bool hasHoles);
+
+    std::uint64_t length() const { return m_length; }
+
+    /// The first `kBlock` bytes of the file, fewer if it is shorter.
+    std::string_view head();
+
+    /// Exactly `length` bytes at `offset`; none unless all of them lie in the file, and none for
+    /// more than `kLongestView`.
+    std::optional<std::string_view> bytes(std::uint64_t offset, std::size_t length);
+
+    /// As many bytes at `offset` as are there, at most `kScanBlock`; empty at the end of the file.
+    std::string_view block(std::uint64_t offset);
+
+    /// The first place at or behind `offset` that is not in a hole of a sparse file; the file's
+    /// length when only holes follow.
+    std::uint64_t nextData(std::uint64_t offset);
+
+private:
+    void fetch(std::uint64_t offset, std::size_t length);
+    std::size_t readInto(char *target, std::uint64_t offset, std::size_t length) const;
+
+    int m_descriptor;
+    std::uint64_t m_length;
+    bool m_hasHoles;
+    bool m_hasHead = false;
+    std::unique_ptr<char[]> m_headBuffer, m_buffer;
+    std::size_t m_headLength = 0;
+    std::size_t m_capacity = 0;
+    std::size_t m_heldLength = 0;
+    std::uint64_t m_heldOffset = 0;
+};
+
+} // namespace chronomender
