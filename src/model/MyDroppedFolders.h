@@ -29,14 +29,25 @@ public:
     MySingleFolderPtr folderWithIdentity(const FileAttributes &attributes) const;
     static MediaTypesState mediaStateForFolders(const std::vector<MySingleFolderPtr> &folders);
 
+    /// The lowest free colour, taken out of the pool; `noColorIndex` when none is left.
     std::uint16_t indexOfNextColor();
+    /// Takes a folder's colour back while the folder still stands in the list. With more folders
+    /// than colours it passes straight to the first folder without one.
     void recycleColorIndexFromFolder(MySingleFolder &folder);
+    /// Takes the colours of folders back that left the list, and gives them on in list order.
     void recycleColorIndexFromDeletedFolders(const std::vector<MySingleFolderPtr> &deleted);
+    /// The user's palette changed its size; new colours join the pool.
+    void setColorCount(int colorCount);
     void possiblyUseNewlyAddedColors();
+    /// A folder's colour differs from its place in the list.
     bool canReDistributeColors() const;
+    /// Gives all colours out anew, in list order.
     void reDistributeColors();
 
 private:
+    bool hasColor(const MySingleFolder &folder) const;
+    void giveColorsToFoldersWithoutOne();
+
     int m_maxColorIndex;
     std::int64_t m_nextRank = 0;
     std::set<std::uint16_t> m_availableColorIndexes;

@@ -16,6 +16,8 @@
 
 namespace chronomender {
 
+class UserDefaults;
+
 /// 1 one shift for the whole folder, 2 a shift per item.
 enum class EditMode : std::int32_t { Together = 1, Single = 2 };
 
@@ -38,6 +40,10 @@ struct PerFolderImportOptions {
 
 /// What the media of a folder are.
 enum class MediaTypesState : std::int64_t { Nothing = 0, Photos = 1, Movies = 2, Both = 3 };
+/// What the media of two folders are together.
+constexpr MediaTypesState operator|(MediaTypesState a, MediaTypesState b) {
+    return static_cast<MediaTypesState>(static_cast<int>(a) | static_cast<int>(b));
+}
 
 inline constexpr std::uint16_t noColorIndex = 65535;
 
@@ -82,14 +88,22 @@ public:
     std::shared_ptr<FolderReference> reference() const;
     /// The folder's path for work on its files, none when the folder cannot be reached.
     std::optional<std::string> unlockedSecUrl() const;
+    /// With `refuseTrash`, a folder that lies in a trash counts as not writable.
     bool isWriteableCheckingTrashed(bool refuseTrash) const;
 
     std::int64_t count() const { return static_cast<std::int64_t>(sfPicDetails_fullArray.size()); }
     std::int64_t fullMediaCount() const;
     bool isUnsavedFolder() const;
+    /// A shift is set in the present mode.
     bool isDateModified() const;
+    /// The date fields differ from their start, be it only by a shown "-" at a shift of 0.
     bool isTogetherDateUIModified() const;
     std::int64_t unsavedImagesCount() const;
+    /// What the present items are; the caller stores it in `mediaTypesState`.
+    MediaTypesState presentMediaTypesState() const;
+    /// The folder's kind of harmonising. Without a raw that has its JPEG it is 0 and stays open;
+    /// the first answer with one takes the user's default and keeps it.
+    int takeHarmonizingRawJpgsType(const UserDefaults &defaults);
 
 private:
     MySingleFolder() = default;

@@ -157,6 +157,7 @@ public:
     std::int64_t spCategory() const;                 ///< rank of the real folder
     std::vector<std::string> spSidecarPaths() const; ///< paths of all sidecar files
     std::string spXMPPath() const;                   ///< path of the XMP sidecar; "" without one
+    bool hasXMPSidecar() const;                      ///< the same question without asking for paths
 
     bool isMovie() const { return chronomender::isMovie(spType); }
     bool isRaw() const { return fileFormatType == FileFormatRaw; }
@@ -167,6 +168,9 @@ public:
     bool hasSaveErrorTime() const { return save.saveErrorType & 6U; }
     bool needsNormalization() const { return save.normalizationType & 5U; }
 
+    /// The master of a dependent; none for every other item.
+    MySinglePicPtr bundleMasterImage() const;
+
     /// The date the item shows now: a harmonised dependent photo answers with its master's.
     Date spDateTimeModified() const;
     /// Place on the timeline: the date of the item's `sortPic`.
@@ -175,15 +179,26 @@ public:
     /// Main date plus the item's own shift; none when that shift is 0.
     OptionalDate singlePicModeDate() const;
 
+    /// What the folder's mode adds to the item's main date: its own shift or the folder's.
+    absl::Duration presentShift() const;
+
+    /// The item shows its master's date instead of its own.
     bool isThisHarmonizationChanged() const;
+    /// Both sides of a raw with its JPEG: their main dates lie apart, and the folder makes them
+    /// one.
     bool isGroupHarmonized() const;
+    /// The item is a master whose own date harmonising changes. Today the master's date always
+    /// leads.
     bool isBundleMasterAffectedByHarmonization() const;
-    /// A save would have a date to write for this item.
+    /// A save would have a date to write for this item. Items left alone, and items without a
+    /// correctable date, never count as unsaved.
     bool isThisTimeUnsaved() const;
     /// The same without stored save errors and without tags to be added.
     bool isThisPureTimeUnsaved() const;
     bool hasLocationChange() const { return location.hasLocationChange; }
+    /// A date, a location, a tag or a stored error waits for a save on either side of the group.
     bool isUnsavedOrGroupHarmonized() const;
+    /// A date, a location or a tag of this item alone waits for a save; stored errors do not count.
     bool isUnsavedIgnoringSaveError() const;
 
     /// The source date is a wall-clock stamp without a zone.
@@ -197,6 +212,7 @@ public:
 
 private:
     MySinglePic() = default;
+    bool isThisUnsaved() const;
     std::weak_ptr<MySingleFolder> m_folder;
 };
 

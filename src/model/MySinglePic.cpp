@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MySinglePic.h"
+
+#include "MySingleFolder.h"
+
+#include <algorithm>
+#include <atomic>
+
+namespace chronomender {
+namespace {
+
+std::uint32_t nextSessionUniqueId() {
+    static std::atomic<std::uint32_t> counter{0};
+    return ++counter;
+}
+
+/// Where the extension's dot stands; a dot in front starts a hidden name, not an extension.
+std::size_t positionOfExtensionDot(const std::string &name) {
+    const std::size_t dot = name.rfind('.');
+    return dot == 0 ? std::string::npos : dot;
+}
+
+std::string joined(std::string folder, std::string_view name) {
+    if (folder.empty() || folder.back() != '/')
+        folder += '/';
+    return folder.append(name);
+}
+
+std::string trimmed(const std::string &text) {
+    constexpr const char *blanks = " \t\r\n";
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+/// "xmp", and "CR2.xmp" of a sidecar that repeats the whole name of its item.
+bool isXmpExtension(std::string_view extension) {
+    constexpr std::string_view xmp = "xmp";
+    const auto isSameLetter = [](char a, char b) { return (a | 0x20) == b; };
+    const bool isWhole = extension.size() == xmp.size();
+    const bool isLast = extension.size() > xmp.size() && extension.rbegin()[3] == '.';
+    return (isWhole || isLast) &&
+           std::equal(extension.end() - 3, extension.end(), xmp.begin(), isSameLetter);
+}
+
+} // namespace
+
+MySinglePicPtr MySinglePic::create(std::string name, const MySingleFolderPtr &folder, SpType type,
+                                   Date date) {
+    MySinglePicPtr pic(new MySinglePic);
+    pic->sessionUniqueId = nextSessionUniqueId();
+    pic->spName = std::move(name);
+    pic->spNameAtImport = pic->spName;
+    pic->m_folder = folder;
+    pic->spType = type;
+    pic->spDateTimeOriginal = date;
+    pic->spDateTimeModified_tempFIX = date;
+    return pic;
+}
+
+std::string MySinglePic::spPath() const {
+    const MySingleFolderPtr folder = spSingleRealFolder();
+    return folder ? joined(folder->sfFolderPath(), spName) : spName;
+}
+
+std::string MySinglePic::spBaseName() const {
+    return spName.substr(0, positionOfExtensionDot(spName));
+}
+
+std::string MySinglePic::extension() const {
+    const std::size_t dot = positionOfExtensionDot(spName);
+    return dot == std::string::npos ? std::string() : spName.substr(dot + 1);
+}
+
+std::int64_t MySinglePic::spCategory() const {
+    const MySingleFolderPtr folder = spSingleRealFolder();
+    return folder ? folder->folderSortGeneral : -1;
+}
+
+std::vector<std::string> MySinglePic::spSidecarPaths() const {
+    std::vector<std::string> paths;
+    if (spSidecarExtensions.empty())
+        return paths;
+    const MySingleFolderPtr folder = spSingleRealFolder();
+    const std::string stem = joined(folder ? folder->sfFolderPath() : ".", spBaseName()) + '.';
+    for (const std::string &sidecarExtension : spSidecarExtensions)
+        paths.push_back(stem + sidecarExtension);
+    return paths;
+}
+
+std::string MySinglePic::spXMPPath() const {
+    const auto found =
+        std::find_if(spSidecarExtensions.begin(), spSidecarExtensions.end(), isXmpExtension);
+    if (found == spSidecarExtensions.end())
+        return {};
+    return spSidecarPaths()[static_cast<std::size_t>(found - spSidecarExtensions.begin())];
+}
+
+bool MySinglePic::hasXMPSidecar() const {
+    return std::any_of(spSidecarExtensions.begin(), spSidecarExtensions.end(), isXmpExtension);
+}
+
+const LocatedBytes *MySinglePic::stamp(StampSlot slot) const {
+    const auto &value = slot == StampSlot::Original    ? singlePicAttributes.exifDateTimeOriginal
+                        : slot == StampSlot::Digitized ? singlePicAttributes.exifDateTimeDigitized
+                                                       : singlePicAttributes.tiffDateTime;
+    return value ? &*value : nullptr;
+}
+
+const LocatedBytes *MySinglePic::zoneStamp(StampSlot slot) const {
+    const auto &value = slot == StampSlot::Original    ? singlePicAttributes.exifOffsetTimeOriginal
+                        : slot == StampSlot::Digitized ? singlePicAttributes.exifOffsetTimeDigitized
+                                                       : singlePicAttributes.tiffOffsetTime;
+    return value ? &*value : nullptr;
+}
+
+std::string completeMakerModelString(const std::string &make, const std::string &model) {
+    const std::string maker = trimmed(make), camera = trimmed(model);
+    if (maker.empty() || camera.starts_with(maker))
+        return camera;
+    return camera.empty() ? maker : maker + ' ' + camera;
+}
+
+} // namespace chronomender
