@@ -15,6 +15,9 @@ void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
 /// modification stamp is younger than the file. Runs after the stamps are in.
 void setImageAttributesFromFileAttributes(MySinglePic &pic, const FileAttributes &attributes,
                                           int dateComparisonThresold);
+/// Takes size, times and identity of the file as they are now into the proof, and its times into
+/// the two file-date slots; nothing else changes.
+void takeFileAttributes(MySinglePic &pic, const FileAttributes &now);
 void validateMetaNormalization(MySinglePic &pic);
 void validateFilesystemNormalization(MySinglePic &pic);
 

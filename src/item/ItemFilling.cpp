@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ItemFilling.h"
+
+#include "ItemDates.h"
+#include "MySingleFolderDataReader.h"
+#include "StampConversions.h"
+#include "ZoneLookup.h"
+
+namespace chronomender {
+namespace {
+
+constexpr unsigned kStampsOutOfOrder = 1;
+constexpr unsigned kFileDatesOutOfOrder = 4;
+
+void setBit(unsigned &bits, unsigned bit, bool isOn) {
+    bits = isOn ? bits | bit : bits & ~bit;
+}
+
+bool isEarlier(const OptionalDate &a, const OptionalDate &b) {
+    return a && b && *a < *b;
+}
+
+/// The slots of items whose date is in the file never hold "no date": an empty stamp beside a good
+/// one stays out of every calculation. For items whose stamps are all empty it marks the tags that
+/// a save may fill.
+bool emptiesUnreadableSlots(SpType type) {
+    return isInRange(type, SpTypeExifOriginal, SpTypeTiffDateTime);
+}
+
+void setSlotFromStamp(MySinglePic &pic, StampSlot slot, const absl::TimeZone &zone) {
+    const LocatedBytes *stamp = pic.stamp(slot);
+    if (!stamp)
+        return;
+    const LocatedBytes *offset = pic.zoneStamp(slot);
+    OptionalDate &old = pic.slots.*description(slot).oldDate;
+    old = dateFromExifData(stamp->data, offset ? &offset->data : nullptr, zone);
+    if (old == InfinitePast() && emptiesUnreadableSlots(pic.spType))
+        old.reset();
+}
+
+/// A zone stamp is kept only beside the stamp that it belongs to.
+void takeStamp(std::optional<LocatedBytes> &stamp, std::optional<LocatedBytes> &offset,
+               std::optional<LocatedBytes> &&readStamp, std::optional<LocatedBytes> &&readOffset) {
+    if (!readStamp)
+        return;
+    stamp = std::move(readStamp);
+    offset = std::move(readOffset);
+}
+
+/// With both GPS stamps the file's own instant replaces one from XMP, unless they hold none.
+void takeBothGpsStamps(MySinglePic &pic, DatesData &dates) {
+    OptionalDate fromXmp;
+    if (pic.location.isGpsXmp)
+        fromXmp = pic.location.spGpsUTCDate;
+    if (fromXmp || pic.location.isGpsXmp) {
+        pic.location.spGpsUTCDate.reset();
+        pic.location.isGpsXmp = false;
+    }
+    pic.singlePicAttributes.gpsTimeStamp = std::move(dates.gpsTimeStamp);
+    pic.singlePicAttributes.gpsDateStamp = std::move(dates.gpsDateStamp);
+    updateGpsDateWithCreationDate(pic, std::nullopt);
+    if (!pic.location.spGpsUTCDate && fromXmp) {
+        pic.location.spGpsUTCDate = fromXmp;
+        pic.location.isGpsXmp = true;
+    }
+}
+
+void setGPXAttributesFromTheDatesData(MySinglePic &pic, DatesData &dates) {
+    if (dates.gpsTimeStamp && dates.gpsDateStamp) {
+        takeBothGpsStamps(pic, dates);
+    } else if (isInRange(pic.spType, SpTypeExifOriginal, SpTypeExifDigitized) &&
+               !pic.location.isGpsXmp && (dates.gpsTimeStamp || dates.gpsDateStamp)) {
+        // One half alone is completed by the picture's own date.
+        pic.singlePicAttributes.gpsTimeStamp = std::move(dates.gpsTimeStamp);
+        pic.singlePicAttributes.gpsDateStamp = std::move(dates.gpsDateStamp);
+        updateGpsDateWithCreationDate(pic, pic.spDateTimeOriginal);
+    }
+    if (dates.gpsLocation)
+        pic.singlePicAttributes.gpsLocation = std::move(dates.gpsLocation);
+}
+
+/// The tag for the modification date exists and holds no readable date: the slot takes the file's.
+void lateSetEmptyMetaModDateFromFileModDate(MySinglePic &pic) {
+    const bool isOfThoseTypes =
+        isInRange(pic.spType, SpTypeEmptyOriginalFileDate, SpTypeEmptyDigitizedFileDate);
+    if (isOfThoseTypes && pic.singlePicAttributes.tiffDateTime)
+        pic.slots.tiffDateTimeOLD = pic.slots.fileModificationDateOLD;
+}
+
+void cleanupBeforeRefreshInternalData(MySinglePic &pic) {
+    pic.xmp = {};
+    SinglePicAttributes &attributes = pic.singlePicAttributes;
+    for (auto *value : {&attributes.exifDateTimeOriginal, &attributes.exifDateTimeDigitized,
+                        &attributes.tiffDateTime, &attributes.exifOffsetTimeOriginal,
+                        &attributes.exifOffsetTimeDigitized, &attributes.tiffOffsetTime,
+                        &attributes.gpsDateStamp})
+        value->reset();
+    attributes.gpsTimeStamp.reset();
+    attributes.gpsLocation.reset();
+    attributes.xmpHeaderStartOffset.reset();
+    attributes.cr3XmpOffset.reset();
+}
+
+} // namespace
+
+void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
+                                        const MySingleFolder &folder, const Zones &zones) {
+    SinglePicAttributes &attributes = pic.singlePicAttributes;
+    takeStamp(attributes.exifDateTimeOriginal, attributes.exifOffsetTimeOriginal,
+              std::move(dates.exifDateTimeOriginal), std::move(dates.exifOffsetTimeOriginal));
+    takeStamp(attributes.exifDateTimeDigitized, attributes.exifOffsetTimeDigitized,
+              std::move(dates.exifDateTimeDigitized), std::move(dates.exifOffsetTimeDigitized));
+    takeStamp(attributes.tiffDateTime, attributes.tiffOffsetTime, std::move(dates.tiffDateTime),
+              std::move(dates.exifOffsetTiffTime));
+    const Zone zone = sourceTimeZoneForPic(pic, folder, zones);
+    for (const StampSlot slot : stampSlots)
+        setSlotFromStamp(pic, slot, zone.rules);
+
+    if (dates.xmpHeaderStartOffset)
+        attributes.xmpHeaderStartOffset = dates.xmpHeaderStartOffset;
+    else if (dates.cr3XmpOffset)
+        attributes.cr3XmpOffset = dates.cr3XmpOffset;
+    attributes.tiffHeaderStartOffset = dates.tiffHeaderStartOffset;
+    pic.isHeaderIntel = dates.isHeaderIntel;
+    pic.findings = std::move(dates.findings);
+    validateMetaNormalization(pic);
+    setGPXAttributesFromTheDatesData(pic, dates);
+    setLocationFromData(pic);
+}
+
+void validateMetaNormalization(MySinglePic &pic) {
+    const DateSlots &slots = pic.slots;
+    const OptionalDate &beforeTiff =
+        slots.exifDateTimeDigitizedOLD ? slots.exifDateTimeDigitizedOLD
+                                       : slots.exifDateTimeOriginalOLD;
+    setBit(pic.save.normalizationType, kStampsOutOfOrder,
+           isEarlier(slots.exifDateTimeDigitizedOLD, slots.exifDateTimeOriginalOLD) ||
+               isEarlier(slots.tiffDateTimeOLD, beforeTiff));
+}
+
+void validateFilesystemNormalization(MySinglePic &pic) {
+    setBit(pic.save.normalizationType, kFileDatesOutOfOrder,
+           isEarlier(pic.slots.fileModificationDateOLD, pic.slots.fileCreationDateOLD));
+}
+
+void takeFileAttributes(MySinglePic &pic, const FileAttributes &now) {
+    SinglePicAttributes &attributes = pic.singlePicAttributes;
+    attributes.fileSize = now.size;
+    attributes.fileDevice = now.device;
+    attributes.fileInode = now.inode;
+    attributes.fileBirthDate = now.birthDate;
+    attributes.fileModificationDate = now.modificationDate;
+    // A creation date cannot be set on this system, so the modification date stands for it: what a
+    // save leaves is what a fresh import shows.
+    attributes.fileCreationDate = now.modificationDate;
+    pic.slots.fileModificationDateOLD = attributes.fileModificationDate;
+    pic.slots.fileCreationDateOLD = attributes.fileCreationDate;
+}
+
+void setImageAttributesFromFileAttributes(MySinglePic &pic, const FileAttributes &attributes,
+                                          int dateComparisonThresold) {
+    takeFileAttributes(pic, attributes);
+    pic.importState.isExtraHardLink = attributes.hardLinks > 1;
+    validateFilesystemNormalization(pic);
+    if (isSourceMetaModAndYoungerThanFileCrea(pic, pic.spDateTimeOriginal,
+                                              dateComparisonThresold)) {
+        pic.spType = pic.spType == SpTypeTiffDateTime || pic.spType == SpTypeTiffYoungerThanFile
+                         ? SpTypeTiffYoungerThanFile
+                         : SpTypeMovieMvhdYoungerThanFile;
+        pic.spDateTimeOriginal = *pic.slots.fileCreationDateOLD;
+    }
+    lateSetEmptyMetaModDateFromFileModDate(pic);
+}
+
+bool refreshInternalData(MySinglePic &pic, const MySingleFolder &folder, const Zones &zones) {
+    const auto files = makeSystemFileLayer();
+    const auto file = files->open(pic.spPath(), OpenMode::Read);
+    const auto attributes = file ? file->attributes() : std::nullopt;
+    MySingleFolderDataReader reader;
+    if (!attributes || !reader.borrow(file->descriptor()))
+        return false;
+    cleanupBeforeRefreshInternalData(pic);
+    setImageAttributesFromTheDatesData(
+        pic, reader.readDates(pic.fileFormatType, pic.extension()), folder, zones);
+    takeFileAttributes(pic, *attributes);
+    return true;
+}
+
+} // namespace chronomender
