@@ -130,9 +130,8 @@ void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
 
 void validateMetaNormalization(MySinglePic &pic) {
     const DateSlots &slots = pic.slots;
-    const OptionalDate &beforeTiff =
-        slots.exifDateTimeDigitizedOLD ? slots.exifDateTimeDigitizedOLD
-                                       : slots.exifDateTimeOriginalOLD;
+    const OptionalDate &beforeTiff = slots.exifDateTimeDigitizedOLD ? slots.exifDateTimeDigitizedOLD
+                                                                    : slots.exifDateTimeOriginalOLD;
     setBit(pic.save.normalizationType, kStampsOutOfOrder,
            isEarlier(slots.exifDateTimeDigitizedOLD, slots.exifDateTimeOriginalOLD) ||
                isEarlier(slots.tiffDateTimeOLD, beforeTiff));
@@ -180,8 +179,8 @@ bool refreshInternalData(MySinglePic &pic, const MySingleFolder &folder, const Z
     if (!attributes || !reader.borrow(file->descriptor()))
         return false;
     cleanupBeforeRefreshInternalData(pic);
-    setImageAttributesFromTheDatesData(
-        pic, reader.readDates(pic.fileFormatType, pic.extension()), folder, zones);
+    setImageAttributesFromTheDatesData(pic, reader.readDates(pic.fileFormatType, pic.extension()),
+                                       folder, zones);
     takeFileAttributes(pic, *attributes);
     return true;
 }

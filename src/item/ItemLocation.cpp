@@ -22,7 +22,8 @@ std::optional<double> coordinate(std::string_view rationals, std::string_view re
     double degrees = 0;
     for (std::size_t i = 0; i < kPartsOfDegree.size(); ++i) {
         const std::uint32_t numerator = number32(rationals.substr(i * kRationalLength), order);
-        const std::uint32_t denominator = number32(rationals.substr(i * kRationalLength + 4), order);
+        const std::uint32_t denominator =
+            number32(rationals.substr(i * kRationalLength + 4), order);
         if (denominator == 0 && numerator != 0)
             return std::nullopt;
         if (denominator != 0)

@@ -3,6 +3,8 @@
 
 #include "ExifFormat.h"
 
+#include <absl/time/clock.h>
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -75,9 +77,8 @@ bool areSidecarsPresent(const MySinglePic &pic, FileLayer &files) {
     if (pic.spSidecarExtensions.empty())
         return true;
     const auto paths = pic.spSidecarPaths();
-    return std::all_of(paths.begin(), paths.end(), [&](const std::string &path) {
-        return files.attributes(path).has_value();
-    });
+    return std::all_of(paths.begin(), paths.end(),
+                       [&](const std::string &path) { return files.attributes(path).has_value(); });
 }
 
 FileUnchangedState stateOfFile(const MySinglePic &pic, const std::string &path, FileLayer &files) {
