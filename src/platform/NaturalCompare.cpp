@@ -31,4 +31,8 @@ int NaturalCompare::compare(std::string_view a, std::string_view b) const {
     return a == b ? 0 : m_collator->collator.compare(decoded(a), decoded(b));
 }
 
+QCollatorSortKey NaturalCompare::sortKey(std::string_view name) const {
+    return m_collator->collator.sortKey(decoded(name));
+}
+
 } // namespace chronomender

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MainThread.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <future>
+#include <memory>
+#include <thread>
+#include <vector>
+
+namespace chronomender {
+namespace {
+
+using mainThread::CallResult;
+
+class MainThreadTest : public testing::Test {
+protected:
+    MainThreadTest() { mainThread::initialise(); }
+    ~MainThreadTest() override { mainThread::beginShutdown(); }
+
+    /// Lets the main thread do what it was handed until `isDone`.
+    template<class Condition>
+    void runUntil(Condition isDone) {
+        while (!isDone())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    }
+
+    int argumentCount = 0;
+    QCoreApplication application{argumentCount, nullptr};
+};
+
+TEST_F(MainThreadTest, WorkIsDoneOnTheMainThreadInOrderAndTheCallerWaits) {
+    std::vector<int> order; // touched by the main thread only
+    std::atomic<bool> isOver{false};
+    std::thread worker([&] {
+        EXPECT_FALSE(mainThread::isCurrent());
+        mainThread::post([&] { order.push_back(1); });
+        const auto result = mainThread::callAndWait([&] {
+            EXPECT_TRUE(mainThread::isCurrent());
+            order.push_back(2);
+        });
+        EXPECT_EQ(result, CallResult::Done);
+        mainThread::post([&] {
+            order.push_back(3);
+            isOver = true;
+        });
+    });
+    runUntil([&] { return isOver.load(); });
+    worker.join();
+    EXPECT_EQ(order, (std::vector{1, 2, 3}));
+}
+
+TEST_F(MainThreadTest, OnTheMainThreadACallRunsAtOnceAndAPostLater) {
+    int runs = 0;
+    EXPECT_EQ(mainThread::callAndWait([&] { ++runs; }), CallResult::Done);
+    EXPECT_EQ(runs, 1);
+    mainThread::post([&] { ++runs; });
+    EXPECT_EQ(runs, 1);
+    runUntil([&] { return runs == 2; });
+}
+
+TEST_F(MainThreadTest, AShutdownReleasesCallersThatWaitAndRunsNothingMore) {
+    std::atomic<int> runs{0};
+    std::promise<void> isUnderWay;
+    auto waiting = std::async(std::launch::async, [&] {
+        mainThread::post([&] { ++runs; });
+        isUnderWay.set_value();
+        return mainThread::callAndWait([&] { ++runs; });
+    });
+    isUnderWay.get_future().wait();
+    mainThread::beginShutdown();
+    EXPECT_EQ(waiting.get(), CallResult::Cancelled); // whether it already waited or came too late
+    EXPECT_EQ(mainThread::callAndWait([&] { ++runs; }), CallResult::Cancelled);
+    mainThread::post([&] { ++runs; });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(runs, 0);
+    mainThread::initialise(); // opens the door again
+    EXPECT_EQ(mainThread::callAndWait([&] { ++runs; }), CallResult::Done);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(MainThreadTest, AShutdownFromInsideHandedWorkLetsThatWorkEnd) {
+    auto first = std::async(std::launch::async, [] {
+        return mainThread::callAndWait([] { mainThread::beginShutdown(); });
+    });
+    runUntil([&] { return first.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    EXPECT_EQ(first.get(), CallResult::Done);
+}
+
+TEST_F(MainThreadTest, ManyWorkersNeverLoseACallAcrossAShutdown) {
+    constexpr int callsEach = 500;
+    int runs = 0; // touched by the main thread only
+    std::atomic<int> done{0}, cancelled{0}, workersLeft{4};
+    std::vector<std::thread> workers;
+    for (int i = 0; i < 4; ++i)
+        workers.emplace_back([&] {
+            for (int call = 0; call < callsEach; ++call)
+                (mainThread::callAndWait([&] { ++runs; }) == CallResult::Done ? done : cancelled)++;
+            --workersLeft;
+        });
+    runUntil([&] { return done > 600; });
+    mainThread::beginShutdown();
+    for (std::thread &worker : workers)
+        worker.join();
+    EXPECT_EQ(workersLeft, 0);
+    EXPECT_EQ(runs, done);
+    EXPECT_EQ(done + cancelled, 4 * callsEach);
+    EXPECT_GT(cancelled, 0);
+}
+
+TEST_F(MainThreadTest, WhatPostedWorkHoldsOnToEndsOnTheMainThread) {
+    struct Held {
+        std::atomic<bool> &isRight;
+        ~Held() { isRight = mainThread::isCurrent(); }
+    };
+    std::atomic<bool> endedOnMain{false}, isOver{false};
+    std::thread worker([&] {
+        mainThread::post([held = std::make_shared<Held>(endedOnMain)] { (void)held; });
+        mainThread::post([&] { isOver = true; });
+    });
+    runUntil([&] { return isOver.load(); });
+    worker.join();
+    EXPECT_TRUE(endedOnMain);
+}
+
+} // namespace
+} // namespace chronomender
