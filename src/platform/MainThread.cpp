@@ -57,16 +57,13 @@ bool run(Door &theDoor, std::unique_lock<std::mutex> &lock) {
 
 class Receiver final : public QObject {
 public:
-    bool event(QEvent *event) override {
-        if (event->type() != QEvent::User)
-            return QObject::event(event);
+    void customEvent(QEvent *) override {
         Door &theDoor = door();
         std::unique_lock lock(theDoor.mutex);
         theDoor.isWakePosted = false;
         // Only what waits now: work that posts more work must not starve the other events.
         for (std::size_t left = theDoor.tasks.size(); left > 0 && run(theDoor, lock); --left) {
         }
-        return true;
     }
 };
 
