@@ -4,6 +4,7 @@
 #include "Cancellation.h"
 #include "ImportQuestions.h"
 #include "MySingleFolder.h"
+#include "SessionFiles.h"
 #include "UserDefaults.h"
 #include "Zones.h"
 
@@ -44,6 +45,7 @@ struct ImportOutcome {
     std::vector<MySinglePicPtr> items;
     std::vector<SkippedEntry> skipped;
     bool wasCancelled = false;
+    int fixedDates = 0; ///< items with empty date tags, to be added to the folder's count
 };
 
 /// Everything a run asks of its surroundings; references outlive the run.
@@ -53,6 +55,8 @@ struct ImportServices {
     ImportQuestions &questions;
     const Cancellation &cancellation;
     std::function<void(ImportProgress)> progress; ///< called on the import thread; may be empty
+    /// The files of the whole session; null when the run stands alone. Used on the import thread.
+    SessionFiles *sessionFiles = nullptr;
 };
 
 /// Imports a batch of names of a folder (an empty list: the whole folder) on the calling thread,

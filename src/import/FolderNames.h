@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+
+namespace chronomender {
+
+/// Names that other systems leave in a folder of photos and that nobody means as a photo: "._…"
+/// (resource forks on foreign disks) and ".DS_Store".
+bool isNamePassedOver(std::string_view name);
+
+/// The path lies in the library of another program, which keeps its own list of what is inside: no
+/// file in there is ever imported. Looks at every folder of the path.
+bool isRefusedFolder(std::string_view path);
+
+/// The part of a name behind its last dot, as spelled; "" for names like ".jpg" or "IMG_1".
+std::string_view extensionOfName(std::string_view name);
+/// The extension is this one, whatever its letter case.
+bool isExtension(std::string_view given, std::string_view lowerCase);
+
+/// Sidecars and tracks: files that accompany media and are no media themselves.
+bool isCompanionName(std::string_view name);
+
+} // namespace chronomender
