@@ -174,6 +174,33 @@
     <message id="resetAllInSingleMode">
         <translation>Alle einzelnen Zeitverschiebungen zurücknehmen</translation>
     </message>
+    <message id="skipReason_cancelled">
+        <translation>Der Import wurde vor dieser Datei angehalten.</translation>
+    </message>
+    <message id="skipReason_empty">
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message id="skipReason_nameNotUtf8">
+        <translation>Der Name ist kein gültiges UTF-8. Benennen Sie die Datei zuerst um.</translation>
+    </message>
+    <message id="skipReason_noDate">
+        <translation>Es gibt kein Datum für die Datei.</translation>
+    </message>
+    <message id="skipReason_notAMedium">
+        <translation>Die Datei ist weder ein Foto noch ein Film.</translation>
+    </message>
+    <message id="skipReason_notYetSupported">
+        <translation>Diese Version liest Dateien dieses Formats noch nicht.</translation>
+    </message>
+    <message id="skipReason_sameFileTwice">
+        <translation>Dieselbe Datei ist unter einem anderen Namen schon vorhanden.</translation>
+    </message>
+    <message id="skipReason_symbolicLink">
+        <translation>Der Eintrag ist ein Verweis. Fügen Sie den Ordner hinzu, in dem die Datei selbst liegt.</translation>
+    </message>
+    <message id="skipReason_unreadable">
+        <translation>Das Lesen ist nicht möglich. Prüfen Sie, ob die Datei vorhanden ist und ob Sie sie lesen dürfen.</translation>
+    </message>
     <message id="undoDateChangeText">
         <translation>Ordner zeitlich verschieben</translation>
     </message>

@@ -174,6 +174,33 @@
     <message id="resetAllInSingleMode">
         <translation>Take Back All Single Shifts</translation>
     </message>
+    <message id="skipReason_cancelled">
+        <translation>The import was stopped before this file.</translation>
+    </message>
+    <message id="skipReason_empty">
+        <translation>The file is empty.</translation>
+    </message>
+    <message id="skipReason_nameNotUtf8">
+        <translation>The name is not valid UTF-8. Rename the file first.</translation>
+    </message>
+    <message id="skipReason_noDate">
+        <translation>There is no date for the file.</translation>
+    </message>
+    <message id="skipReason_notAMedium">
+        <translation>The file is neither a photo nor a movie.</translation>
+    </message>
+    <message id="skipReason_notYetSupported">
+        <translation>This version does not read files of this format yet.</translation>
+    </message>
+    <message id="skipReason_sameFileTwice">
+        <translation>The same file is there already under another name.</translation>
+    </message>
+    <message id="skipReason_symbolicLink">
+        <translation>The entry is a link. Add the folder that holds the file itself.</translation>
+    </message>
+    <message id="skipReason_unreadable">
+        <translation>It cannot be read. Check whether it exists and whether you may read it.</translation>
+    </message>
     <message id="undoDateChangeText">
         <translation>Shift the Folder in Time</translation>
     </message>

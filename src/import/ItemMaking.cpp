@@ -53,16 +53,13 @@ MySinglePicPtr makeItem(std::string name, const MySingleFolderPtr &folder, const
     MySinglePicPtr pic = MySinglePic::create(std::move(name), folder, decision.type, decision.date);
     pic->fileFormatType = record.format;
     pic->importState.isLeftAlone = decision.isLeftAlone;
-    pic->importState.isExtraHardLink = record.attributes.hardLinks > 1;
     return pic;
 }
 
 void fillItem(MySinglePic &pic, FileRecord record, const FillContext &context) {
-    pic.isHeaderIntel = record.dates.isHeaderIntel;
     takeCamera(pic, record.dates);
     setImageAttributesFromTheDatesData(pic, std::move(record.dates), context.folder, context.zones);
     setImageAttributesFromFileAttributes(pic, record.attributes, context.dateComparisonThresold);
-    setLocationFromData(pic);
     if (pic.hasCorrectableDate())
         settleZones(pic, context);
 }
