@@ -60,8 +60,7 @@ private:
 class Run {
 public:
     Run(MySingleFolder &folder, const FolderReference &reference, const ImportServices &services)
-        : m_folder(folder),
-          m_owner(folder.shared_from_this()),
+        : m_owner(folder.shared_from_this()),
           m_path(folder.sfFolderPath()),
           m_descriptor(reference.descriptor()),
           m_services(services),

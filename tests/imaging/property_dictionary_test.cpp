@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CameraText.h"
+#include "LittlePhoto.h"
+#include "PropertyDictionary.h"
+#include "TemporaryFolder.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <thread>
+#include <vector>
+
+namespace chronomender {
+namespace {
+
+using namespace little;
+
+class PropertyDictionaryTest : public testing::Test {
+protected:
+    PropertyDictionaryTest() { initialiseImaging(); }
+
+    std::optional<PropertyDictionary> read(const PhotoFields &fields) {
+        return readPropertyDictionary(m_folder.write("photo.jpg", jpegPhoto(fields).bytes));
+    }
+    std::optional<PropertyDictionary> readLocated(const PhotoLocation &location) {
+        return read({.location = location});
+    }
+
+    TemporaryFolder m_folder;
+};
+
+TEST_F(PropertyDictionaryTest, TellsWhatWasPutIntoTheFile) {
+    const Tiff tiff = photoEntries(fullPhotoFields())
+                          .field(Directory::First, 274, 3, 1, 6)
+                          .text(Directory::Exif, 0xA431, "SN-0042")
+                          .text(Directory::Exif, 0xA434, "Little 50mm F1.8");
+    const std::string path =
+        m_folder.write("a.jpg", Jpeg().exif(tiff.build().bytes).frame().body(100).bytes());
+
+    const auto found = readPropertyDictionary(path);
+
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->make, "Little");
+    EXPECT_EQ(found->model, "Little One");
+    EXPECT_EQ(found->lens, "Little 50mm F1.8");
+    EXPECT_EQ(found->serialNumber, "SN-0042");
+    EXPECT_EQ(found->orientation, 6);
+    EXPECT_EQ(found->pixelWidth, 1);
+    EXPECT_EQ(found->pixelHeight, 1);
+    EXPECT_EQ(found->mimeType, "image/jpeg");
+    ASSERT_TRUE(found->gps);
+    EXPECT_NEAR(found->gps->latitude, 48 + 51 / 60.0 + 24.3 / 3600, 1e-9);
+    EXPECT_NEAR(found->gps->longitude, 2 + 17 / 60.0 + 40.2 / 3600, 1e-9);
+}
+
+TEST_F(PropertyDictionaryTest, LocationsOnTheGlobeOnly) {
+    struct Case {
+        const char *what;
+        PhotoLocation location;
+        std::optional<std::pair<double, double>> expected;
+    };
+    const std::vector<Rational> zero{{0, 1}, {0, 1}, {0, 1}};
+    const Case cases[]{
+        {"south and west",
+         {.latitudeRef = "S",
+          .longitudeRef = "W",
+          .latitude = {{33, 1}, {30, 1}, {0, 1}},
+          .longitude = {{70, 1}, {0, 1}, {36, 1}}},
+         {{-33.5, -70.01}}},
+        {"device without a fix", {.latitude = zero, .longitude = zero}, {}},
+        {"on the equator", {.latitude = zero, .longitude = {{9, 1}, {0, 1}, {0, 1}}}, {{0, 9}}},
+        {"the pole",
+         {.latitude = {{90, 1}, {0, 1}, {0, 1}}, .longitude = {{180, 1}, {0, 1}, {0, 1}}},
+         {{90, 180}}},
+        {"beyond the pole", {.latitude = {{90, 1}, {0, 1}, {1, 1}}}, {}},
+        {"beyond the date line", {.longitude = {{181, 1}, {0, 1}, {0, 1}}}, {}},
+        {"unused seconds",
+         {.latitude = {{10, 1}, {30, 1}, {0, 0}}, .longitude = {{20, 1}, {0, 1}, {0, 0}}},
+         {{10.5, 20}}},
+        {"division by zero", {.latitude = {{10, 0}, {0, 1}, {0, 1}}}, {}},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.what);
+        const auto found = readLocated(c.location);
+        ASSERT_TRUE(found);
+        ASSERT_EQ(found->gps.has_value(), c.expected.has_value());
+        if (c.expected) {
+            EXPECT_NEAR(found->gps->latitude, c.expected->first, 1e-9);
+            EXPECT_NEAR(found->gps->longitude, c.expected->second, 1e-9);
+        }
+    }
+}
+
+TEST_F(PropertyDictionaryTest, AccuracyOfAPosition) {
+    Tiff tiff = photoEntries({.location = PhotoLocation{}});
+    tiff.rationals(Directory::Gps, 31, {{13, 2}});
+    const auto found = readPropertyDictionary(
+        m_folder.write("a.jpg", Jpeg().exif(tiff.build().bytes).frame().body(10).bytes()));
+    ASSERT_TRUE(found && found->gps);
+    EXPECT_EQ(found->gps->hPositioningError, 6.5);
+}
+
+TEST_F(PropertyDictionaryTest, NothingOfFilesThatAreNoPictures) {
+    const std::string huge = m_folder.write("huge.tif", "II*\0");
+    std::filesystem::resize_file(huge, std::uintmax_t{3} << 30);
+    const std::string pipe = m_folder.path("pipe.jpg");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+
+    for (const std::string &path :
+         {huge, pipe, m_folder.path(), m_folder.path("absent.jpg"), m_folder.write("empty.jpg", ""),
+          m_folder.write("text.jpg", "no picture at all"),
+          m_folder.write("cut.jpg", jpegPhoto(fullPhotoFields()).bytes.substr(0, 3))})
+        EXPECT_FALSE(readPropertyDictionary(path)) << path;
+}
+
+TEST_F(PropertyDictionaryTest, DamagedFilesNeitherCrashNorThrow) {
+    const std::string good = jpegPhoto(fullPhotoFields()).bytes;
+    for (std::size_t i = 2; i < good.size(); i += 3) {
+        std::string bad = good;
+        bad[i] = static_cast<char>(bad[i] ^ 0xFF);
+        const auto found = readPropertyDictionary(m_folder.write("bad.jpg", bad));
+        EXPECT_TRUE(!found || found->orientation == 1) << i;
+    }
+}
+
+TEST_F(PropertyDictionaryTest, ReadsOnSeveralThreads) {
+    PhotoFields fields = fullPhotoFields();
+    fields.xmp = "<?xpacket begin='' id='W5M0MpCehiHzreSzNTczkc9d'?><x:xmpmeta "
+                 "xmlns:x='adobe:ns:meta/'/><?xpacket end='w'?>";
+    const std::string path = m_folder.write("a.jpg", jpegPhoto(fields).bytes);
+    std::vector<int> right(4, 0);
+    std::vector<std::thread> threads;
+    for (int &count : right)
+        threads.emplace_back([&path, &count] {
+            for (int i = 0; i < 50; ++i) {
+                const auto found = readPropertyDictionary(path);
+                count += found && found->model == "Little One" ? 1 : 0;
+            }
+        });
+    for (std::thread &thread : threads)
+        thread.join();
+    EXPECT_EQ(right, std::vector<int>(4, 50));
+}
+
+TEST(CameraTextTest, IsTextForPeople) {
+    using namespace std::string_literals;
+    EXPECT_EQ(cameraText("Canon \0\0rest"s), "Canon");
+    EXPECT_EQ(cameraText("\x1B[31mEvil\n"), "[31mEvil");
+    EXPECT_EQ(cameraText("Caf\xE9"), "Café");
+    EXPECT_EQ(cameraText("Lumière"), "Lumière");
+    EXPECT_EQ(cameraText("   "), "");
+}
+
+} // namespace
+} // namespace chronomender
