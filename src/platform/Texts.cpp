@@ -54,9 +54,9 @@ std::string_view usersLanguage() {
 
 QString lookUp(const std::string &key) {
     for (const auto *translator : {loaded().chosen.get(), loaded().fallback.get()}) {
-        const QString found =
-            translator != nullptr ? translator->translate(nullptr, key.c_str()) : QString();
-        if (!found.isEmpty())
+        if (translator == nullptr)
+            continue;
+        if (QString found = translator->translate(nullptr, key.c_str()); !found.isEmpty())
             return found;
     }
     return {};

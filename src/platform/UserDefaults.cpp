@@ -32,7 +32,7 @@ bool isAllowed(const DefaultEntry &entry, std::string_view value) {
 
 UserDefaults::UserDefaults(std::string storePath) : m_storePath(std::move(storePath)) {
     m_stored = defaultsStore::read(m_storePath);
-    std::erase_if(m_stored, [this](const auto &stored) {
+    std::erase_if(m_stored, [](const auto &stored) {
         return check(stored.first, stored.second) != Outcome::Done;
     });
 }
