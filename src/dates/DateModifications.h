@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "MyCompoundFolder.h"
 #include "MySingleFolder.h"
 #include "UndoManager.h"
 
+#include <optional>
 #include <vector>
 
 namespace chronomender {
@@ -22,31 +24,52 @@ struct ShiftRecord {
 /// date never shift. Keeps the folder's count of items with a shift of their own.
 void updateSinglePicModificationBy(MySinglePic &pic, absl::Duration difference);
 
-/// Sets the together shift from the texts of the date fields.
+/// Sets the together shift from the texts of the date fields. Both direction flags follow the shown
+/// sign, here as in every setter.
 void setDirection(MySingleFolder &folder, const DateModificationFields &fields);
+void setDirection(const MyCompoundFolder &folders, const DateModificationFields &fields);
 /// Sets the together shift; `isDirectionNegative` keeps a shown "-" at a shift of 0.
 void setSfDateModificationsFromTimeInterval(MySingleFolder &folder, absl::Duration shift,
                                             bool isDirectionNegative);
+void setSfDateModificationsFromTimeInterval(const MyCompoundFolder &folders, absl::Duration shift,
+                                            bool isDirectionNegative);
 /// Texts of a shift: direction, days, hours, minutes, seconds; fractions are dropped from the text.
 DateModificationFields fieldsFromTimeInterval(absl::Duration shift, bool isDirectionNegative);
+/// The shift that the texts say. Days may have a fraction; texts that are no number count as 0.
 absl::Duration timeIntervalFromFields(const DateModificationFields &fields);
 
-void sfUpdatePicsFromAndTill(MySingleFolder &folder);
+/// Fields of several folders together: an absent field keeps each folder's own part.
+struct CompoundFields {
+    std::optional<std::string> dmDirection;
+    std::optional<std::string> dmDays, dmHours, dmMinutes, dmSeconds;
+};
+/// The folder's fields with the present parts of `changes` put in their place.
+DateModificationFields keepingOwnParts(const MySingleFolder &folder, const CompoundFields &changes);
+
+/// Recounts the folder and its range of dates. The last item leaving takes the range, the together
+/// shift and the folder's undo steps with it, unless the items are only being read again.
+enum class FolderRefresh { Normal, DuringReimport };
+void sfUpdatePicsFromAndTill(MySingleFolder &folder, UndoManager *undo = nullptr,
+                             FolderRefresh refresh = FolderRefresh::Normal);
+// The folder's count of items with a shift of their own; no item is changed here.
 void addSinglePicModeImage(MySingleFolder &folder);
 void removeSinglePicModeImage(MySingleFolder &folder);
+/// After a save: items whose shift was written have none any more; those whose save failed still
+/// count.
 void clearSinglePicModeImages(MySingleFolder &folder);
 
 /// Switches the mode. Into single mode each item keeps the date it shows: it takes the folder's
 /// shift as its own. Into together mode the items' shifts are dropped.
 void changeEditMode(MySingleFolder &folder, EditMode mode);
 
-/// Applies shift records as one undoable step.
+/// Applies shift records as one undoable step, passing over trashed items, and refreshes the range
+/// of the first item's folder.
 void updateThumbValues(const std::vector<ShiftRecord> &records, UndoManager &undo);
 void undoRedoUpdateSinglePicModeDate(MySinglePic &pic, absl::Duration difference,
                                      UndoManager &undo);
 void undoRedoUpdateFolderModeDateModifications(MySingleFolder &folder, absl::Duration shift,
                                                bool isDirectionNegative, UndoManager &undo);
-/// Gives every item of the folder its original date back, undoably.
+/// Gives every item of the folder its original date back, as one undoable step.
 void dateValuesResetSingleMode(MySingleFolder &folder, UndoManager &undo);
 
 } // namespace chronomender

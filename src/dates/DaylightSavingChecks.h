@@ -25,6 +25,14 @@ struct DSTState {
     unsigned divergence = 0, ambiguity = 0;
 };
 DSTState checkDSTDivergence(const MySinglePic &pic, const absl::TimeZone &zone);
+/// Stores both on the item; the ambiguity only while no alternative reading is in use.
 void checkImportDivergencyAndAmbiguityUsingZone(MySinglePic &pic, const absl::TimeZone &zone);
+/// The stamp that the main date comes from means two instants.
+bool isDateSourceAmbiguousAtImport(const MySinglePic &pic);
+
+/// Takes the other reading: moves each ambiguous OLD slot and the main date that follows from it.
+void correctAmbiguousDatesBy(MySinglePic &pic, absl::Duration difference);
+/// One hour back for an item whose alternative reading is in use; nothing for others.
+void reapplyAmbiguityCorrection(MySinglePic &pic);
 
 } // namespace chronomender

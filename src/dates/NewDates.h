@@ -46,10 +46,22 @@ struct NewDateContext {
 };
 
 /// Fills the five NEW slots (and `spDateTimeModified_tempFIX`, in save mode `isAffectedBySave`)
-/// from the item's one corrected date. An unchanged item ends with every NEW equal to its OLD.
+/// from the item's one corrected date. An unchanged item ends with every NEW equal to its OLD; so
+/// do items that were left alone and items without a correctable date. In save mode the dependent
+/// of a group is calculated first, by its own path; types 4, 14 and 18 never reach for theirs.
+///
+/// A preference with a value outside its table leaves its slot as it was. In a live calculation
+/// "now" reads as the distant future.
 void calculateNewDates(MySinglePic &pic, const NewDateContext &context);
 
-/// Copies the OLD slots into the NEW ones.
+/// For an item with `shouldAddExifDateTimeTags`: decides once which tags are to be added
+/// (`tagAddType`) and lends their OLD slots a date for the length of one calculation. False when
+/// there is nothing to add.
+bool prepareExifDateTimeAddition(MySinglePic &pic);
+/// Takes the lent dates back: the distant past marks each tag that is to be added.
+void cleanupExifDateTimeAddition(MySinglePic &pic);
+
+/// Copies the OLD slots into the NEW ones; in save mode the item is not affected by the save.
 void afterCalculationSetNewToOld(MySinglePic &pic, CalculationMode mode);
 
 } // namespace chronomender

@@ -33,8 +33,11 @@ Date dateFromEXIFTimeStampAndOffset(std::string_view stamp,
 /// bytes hold no stamp at all.
 OptionalDate dateFromExifData(const Bytes &stamp, const Bytes *offset, const absl::TimeZone &zone);
 
-/// 19 characters and a zero byte; none outside the years 1 to 9999.
+/// 19 characters and a zero byte; none for markers and outside the years 1 to 9999.
 std::optional<Bytes> exifDataFromDate(Date date, const absl::TimeZone &zone);
+/// "+02:00" and a zero byte. None for an offset that has seconds (as before standard time) or lies
+/// beyond ±18:00: no zone stamp can say it.
+std::optional<Bytes> exifOffsetDataFromSeconds(std::int32_t secondsEastOfUtc);
 /// A stamp with its zone stamp, 20 and 7 bytes. None when the zone's offset at that date has
 /// seconds or lies beyond ±18:00.
 struct ExifWithOffset {
@@ -46,7 +49,7 @@ std::optional<ExifWithOffset> exifWithOffsetDatasFromDate(Date date, const absl:
 /// writing.
 Bytes keepingSeparator(Bytes built, const Bytes &present);
 
-/// "yyyy:MM:dd HH:mm:ss" in UTC, for GPS stamps.
+/// "yyyy:MM:dd HH:mm:ss" in UTC, for GPS stamps; "" for a date that cannot be written so.
 std::string gpsTimeStampFromDate(Date date);
 /// Reads that form as UTC; none when it is no date.
 OptionalDate dateFromGpsTimeStamp(std::string_view stamp);

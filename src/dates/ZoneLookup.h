@@ -6,19 +6,34 @@
 
 namespace chronomender {
 
+/// What an item or, failing that, its folder says about its zone; null when neither says anything.
+/// The two sides of a group share one choice.
+const ZoneChoice *choiceForPic(const MySinglePic &pic, const ZoneAssignments &assignments);
+const ZoneChoice *choiceForPicIgnoringDefault(const MySinglePic &pic,
+                                              const ZoneAssignments &assignments);
+/// Gives the item (for a dependent: its master) a choice of its own, or takes it away.
+void addPicWithZone(const MySinglePic &pic, ZoneChoice choice, ZoneAssignments &assignments);
+void removePic(const MySinglePic &pic, ZoneAssignments &assignments);
+
+// The zones below are references into the folder's choices or into `zones`: good until either
+// changes.
+
 /// The zone in which an item's stamps were meant; the system's zone where nothing is assigned.
-Zone sourceTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &folder, const Zones &zones);
+const Zone &sourceTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &folder,
+                                 const Zones &zones);
 
 /// The zone in which an item's stamps are to be written. For the target choice `_OWN` this is the
 /// source zone: slots with a zone stamp then ask `targetZoneForSlot`.
-Zone targetTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &folder, const Zones &zones);
+const Zone &targetTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &folder,
+                                 const Zones &zones);
 
 /// The zone in which one slot is to be written: with `_OWN` and a zone stamp, that stamp's fixed
 /// offset.
 Zone targetZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFolder &folder,
                        const Zones &zones);
 
-/// A target was chosen for the item or its folder, by name or by marker.
+/// A target was chosen for the item or its folder: a zone, the system's zone, the source or `_OWN`.
+/// A target that merely follows the folder's source was chosen by nobody.
 bool hasAssignedTargetZone(const MySinglePic &pic, const MySingleFolder &folder);
 
 /// Acts only while nothing is assigned: sets the folder's source zone; with `targetFollows` (the
@@ -29,17 +44,26 @@ void setTZDefaultsSource(MySingleFolder &folder, ZoneChoice source, bool targetF
 /// moves types that depend on the file date. True when anything the user sees changed.
 bool updateAllDatesAfterUpdatingTimezone(MySinglePic &pic, const MySingleFolder &folder,
                                          const Zones &zones, int dateComparisonThresold);
+/// The same in a given zone: after a save, while the folder's default has not moved yet.
+bool updateAllDatesAfterUpdatingTimezoneUsingTimeZone(MySinglePic &pic, const Zone &sourceZone,
+                                                      const MySingleFolder &folder,
+                                                      const Zones &zones,
+                                                      int dateComparisonThresold);
 
-/// After a save: the assignment of a written item moves from target to source.
+/// After a save: the assignment of a written item moves from target to source. True when the two
+/// zones differed.
 bool updateSourceTimeZoneFromTargetTimeZoneForPic(MySinglePic &pic, MySingleFolder &folder,
                                                   const Zones &zones);
 /// After a save: the folder's source is what was written, and its target follows.
 void cleanupTimeZones(MySingleFolder &folder);
+/// Before cleanupTimeZones: items that were left out, and items whose save failed or was not
+/// reached, keep the zones that held for them.
 void updateSelectionZonesForUnchangedFiles(MySingleFolder &folder,
                                            const std::vector<MySinglePicPtr> &leftOut);
 void updateSelectionZonesForTimeErrorFiles(MySingleFolder &folder,
                                            const std::vector<MySinglePicPtr> &failed);
-/// Recomputes `isUnsavedDueToTZC` of every item and of the folder.
+/// Recomputes `isUnsavedDueToTZC` of the item and its dependent; of every item and of the folder.
+void validateTZCUnsavedForPic(MySinglePic &pic, const MySingleFolder &folder, const Zones &zones);
 void validateTZCUnsaved(MySingleFolder &folder, const Zones &zones);
 bool hasAnyTimeZoneChangeForPic(const MySinglePic &pic, const MySingleFolder &folder,
                                 const Zones &zones);

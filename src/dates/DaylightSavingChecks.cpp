@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DaylightSavingChecks.h"
+
+#include "ItemDates.h"
+#include "StampConversions.h"
+
+namespace chronomender {
+namespace {
+
+/// Clocks are set back by an hour nearly everywhere; overlaps of another length are not seen.
+constexpr absl::Duration usualStep = absl::Hours(1);
+/// How near to a change of the zone's offset a date must be to be worth a round trip.
+constexpr absl::Duration dangerWindow = absl::Hours(2);
+constexpr absl::Duration roundTripTolerance = absl::Seconds(10);
+
+bool isPhotoWithStamps(SpType type) {
+    return isInRange(type, SpTypeExifOriginal, SpTypeTiffYoungerThanFile);
+}
+
+/// Only a stamp without a zone of its own can be in danger.
+bool isLocalStamp(const MySinglePic &pic, StampSlot slot) {
+    return !pic.isSlotXmp(slot) && !pic.zoneStamp(slot);
+}
+
+/// The date no longer turns back into the wall clock that stands in the file.
+bool isDivergent(const MySinglePic &pic, StampSlot slot, Date date, const absl::TimeZone &zone) {
+    const LocatedBytes *stamp = pic.stamp(slot);
+    const auto text = stamp ? exifTimeStampFromData(stamp->data) : std::nullopt;
+    return text && civilFromExifTimeStamp(*text) != civilFromInstant(date, zone);
+}
+
+StampSlot mainSlot(SpType type) {
+    switch (type) {
+    case SpTypeExifOriginal:
+    case SpTypeEmptyOriginalFileDate:
+    case SpTypeEmptyOriginalFixedDate:
+        return StampSlot::Original;
+    case SpTypeExifDigitized:
+    case SpTypeEmptyDigitizedFileDate:
+    case SpTypeEmptyDigitizedFixedDate:
+        return StampSlot::Digitized;
+    default:
+        return StampSlot::Modification;
+    }
+}
+
+StampSlot slotFor(ExportDate which, SpType type) {
+    switch (which) {
+    case ExportDate::Main:
+        return mainSlot(type);
+    case ExportDate::Original:
+        return StampSlot::Original;
+    case ExportDate::Digitized:
+        return StampSlot::Digitized;
+    case ExportDate::Modification:
+        break;
+    }
+    return StampSlot::Modification;
+}
+
+const StampSlot *firstFilledSlot(const MySinglePic &pic) {
+    for (const StampSlot &slot : stampSlots)
+        if (pic.slots.*description(slot).oldDate)
+            return &slot;
+    return nullptr;
+}
+
+} // namespace
+
+bool isAmbiguousLocalTime(Date date, const absl::TimeZone &zone) {
+    return !isMarker(date) && zone.At(date).cs == zone.At(date - usualStep).cs;
+}
+
+bool isDSTAmbiguityAtExportPossibleForDate(Date date, const absl::TimeZone &zone) {
+    if (isMarker(date))
+        return false;
+    // Comparing offsets also serves years behind the end of the zone's table of changes. A change
+    // exactly at either end of the window is no danger any more.
+    const Date first = date - dangerWindow;
+    const Date last = date + dangerWindow - absl::Nanoseconds(1);
+    return zone.At(first).offset != zone.At(last).offset;
+}
+
+bool hasDSTAmbiguityForDate(const MySinglePic &pic, Date date, ExportDate which,
+                            const absl::TimeZone &zone, DSTPreFilter preFilter) {
+    if (!isInRange(pic.spType, SpTypeExifOriginal, SpTypeEmptyTiffFixedDate) || isMarker(date))
+        return false;
+    if (preFilter == DSTPreFilter::On && !isDSTAmbiguityAtExportPossibleForDate(date, zone))
+        return false;
+    if (!isLocalStamp(pic, slotFor(which, pic.spType)))
+        return false;
+    const Date readAgain = instantFromCivil(civilFromInstant(date, zone), zone);
+    return distance(readAgain, date) > roundTripTolerance;
+}
+
+DSTState checkDSTDivergence(const MySinglePic &pic, const absl::TimeZone &zone) {
+    DSTState state;
+    if (!isPhotoWithStamps(pic.spType))
+        return state;
+    for (StampSlot slot : stampSlots) {
+        const OptionalDate &date = pic.slots.*description(slot).oldDate;
+        if (!isCleanDate(date) || !isLocalStamp(pic, slot))
+            continue;
+        if (isDivergent(pic, slot, *date, zone))
+            state.divergence |= bit(slot);
+        if (isAmbiguousLocalTime(*date, zone))
+            state.ambiguity |= bit(slot);
+    }
+    return state;
+}
+
+void checkImportDivergencyAndAmbiguityUsingZone(MySinglePic &pic, const absl::TimeZone &zone) {
+    const DSTState state = checkDSTDivergence(pic, zone);
+    pic.zones.dstDivergenceState = state.divergence;
+    if (pic.zones.usesAltTimeAtAmbiguityReason == 0)
+        pic.zones.dstAmbiguityAtImportState = state.ambiguity;
+}
+
+bool isDateSourceAmbiguousAtImport(const MySinglePic &pic) {
+    const StampSlot *slot = firstFilledSlot(pic);
+    return slot && (pic.zones.dstAmbiguityAtImportState & bit(*slot));
+}
+
+void correctAmbiguousDatesBy(MySinglePic &pic, absl::Duration difference) {
+    for (StampSlot slot : stampSlots) {
+        OptionalDate &date = pic.slots.*description(slot).oldDate;
+        if (date && (pic.zones.dstAmbiguityAtImportState & bit(slot)))
+            date = shifted(*date, difference);
+    }
+    // A photo that shows its file date is not moved by its stamp.
+    const StampSlot *slot = firstFilledSlot(pic);
+    if (slot && pic.spType != SpTypeTiffYoungerThanFile)
+        pic.spDateTimeOriginal = *(pic.slots.*description(*slot).oldDate);
+    if (pic.location.spGpsUTCDate)
+        updateGpsDateWithCreationDate(pic, pic.spDateTimeOriginal);
+}
+
+void reapplyAmbiguityCorrection(MySinglePic &pic) {
+    if (pic.zones.usesAltTimeAtAmbiguityReason != 0)
+        correctAmbiguousDatesBy(pic, -usualStep);
+}
+
+} // namespace chronomender

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ZoneLookup.h"
+
+#include "StampSyntax.h"
+
+namespace chronomender {
+namespace {
+
+using Kind = ZoneChoice::Kind;
+
+const ZoneChoice *ownChoiceOf(const MySinglePic &master, const ZoneAssignments &assignments) {
+    if (const ZoneChoice *own = assignments.ownChoice(master.sessionUniqueId))
+        return own;
+    const MySinglePicPtr &dependent = master.group.bundleDependentImage;
+    return dependent ? assignments.ownChoice(dependent->sessionUniqueId) : nullptr;
+}
+
+/// What holds for the item among the target choices, with the folder-wide marker resolved. Null
+/// means the system's zone.
+const ZoneChoice *targetChoiceForPic(const MySinglePic &pic, const MySingleFolder &folder) {
+    const ZoneChoice *choice = choiceForPic(pic, folder.targetTimeZones);
+    if (!choice || !choice->is(Kind::UnchangedLeftFolder))
+        return choice;
+    const auto &sourceDefault = folder.sourceTimeZones.folderDefault;
+    return sourceDefault ? &*sourceDefault : nullptr;
+}
+
+} // namespace
+
+const ZoneChoice *choiceForPicIgnoringDefault(const MySinglePic &pic,
+                                              const ZoneAssignments &assignments) {
+    if (assignments.ofItems.empty())
+        return nullptr;
+    const MySinglePicPtr master = pic.bundleMasterImage();
+    return ownChoiceOf(master ? *master : pic, assignments);
+}
+
+const ZoneChoice *choiceForPic(const MySinglePic &pic, const ZoneAssignments &assignments) {
+    if (const ZoneChoice *own = choiceForPicIgnoringDefault(pic, assignments))
+        return own;
+    return assignments.folderDefault ? &*assignments.folderDefault : nullptr;
+}
+
+const Zone &sourceTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &folder,
+                                 const Zones &zones) {
+    const ZoneChoice *choice = choiceForPic(pic, folder.sourceTimeZones);
+    return choice && choice->zone() ? *choice->zone() : zones.systemZone();
+}
+
+const Zone &targetTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &folder,
+                                 const Zones &zones) {
+    const ZoneChoice *choice = targetChoiceForPic(pic, folder);
+    if (!choice || choice->is(Kind::System))
+        return zones.systemZone();
+    return choice->zone() ? *choice->zone() : sourceTimeZoneForPic(pic, folder, zones);
+}
+
+Zone targetZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFolder &folder,
+                       const Zones &zones) {
+    const ZoneChoice *choice = targetChoiceForPic(pic, folder);
+    const LocatedBytes *zoneStamp = pic.zoneStamp(slot);
+    if (choice && choice->is(Kind::Own) && zoneStamp) {
+        const auto text = exifOffsetFromData(zoneStamp->data);
+        if (const auto seconds = text ? secondsFromExifOffset(*text) : std::nullopt)
+            return {*text, absl::FixedTimeZone(*seconds)};
+    }
+    return targetTimeZoneForPic(pic, folder, zones);
+}
+
+bool hasAssignedTargetZone(const MySinglePic &pic, const MySingleFolder &folder) {
+    const ZoneChoice *choice = choiceForPic(pic, folder.targetTimeZones);
+    return choice && !choice->is(Kind::UnchangedLeft) && !choice->is(Kind::UnchangedLeftFolder);
+}
+
+bool hasAnyTimeZoneChangeForPic(const MySinglePic &pic, const MySingleFolder &folder,
+                                const Zones &zones) {
+    return sourceTimeZoneForPic(pic, folder, zones) != zones.systemZone() ||
+           targetTimeZoneForPic(pic, folder, zones) != zones.systemZone();
+}
+
+} // namespace chronomender
