@@ -104,7 +104,8 @@ void calculateNewDates(MySinglePic &pic, const NewDateContext &context) {
         leaveUnchanged(pic, context);
     else
         calculateChanged(pic, context, workingType, occasion);
-    cleanupExifDateTimeAddition(pic);
+    if (pic.save.shouldAddExifDateTimeTags)
+        cleanupExifDateTimeAddition(pic);
 }
 
 void afterCalculationSetNewToOld(MySinglePic &pic, CalculationMode mode) {
