@@ -26,9 +26,9 @@ namespace {
 
 constexpr std::size_t MakerNoteSize = 4096;
 
-/// A picture whose stream has about that many bytes: grain makes some 1.6 bytes a pixel.
+/// A picture whose stream has about that many bytes: grain makes some 0.88 bytes a pixel.
 std::string body(std::size_t size) {
-    const int side = size == 0 ? 16 : static_cast<int>(std::sqrt(static_cast<double>(size) / 1.6));
+    const int side = size == 0 ? 16 : static_cast<int>(std::sqrt(static_cast<double>(size) / 0.88));
     auto picture = landscape(side, side, 12 * 3600, 1);
     addGrain(picture, 60, 1);
     return jpegOf(picture, 95, false);

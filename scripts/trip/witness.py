@@ -1,0 +1,110 @@
+#!/usr/bin/env python3
+"""witness.py TRIP: judges a mended sample trip without asking the program that mended it.
+
+TRIP holds photos/ (with plan.json, the truth), untouched/ (a copy from before), info.jsonl (where
+the program said that values stand), before.jsonl and after.jsonl (its lists). Exit code 1 when
+anything is not as it should be."""
+import json
+import pathlib
+import subprocess
+import sys
+
+TAGS = ["DateTimeOriginal", "CreateDate", "ModifyDate",
+        "OffsetTime", "OffsetTimeOriginal", "OffsetTimeDigitized"]
+
+
+def json_lines(path):
+    return [json.loads(line) for line in path.read_text().splitlines() if line.strip()]
+
+
+def read_with_exiftool(photos, paths):
+    arguments = [f"-EXIF:{tag}" for tag in TAGS]
+    done = subprocess.run(["exiftool", "-json", *arguments, *paths], cwd=photos,
+                          capture_output=True, text=True, check=False)
+    return {entry["SourceFile"]: entry for entry in json.loads(done.stdout or "[]")}
+
+
+def difference(expected, read):
+    """What is wrong in one file, "" when nothing is."""
+    wrong = [f"{tag} {read.get(tag)} instead of {value}" for tag, value in expected.items()
+             if read.get(tag) != value]
+    wrong += [f"{tag} appeared" for tag in TAGS if tag in read and tag not in expected]
+    return "; ".join(wrong)
+
+
+def judge_dates(photos, files):
+    read = read_with_exiftool(photos, [file["path"] for file in files])
+    print(f"\n{'file':<20} {'its clock said':<20} {'ExifTool reads now':<27} {'really taken':<26}")
+    faults = 0
+    for file in sorted(files, key=lambda file: file["taken"]):
+        found = read.get(file["path"], {})
+        wrong = difference(file["expected"], found)
+        faults += bool(wrong)
+        now = f"{found.get('DateTimeOriginal')} {found.get('OffsetTimeOriginal', '')}"
+        note = "edited later: kept" if file["isEdited"] else ""
+        print(f"{file['path']:<20} {file['clock']:<20} {now:<27} {file['taken']:<26}"
+              f" {'WRONG: ' + wrong if wrong else 'right'} {note}".rstrip())
+    return faults
+
+
+def order_faults(files, listed):
+    true_order = [file["path"] for file in sorted(files, key=lambda file: file["taken"])]
+    found = ["/".join(pathlib.PurePath(entry["path"]).parts[-2:]) for entry in listed]
+    return sum(a != b for a, b in zip(true_order, found)) + abs(len(true_order) - len(found))
+
+
+def judge_bytes(trip, files):
+    """Counts files changed, bytes changed, and bytes changed outside of the recorded values."""
+    ranges = {}
+    for entry in json_lines(trip / "info.jsonl"):
+        key = "/".join(pathlib.PurePath(entry["path"]).parts[-2:])
+        ranges[key] = [(value["offset"], value["offset"] + value["room"])
+                       for value in entry["values"]]
+    changed_files = changed_bytes = strays = resized = 0
+    for file in files:
+        old = (trip / "untouched" / file["path"]).read_bytes()
+        new = (trip / "photos" / file["path"]).read_bytes()
+        resized += len(old) != len(new)
+        places = [at for at, (a, b) in enumerate(zip(old, new)) if a != b] if old != new else []
+        changed_files += bool(places)
+        changed_bytes += len(places)
+        strays += sum(not any(begin <= at < end for begin, end in ranges.get(file["path"], []))
+                      for at in places)
+    return changed_files, changed_bytes, strays, resized
+
+
+def phone_is_untouched(trip, files):
+    def seen(path):
+        state = path.stat()
+        return path.read_bytes(), state.st_mtime_ns
+    paths = [file["path"] for file in files if file["path"].startswith("phone/")]
+    return all(seen(trip / "photos" / path) == seen(trip / "untouched" / path) for path in paths)
+
+
+def main():
+    trip = pathlib.Path(sys.argv[1])
+    files = json.loads((trip / "photos" / "plan.json").read_text())["files"]
+    date_faults = judge_dates(trip / "photos", files)
+    before = order_faults(files, json_lines(trip / "before.jsonl"))
+    after = order_faults(files, json_lines(trip / "after.jsonl"))
+    changed_files, changed_bytes, strays, resized = judge_bytes(trip, files)
+    verdicts = [
+        (date_faults == 0, f"dates: {len(files) - date_faults} of {len(files)} files hold the true "
+                           "time in every stamp and zone stamp"),
+        (before > 0 and after == 0,
+         f"order: {before} of {len(files)} files stood out of place before, {after} do now"),
+        (changed_files > 0 and strays == 0 and resized == 0,
+         f"bytes: {changed_bytes} bytes differ in {changed_files} files, {strays} of them outside "
+         f"the date values; {resized} files changed in size"),
+        (phone_is_untouched(trip, files), "care: the phone's files are as they were, times included"),
+    ]
+    print()
+    for is_good, text in verdicts:
+        print(f"{'OK  ' if is_good else 'FAIL'} {text}")
+    all_good = all(is_good for is_good, _ in verdicts)
+    print("\nVerdict: " + ("the trip is mended." if all_good else "the trip is NOT mended."))
+    return 0 if all_good else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
