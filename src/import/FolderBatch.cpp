@@ -5,6 +5,8 @@
 #include "NaturalCompare.h"
 #include "SystemFiles.h"
 
+#include <QCollator>
+
 #include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -61,11 +63,23 @@ bool isFolderInside(const FolderReference &folder, const FolderEntry &entry) {
 }
 
 void sortNaturally(std::vector<BatchEntry> &entries) {
+    struct Keyed {
+        QCollatorSortKey key;
+        BatchEntry entry;
+    };
     const NaturalCompare order;
-    std::ranges::sort(entries, [&](const BatchEntry &a, const BatchEntry &b) {
-        const int compared = order.compare(a.name, b.name);
-        return compared != 0 ? compared < 0 : a.name < b.name;
+    std::vector<Keyed> keyed;
+    keyed.reserve(entries.size());
+    for (BatchEntry &entry : entries) {
+        QCollatorSortKey key = order.sortKey(entry.name);
+        keyed.push_back({std::move(key), std::move(entry)});
+    }
+    std::ranges::sort(keyed, [](const Keyed &a, const Keyed &b) {
+        const int compared = a.key.compare(b.key);
+        return compared != 0 ? compared < 0 : a.entry.name < b.entry.name;
     });
+    std::ranges::transform(keyed, entries.begin(),
+                           [](Keyed &each) { return std::move(each.entry); });
 }
 
 BatchEntry batchEntry(FolderEntry entry, bool isNamed) {

@@ -3,8 +3,12 @@
 
 #include "NaturalCompare.h"
 
+#include <QCollator>
+
 #include <algorithm>
 #include <iterator>
+#include <span>
+#include <tuple>
 
 namespace chronomender {
 
@@ -31,35 +35,45 @@ std::vector<Entry> gathered(const std::vector<MySingleFolderPtr> &folders) {
     return entries;
 }
 
-/// Display order. Names are compared only between items of one date: natural order is by far the
-/// most expensive of the keys.
-class DisplayOrder {
-public:
-    bool operator()(const Entry &a, const Entry &b) const {
-        if (a.date != b.date)
-            return a.date < b.date;
-        const MySinglePic &left = **a.pic, &right = **b.pic;
-        const int names = m_names.compare(left.spSortNameCachedErrorOrReal(),
-                                          right.spSortNameCachedErrorOrReal());
-        if (names != 0)
-            return names < 0;
-        if (a.category != b.category)
-            return a.category < b.category;
-        return left.sessionUniqueId < right.sessionUniqueId;
-    }
+/// Display order but for the names.
+bool isBefore(const Entry &a, const Entry &b) {
+    return std::tuple(a.date, a.category, (*a.pic)->sessionUniqueId) <
+           std::tuple(b.date, b.category, (*b.pic)->sessionUniqueId);
+}
 
-private:
-    NaturalCompare m_names;
-};
+/// Puts items of one date in the natural order of their names; alike names keep their order.
+void sortByName(std::span<Entry> tied, const NaturalCompare &order) {
+    struct Keyed {
+        QCollatorSortKey key;
+        Entry entry;
+    };
+    std::vector<Keyed> keyed;
+    keyed.reserve(tied.size());
+    for (const Entry &entry : tied)
+        keyed.push_back({order.sortKey((*entry.pic)->spSortNameCachedErrorOrReal()), entry});
+    std::ranges::stable_sort(
+        keyed, [](const Keyed &a, const Keyed &b) { return a.key.compare(b.key) < 0; });
+    std::ranges::transform(keyed, tied.begin(), &Keyed::entry);
+}
+
+/// Natural order is by far the most expensive of the keys, so it is asked only where dates tie.
+void sortForDisplay(std::vector<Entry> &entries) {
+    std::ranges::sort(entries, isBefore);
+    const NaturalCompare order;
+    for (auto begin = entries.begin(); begin != entries.end();) {
+        const auto end = std::find_if(
+            begin, entries.end(), [&](const Entry &entry) { return entry.date != begin->date; });
+        if (end - begin > 1)
+            sortByName({begin, end}, order);
+        begin = end;
+    }
+}
 
 } // namespace
 
 void SourceBuilder::buildNewSource(const std::vector<MySingleFolderPtr> &folders) {
     std::vector<Entry> entries = gathered(folders);
-    const DisplayOrder order;
-    std::sort(entries.begin(), entries.end(),
-              [&](const Entry &a, const Entry &b) { return order(a, b); });
-
+    sortForDisplay(entries);
     m_sourceFull.clear();
     m_sourceFull.reserve(entries.size());
     std::vector<std::int64_t> nextInFolder(folders.size(), 0);
