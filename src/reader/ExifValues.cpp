@@ -26,10 +26,10 @@ std::optional<std::string_view> bytesElsewhere(const TiffBlock &block, const Tif
 /// The bytes of a stamp as they will be reported, or none when they are no stamp.
 std::optional<Bytes> stampIn(std::string_view bytes, std::uint32_t room) {
     const std::string_view full = bytes.substr(0, kStampLength);
-    if (full.find('\0') == std::string_view::npos && full.size() == kStampLength) {
+    if (full.size() == kStampLength && full.find('\0') == full.npos && verifyDateData(full)) {
         Bytes data(full);
         data.push_back('\0');
-        return verifyDateData(full) ? std::optional(data) : std::nullopt;
+        return data;
     }
     // A shortened stamp: behind its text, all that the field declares must be zero.
     const std::string_view field =
