@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "LittlePhoto.h"
+
+#include <filesystem>
+#include <fstream>
+
+// Writes the seeds of each fuzz target into a folder of its name below the given one.
+namespace {
+
+using namespace chronomender::little;
+
+void write(const std::filesystem::path &folder, const std::string &name, const std::string &bytes) {
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / name, std::ios::binary) << bytes;
+}
+
+BuiltTiff embeddedJpegRaw() {
+    const Jpeg inner =
+        Jpeg().exif(Tiff().text(Directory::First, 306, "2024:05:06 07:08:09").build().bytes);
+    const auto length = static_cast<std::uint32_t>(inner.bytes().size());
+    return Tiff().value(Directory::First, 46, 7, length, inner.bytes()).build();
+}
+
+void writePhotos(const std::filesystem::path &root) {
+    for (const Endian endian : {Endian::Intel, Endian::Motorola}) {
+        const std::string name = endian == Endian::Intel ? "intel" : "motorola";
+        PhotoFields fields = fullPhotoFields(endian);
+        fields.xmp = "<?xpacket begin=\"\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>";
+        fields.bodyLength = 8;
+        write(root / "jpeg_walk", name, jpegPhoto(fields).bytes);
+        write(root / "tiff_walk", name, tiffPhoto(fields).bytes);
+        write(root / "tiff_walk", name + "_behind", "FUJIFILM" + jpegPhoto(fields).bytes);
+    }
+    write(root / "jpeg_walk", "segments",
+          Jpeg().segment(0xE0, "JFIF").segment(0xFE, "comment").frame(0xC2).body(4).bytes());
+    write(root / "tiff_walk", "embedded", embeddedJpegRaw().bytes);
+}
+
+} // namespace
+
+int main(int count, char **arguments) {
+    if (count != 2)
+        return 2;
+    const std::filesystem::path root = arguments[1];
+    writePhotos(root);
+    int number = 0;
+    for (const char *text : {"2024:05:06 07:08:09", "2024: 5: 6  7: 8: 9", "0000:00:00 00:00:00",
+                             "    :  :     :  :  ", "+02:00", "-11:30", "2024:05:06"})
+        write(root / "stamp_texts", std::to_string(number++), std::string(text) + '\0');
+    return 0;
+}

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "DatesData.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace chronomender::little {
+
+/// Every value that was found, by the name that findings and tests use for it.
+inline std::map<std::string, LocatedBytes> valuesByName(const DatesData &dates) {
+    std::map<std::string, LocatedBytes> values;
+    const auto add = [&](const char *name, const std::optional<LocatedBytes> &value) {
+        if (value)
+            values[name] = *value;
+    };
+    add("ExifDateTimeOriginal", dates.exifDateTimeOriginal);
+    add("ExifDateTimeDigitized", dates.exifDateTimeDigitized);
+    add("TIFFDateTime", dates.tiffDateTime);
+    add("ExifOffsetTimeOriginal", dates.exifOffsetTimeOriginal);
+    add("ExifOffsetTimeDigitized", dates.exifOffsetTimeDigitized);
+    add("TIFFOffsetTime", dates.exifOffsetTiffTime);
+    add("GPSDateStamp", dates.gpsDateStamp);
+    if (dates.gpsTimeStamp)
+        add("GPSTimeStamp", dates.gpsTimeStamp->value);
+    if (const auto &location = dates.gpsLocation) {
+        add("latitudeRef", location->latitudeRef);
+        add("latitude", location->latitude);
+        add("longitudeRef", location->longitudeRef);
+        add("longitude", location->longitude);
+        add("altitudeRef", location->altitudeRef);
+        add("altitude", location->altitude);
+        add("hPositioningError", location->hPositioningError);
+    }
+    return values;
+}
+
+/// The first value whose bytes do not stand in the file where the reader says, or that has room
+/// behind the file's end. The zero byte that ends a full stamp is the reader's own.
+inline std::optional<std::string> firstUntruth(const DatesData &dates, std::string_view file) {
+    constexpr std::size_t kTerminatedStamp = 20;
+    for (const auto &[name, value] : valuesByName(dates)) {
+        std::string_view data = value.data;
+        if (data.size() == kTerminatedStamp)
+            data.remove_suffix(1);
+        if (value.offset > file.size() || file.substr(value.offset, data.size()) != data)
+            return name + " does not stand at " + std::to_string(value.offset);
+        if (value.room > file.size() - value.offset)
+            return name + " has room behind the end of the file";
+    }
+    return std::nullopt;
+}
+
+} // namespace chronomender::little
