@@ -86,7 +86,7 @@ void readEmbeddedStamp(const ByteRange &file, const TiffBlock &outer, const Tiff
 /// Follows the pointer to a further directory, unless it leads back to one that was read before.
 bool isNewDirectory(const TiffBlock &block, const std::optional<TiffEntry> &pointer,
                     std::span<const std::uint32_t> visited, const char *name, DatesData &dates) {
-    if (!pointer)
+    if (!pointer || pointer->value < kTiffHeaderLength)
         return false;
     if (std::ranges::find(visited, pointer->value) == visited.end())
         return true;

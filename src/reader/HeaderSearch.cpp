@@ -41,20 +41,21 @@ std::optional<TiffHeader> headerAtFileStart(const ByteRange &file) {
     return std::nullopt;
 }
 
-HeaderScan scanForHeader(FileWindow &window) {
+HeaderScan scanForHeader(FileWindow &window, std::uint64_t mostBytes) {
     if (const auto header = headerAtFileStart(ByteRange(window)))
         return {header, false};
     std::uint64_t scanned = 0;
     std::uint64_t at = window.nextData(0);
-    while (scanned < HeaderScan::kMostScannedBytes) {
+    while (scanned < mostBytes) {
         const std::string_view block = window.block(at);
         if (const auto header = firstMagicIn(block))
             return {TiffHeader{at + header->offset, header->order}, false};
         if (block.size() < FileWindow::kScanBlock)
             return {};
-        scanned += block.size();
         // A magic may lie across two blocks.
-        at = window.nextData(at + block.size() - (kTiffMagicLength - 1));
+        const std::uint64_t step = block.size() - (kTiffMagicLength - 1);
+        scanned += step;
+        at = window.nextData(at + step);
     }
     return {std::nullopt, true};
 }

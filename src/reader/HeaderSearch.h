@@ -13,13 +13,12 @@ std::optional<TiffHeader> headerAt(const ByteRange &file, std::uint64_t offset);
 std::optional<TiffHeader> headerAtFileStart(const ByteRange &file);
 
 /// The first TIFF header anywhere in the file: at its start as above, else the first full magic.
-/// Holes are passed over, and at most `kMostScannedBytes` are read.
+/// Holes are passed over, and reading ends at the first block that reaches `mostBytes`.
 struct HeaderScan {
-    static constexpr std::uint64_t kMostScannedBytes = 256ULL << 20;
-
     std::optional<TiffHeader> header;
     bool hasReachedLimit = false; ///< the search ended for its limit, not for the file's end
 };
-HeaderScan scanForHeader(FileWindow &window);
+inline constexpr std::uint64_t kMostScannedBytes = 256ULL << 20;
+HeaderScan scanForHeader(FileWindow &window, std::uint64_t mostBytes = kMostScannedBytes);
 
 } // namespace chronomender

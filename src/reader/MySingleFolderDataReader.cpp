@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <string_view>
+#include <strings.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -42,10 +43,8 @@ constexpr std::array kFormatWalks{
 /// A raw file that is a box structure and has no TIFF header to be scanned for.
 bool isBoxedRaw(FileFormatType format, std::string_view extension) {
     constexpr std::string_view kBoxedRawExtension = "cr3";
-    return format == FileFormatRaw &&
-           std::ranges::equal(extension, kBoxedRawExtension, [](char given, char lower) {
-               return given == lower || (given >= 'A' && given <= 'Z' && given + 32 == lower);
-           });
+    return format == FileFormatRaw && extension.size() == kBoxedRawExtension.size() &&
+           ::strncasecmp(extension.data(), kBoxedRawExtension.data(), extension.size()) == 0;
 }
 
 Walk walkFor(FileFormatType format, std::string_view extension) {
@@ -70,8 +69,7 @@ std::optional<TiffHeader> findHeader(FileWindow &window, Walk walk, DatesData &d
     case Walk::Scan: {
         const HeaderScan scan = scanForHeader(window);
         if (scan.hasReachedLimit)
-            dates.findings.push_back(
-                {"TIFFHeader", HeaderScan::kMostScannedBytes, FindingReason::ScanLimit});
+            dates.findings.push_back({"TIFFHeader", kMostScannedBytes, FindingReason::ScanLimit});
         return scan.header;
     }
     }

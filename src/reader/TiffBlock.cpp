@@ -28,6 +28,8 @@ std::uint32_t TiffBlock::firstDirectory() const {
 
 bool TiffBlock::findEntries(std::uint32_t offset, std::span<const std::uint16_t> tags,
                             std::span<std::optional<TiffEntry>> found) const {
+    if (offset < kTiffHeaderLength) // an empty pointer, not a directory inside the header
+        return false;
     const auto countBytes = m_range.bytes(offset, kTiffCountLength);
     const std::uint32_t count = countBytes ? number16(*countBytes, m_order) : 0;
     std::uint64_t at = std::uint64_t{offset} + kTiffCountLength;

@@ -21,6 +21,7 @@ inline constexpr std::string_view kTiffMagicMotorola{"MM\0*", kTiffMagicLength};
 inline constexpr std::string_view kTiffOrderIntel = "II";
 inline constexpr std::string_view kTiffOrderMotorola = "MM";
 
+inline constexpr std::uint32_t kTiffHeaderLength = 8;
 inline constexpr std::uint64_t kTiffFirstDirectoryAt = 4; ///< from the header
 inline constexpr std::size_t kTiffCountLength = 2;
 inline constexpr std::size_t kTiffEntryLength = 12;

@@ -92,6 +92,10 @@ TEST(HostileDirectory, CountsAndOffsetsBeyondTheFileAreAbsences) {
     EXPECT_THAT(valuesByName(dates), IsEmpty());
     EXPECT_EQ(dates.findings.size(), 4u); // two stamps, a zone stamp, a directory twice
 
+    Tiff empty;
+    empty.field(Directory::First, 34665, 4, 1, 0).field(Directory::First, 34853, 4, 1, 0);
+    EXPECT_THAT(readTiff(empty.build().bytes).findings, IsEmpty());
+
     std::string noDirectory = counts.build().bytes;
     noDirectory.replace(4, 4, "\xFF\xFF\xFF\xFF");
     EXPECT_EQ(readTiff(noDirectory).tiffHeaderStartOffset, 0u);
@@ -110,6 +114,19 @@ TEST(HugeFile, IsScannedForItsDataOnly) {
     const DatesData dates = reader.readDates(FileFormatRaw, "raf");
     EXPECT_EQ(text(dates.tiffDateTime), kStamp);
     EXPECT_GT(dates.tiffDateTime->offset, std::uint64_t{kHuge / 2});
+}
+
+TEST(HugeFile, IsScannedUpToALimit) {
+    constexpr std::uint64_t kLimit = 512 * 1024;
+    const auto scan = [](std::size_t length) {
+        const std::string bytes(length, 'r');
+        const little::MemoryFile file(bytes);
+        FileWindow window(file.descriptor(), bytes.size(), false);
+        return scanForHeader(window, kLimit);
+    };
+    EXPECT_FALSE(scan(kLimit - 1).hasReachedLimit);
+    EXPECT_TRUE(scan(2 * kLimit).hasReachedLimit);
+    EXPECT_FALSE(scan(2 * kLimit).header);
 }
 
 TEST(HugeFile, OfTinySegmentsEnds) {
