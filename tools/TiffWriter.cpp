@@ -95,7 +95,7 @@ std::vector<TiffWriter::Field> TiffWriter::withPointers(std::uint32_t exifOffset
 }
 
 void TiffWriter::writeDirectory(std::string &out, const std::vector<Field> &fields,
-                                bool hasNext) const {
+                                std::uint32_t nextOffset) const {
     const auto begin = sizeOf(out);
     auto valueOffset = begin + 2 + EntrySize * static_cast<std::uint32_t>(fields.size()) + 4;
     std::string values;
@@ -110,29 +110,25 @@ void TiffWriter::writeDirectory(std::string &out, const std::vector<Field> &fiel
         values += field.raw + std::string(evenSize(field.raw) - field.raw.size(), '\0');
         valueOffset += evenSize(field.raw);
     }
-    out += encoded(hasNext ? valueOffset : 0, 4) + values;
+    out += encoded(nextOffset, 4) + values;
 }
 
 std::string TiffWriter::build() const {
     const std::string header =
         (m_order == ByteOrder::Intel ? "II" : "MM") + encoded(42, 2) + encoded(HeaderSize, 4);
-    const bool hasThumbnail = !m_directories[Thumbnail].empty();
-
-    // The directories stand in the order Image, Thumbnail, Exif, GPS: the second follows the first
-    // by its link, the others by pointers whose values a first pass with zeros finds.
-    std::uint32_t exifOffset = 0, gpsOffset = 0;
+    // The directories stand in the order Image, Exif, GPS, Thumbnail, as cameras write them; each
+    // is reached by an offset in the first, which the first pass finds and the second writes.
+    std::array<std::uint32_t, 4> offsets{};
     std::string out;
     for (int pass = 0; pass < 2; ++pass) {
         out = header;
-        writeDirectory(out, withPointers(exifOffset, gpsOffset), hasThumbnail);
-        if (hasThumbnail)
-            writeDirectory(out, m_directories[Thumbnail], false);
-        exifOffset = sizeOf(out);
-        if (!m_directories[Exif].empty())
-            writeDirectory(out, m_directories[Exif], false);
-        gpsOffset = sizeOf(out);
-        if (!m_directories[Gps].empty())
-            writeDirectory(out, m_directories[Gps], false);
+        writeDirectory(out, withPointers(offsets[Exif], offsets[Gps]), offsets[Thumbnail]);
+        for (const auto directory : {Exif, Gps, Thumbnail}) {
+            if (m_directories[directory].empty())
+                continue;
+            offsets[directory] = sizeOf(out);
+            writeDirectory(out, m_directories[directory], 0);
+        }
     }
     return out;
 }

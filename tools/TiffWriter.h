@@ -49,7 +49,8 @@ private:
     };
     void add(Directory where, Field field);
     std::string encoded(std::uint32_t value, int width) const;
-    void writeDirectory(std::string &out, const std::vector<Field> &fields, bool hasNext) const;
+    void writeDirectory(std::string &out, const std::vector<Field> &fields,
+                        std::uint32_t nextOffset) const;
     std::vector<Field> withPointers(std::uint32_t exifOffset, std::uint32_t gpsOffset) const;
 
     ByteOrder m_order;

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+namespace chronomender::bench {
+
+/// What any program must pay that reads or patches these files: bare system calls on two threads,
+/// with nothing done about what was read.
+
+/// open, fstat, one pread of 64 KiB, close. None of the files may be missing; a negative duration
+/// tells that one was.
+std::chrono::duration<double> readLimit(const std::vector<std::string> &paths);
+
+/// open, pread of 4 KiB, three pwrite of 19 bytes (each writing what stands there already),
+/// futimens (setting the time that the file has already), close. The files are the same afterwards.
+std::chrono::duration<double> patchLimit(const std::vector<std::string> &paths);
+
+} // namespace chronomender::bench

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The figures that need no other program: limits, import, save, sort. Expects in
+// CHRONOMENDER_BENCH_FILES a folder with `many` (JPEGs with bodies of 200 KB), `short` and `long`
+// (fewer files, bodies of 200 KB and 4 MB) and `small` (folders of the smallest files), as
+// scripts/bench makes them. Every benchmark leaves the files as it found them or one hour away.
+
+#include "Limits.h"
+#include "MainThread.h"
+#include "Session.h"
+#include "Texts.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QtCore/QCoreApplication>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+
+namespace chronomender::bench {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+std::string folderNamed(const std::string &name) {
+    const char *root = std::getenv("CHRONOMENDER_BENCH_FILES");
+    return std::string(root ? root : ".") + "/" + name;
+}
+
+double secondsSince(Clock::time_point begin) {
+    return std::chrono::duration<double>(Clock::now() - begin).count();
+}
+
+using LimitFunction = std::chrono::duration<double> (*)(const std::vector<std::string> &);
+
+void limit(benchmark::State &state, LimitFunction function, const std::string &folder) {
+    const auto paths = filesOf(folderNamed(folder));
+    for (auto _ : state) {
+        const auto time = function(paths).count();
+        if (time < 0)
+            state.SkipWithError("a file could not be read or written");
+        state.SetIterationTime(time);
+    }
+    state.counters["files"] = static_cast<double>(paths.size());
+}
+
+void importToDates(benchmark::State &state, const std::string &folder) {
+    const auto count = filesOf(folderNamed(folder)).size();
+    for (auto _ : state) {
+        Session session;
+        const auto begin = Clock::now();
+        const auto imported = session.import(folderNamed(folder));
+        state.SetIterationTime(secondsSince(begin));
+        if (imported != count)
+            state.SkipWithError("not every file gave an item with dates");
+    }
+    state.counters["files"] = static_cast<double>(count);
+}
+
+/// Both stages, from the first proof to the model's update; the shift goes to and fro.
+void saveStage(benchmark::State &state, const std::string &folder) {
+    Session session;
+    const auto count = session.import(folderNamed(folder));
+    auto shift = absl::Hours(1);
+    double firstStage = 0, bytes = 0;
+    for (auto _ : state) {
+        session.shift(shift);
+        shift = -shift;
+        const auto writtenBefore = bytesWritten();
+        const auto begin = Clock::now();
+        const auto proved = session.preProcess();
+        firstStage = secondsSince(begin);
+        const auto saved = session.save();
+        state.SetIterationTime(secondsSince(begin));
+        bytes = static_cast<double>(bytesWritten() - writtenBefore);
+        if (count == 0 || proved != count || saved != count)
+            state.SkipWithError("not every file was saved");
+    }
+    state.counters["files"] = static_cast<double>(count);
+    state.counters["bytes"] = bytes;
+    state.counters["firstStage"] = firstStage;
+}
+
+void sortAll(benchmark::State &state) {
+    static Session session;
+    auto &controller = session.controller();
+    if (controller.droppedFolders().droppedFolders().empty())
+        for (const auto &entry : std::filesystem::directory_iterator(folderNamed("small")))
+            session.import(entry.path());
+    for (auto _ : state) {
+        const auto begin = Clock::now();
+        controller.buildNewSource();
+        state.SetIterationTime(secondsSince(begin));
+    }
+    state.counters["files"] = static_cast<double>(controller.source_full().size());
+}
+
+void registerAll() {
+    const auto add = [](const char *name, auto &&...rest) {
+        benchmark::RegisterBenchmark(name, rest...)
+            ->Iterations(1)
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond);
+    };
+    add("readLimit/many", limit, readLimit, "many");
+    add("import/many", importToDates, "many");
+    add("patchLimit/many", limit, patchLimit, "many");
+    add("save/many", saveStage, "many");
+    for (const std::string folder : {"short", "long"}) {
+        add(("import/" + folder).c_str(), importToDates, folder);
+        add(("save/" + folder).c_str(), saveStage, folder);
+    }
+    add("sort/small", [](benchmark::State &state) { sortAll(state); });
+}
+
+} // namespace
+
+} // namespace chronomender::bench
+
+int main(int argc, char **argv) {
+    QCoreApplication application(argc, argv);
+    chronomender::mainThread::initialise();
+    chronomender::loadTexts("en");
+    chronomender::bench::registerAll();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
