@@ -6,6 +6,7 @@
 #include "MySingleFolder.h"
 #include "NewDates.h"
 #include "SaveErrors.h"
+#include "SaveOutcome.h"
 #include "UndoManager.h"
 #include "UserDefaults.h"
 #include "Zones.h"
@@ -23,30 +24,6 @@ enum class SaveProcessType : int {
     Rename = 2,
     SaveThenRename = 3,
     SaveThenRenameAll = 4
-};
-
-enum class SlotResult : std::uint8_t { Unchanged, WrittenInPlace, Refused, NotStorable };
-struct SlotOutcome {
-    std::string_view slot; ///< name of the slot, from `slotDescriptions`
-    OptionalDate oldDate, newDate;
-    SlotResult result = SlotResult::Unchanged;
-};
-
-enum class ItemResult : std::uint8_t {
-    Saved,
-    Unchanged,  ///< nothing to write
-    Refused,    ///< a problem stopped it before the save, or the proof failed
-    Failed,     ///< an error in the middle
-    NotReached, ///< the run was cancelled before it
-};
-
-/// What happened to one item, or in a dry run would happen.
-struct ItemOutcome {
-    MySinglePicPtr pic;
-    ItemResult result = ItemResult::Unchanged;
-    std::vector<SlotOutcome> slots;
-    std::vector<PreSaveFinding> problems;
-    std::vector<SaveError> errors;
 };
 
 /// Stage one's answer: items that would be saved, with every NEW slot filled, and the problems
@@ -102,6 +79,8 @@ public:
     static std::size_t piValueForCount(std::size_t count);
 
 private:
+    std::vector<MySingleFolderPtr> foldersToSave(const SaveRequest &request) const;
+
     const std::vector<MySingleFolderPtr> &m_folders;
     SaveServices m_services;
     std::atomic<bool> m_isSavingInProgress{false};

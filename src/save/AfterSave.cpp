@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "AfterSave.h"
+
+#include "DateModifications.h"
+#include "DaylightSavingChecks.h"
+#include "ItemFilling.h"
+#include "ZoneLookup.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace chronomender {
+namespace {
+
+constexpr unsigned kDateError = 4;
+constexpr unsigned kTagAddError = 2;
+
+bool isFileDateType(SpType type) {
+    return hasNoDateTags(type) || isPreferringFileDate(type);
+}
+
+void updateMainDate(MySinglePic &pic) {
+    const OptionalDate &source =
+        isFileDateType(pic.spType)          ? pic.slots.fileCreationDateOLD
+        : pic.spType == SpTypeExifOriginal  ? pic.slots.exifDateTimeOriginalOLD
+        : pic.spType == SpTypeExifDigitized ? pic.slots.exifDateTimeDigitizedOLD
+        : pic.spType == SpTypeTiffDateTime  ? pic.slots.tiffDateTimeOLD
+                                            : pic.slots.fileCreationDateOLD;
+    if (isCleanDate(source))
+        pic.spDateTimeOriginal = *source;
+}
+
+void updateStampSlots(MySinglePic &pic, const PatchPlan &plan) {
+    for (std::size_t i = 0; i < stampSlots.size(); ++i)
+        if (plan.stamps[i].readBack && plan.stamps[i].result != SlotResult::Refused)
+            pic.slots.*description(stampSlots[i]).oldDate = plan.stamps[i].readBack;
+}
+
+void clearUndoRedo(const MySingleFolder &folder, UndoManager &undo) {
+    if (!undo.canUndo() && !undo.canRedo())
+        return;
+    undo.removeAllActionsWithTarget(&folder);
+    for (const MySinglePicPtr &pic : folder.sfPicDetails_fullArray)
+        undo.removeAllActionsWithTarget(pic.get());
+}
+
+/// What a save of the folder leaves: items that keep their correction, and items that had none.
+struct Remainder {
+    std::vector<MySinglePicPtr> keepingTheirShift, leftOut;
+};
+
+Remainder remainderOf(const MySingleFolder &folder, const std::vector<MySinglePicPtr> &saved) {
+    std::unordered_set<const MySinglePic *> done;
+    for (const MySinglePicPtr &pic : saved)
+        done.insert(pic.get());
+    Remainder remainder;
+    for (const MySinglePicPtr &pic : folder.sfPicDetails_fullArray) {
+        if (done.contains(pic.get()))
+            continue;
+        const bool keepsShift = pic->isThisTimeUnsaved();
+        (keepsShift ? remainder.keepingTheirShift : remainder.leftOut).push_back(pic);
+    }
+    return remainder;
+}
+
+void moveZonesOn(MySingleFolder &folder, const Remainder &remainder, const Zones &zones) {
+    if (!remainder.leftOut.empty())
+        updateSelectionZonesForUnchangedFiles(folder, remainder.leftOut);
+    updateSelectionZonesForTimeErrorFiles(folder, remainder.keepingTheirShift);
+    cleanupTimeZones(folder);
+    validateTZCUnsaved(folder, zones);
+}
+
+/// The folder's shift is gone; items that were not saved keep it as their own.
+void dropFolderShift(MySingleFolder &folder, const std::vector<MySinglePicPtr> &keepers) {
+    const absl::Duration shift = folder.sfDateModificationsTimeInterval;
+    setDirection(folder, DateModificationFields{});
+    if (keepers.empty() || shift == absl::ZeroDuration())
+        return;
+    changeEditMode(folder, EditMode::Single);
+    for (const MySinglePicPtr &pic : keepers)
+        updateSinglePicModificationBy(*pic, shift);
+}
+
+void dropSingleShifts(MySingleFolder &folder, const std::vector<MySinglePicPtr> &saved) {
+    for (const MySinglePicPtr &pic : saved)
+        pic->shift.singlePicModification = absl::ZeroDuration();
+    clearSinglePicModeImages(folder);
+    for (const MySinglePicPtr &pic : folder.sfPicDetails_fullArray)
+        if (pic->shift.singlePicModification != absl::ZeroDuration())
+            addSinglePicModeImage(folder);
+}
+
+} // namespace
+
+bool needsFullUpdate(const MySinglePic &pic, const PatchPlan &plan) {
+    const SpType type = typeAfterFillingEmptyTags(pic.spType);
+    return type == SpTypeTiffDateTime || type == SpTypeTiffYoungerThanFile ||
+           std::any_of(plan.stamps.begin(), plan.stamps.end(),
+                       [](const StampPlan &stamp) { return stamp.isAmbiguous; });
+}
+
+void applySavedPlan(MySinglePic &pic, const PatchPlan &plan, const PatchOutcome &outcome,
+                    const MySingleFolder &folder, const Zones &zones) {
+    const bool isAmbiguous = std::any_of(plan.stamps.begin(), plan.stamps.end(),
+                                         [](const StampPlan &stamp) { return stamp.isAmbiguous; });
+    const Zone target = targetTimeZoneForPic(pic, folder, zones);
+    applyPatches(pic.singlePicAttributes, plan.patches);
+    if (outcome.attributes)
+        takeFileAttributes(pic, *outcome.attributes);
+    updateStampSlots(pic, plan);
+    pic.spType = typeAfterFillingEmptyTags(pic.spType);
+    if (pic.spType == SpTypeNoTagsFixedDate)
+        pic.spType = SpTypeNoTagsFileDate;
+    updateMainDate(pic);
+    if (plan.newGpsDate)
+        pic.location.spGpsUTCDate = plan.newGpsDate;
+    if (isAmbiguous)
+        pic.zones.usesAltTimeAtAmbiguityReason = 1;
+    checkImportDivergencyAndAmbiguityUsingZone(pic, target.rules);
+    pic.zones.isUnsavedDueToTZC = false;
+    pic.save.saveErrorType = 0;
+    pic.save.fileUnchangedState = FileUnchangedState::Unchanged;
+    pic.save.isInvalidDueToChangesAfterImport = false;
+    pic.save.didRefreshTimesAfterSave = true;
+    validateFilesystemNormalization(pic);
+    validateMetaNormalization(pic);
+}
+
+void applySaveFailure(MySinglePic &pic, const PatchOutcome &outcome, bool savingAll) {
+    pic.save.fileUnchangedState = outcome.state;
+    pic.save.saveErrorType = (pic.save.shouldAddExifDateTimeTags ? kTagAddError : 0U) |
+                             (savingAll || pic.isThisPureTimeUnsaved() ? kDateError : 0U);
+    // After values were put back the file has new times, which are ours and belong to the proof.
+    if (outcome.attributes)
+        takeFileAttributes(pic, *outcome.attributes);
+}
+
+void clearDateValuesAfterSavingFolder(MySingleFolder &folder, const FolderSaveSummary &summary,
+                                      UndoManager &undo, const Zones &zones,
+                                      int dateComparisonThresold) {
+    clearUndoRedo(folder, undo);
+    const Remainder remainder = remainderOf(folder, summary.saved);
+    for (const MySinglePicPtr &pic : summary.saved)
+        updateSourceTimeZoneFromTargetTimeZoneForPic(*pic, folder, zones);
+    moveZonesOn(folder, remainder, zones);
+    if (folder.sfEditMode == EditMode::Together)
+        dropFolderShift(folder, remainder.keepingTheirShift);
+    else
+        dropSingleShifts(folder, summary.saved);
+    for (const MySinglePicPtr &pic : summary.needingFullUpdate)
+        updateAllDatesAfterUpdatingTimezone(*pic, folder, zones, dateComparisonThresold);
+    sfUpdatePicsFromAndTill(folder);
+}
+
+} // namespace chronomender

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "MySingleFolder.h"
+#include "Patch.h"
+#include "SaveErrors.h"
+#include "SaveOutcome.h"
+#include "UserDefaults.h"
+#include "Zones.h"
+
+#include <array>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace chronomender {
+
+/// What a person accepted for one item before the save.
+struct Acceptance {
+    bool ambiguousStamp = false, zoneStampRewritten = false, unreadableStamp = false;
+
+    static Acceptance everything() { return {true, true, true}; }
+    static Acceptance of(std::span<const PreSaveFinding> problems);
+};
+
+/// Why an item cannot be written.
+enum class PlanObstacle : std::uint8_t {
+    None,
+    UnreadableBack, ///< a stamp would not read back as the wanted instant, or cannot be built
+    NoRoom,         ///< the stamp that holds the item's date has no room in its field
+    ValuesCollide,  ///< two values of the file share bytes and want different ones
+    NotAccepted,    ///< it would do what nobody accepted
+};
+/// Text key of an obstacle, for example "saveObstacle_noRoom"; "" for none.
+std::string_view textKey(PlanObstacle obstacle);
+
+/// What is to become of one stamp.
+struct StampPlan {
+    SlotResult result = SlotResult::Unchanged;
+    /// The instant that the stamp stands for after the save; none where nothing is recorded.
+    OptionalDate readBack;
+    bool isAmbiguous = false;          ///< it reads back as another instant, and that is known
+    std::string overwrittenUnreadable; ///< the unreadable stamp that would go; "" without one
+    std::string zoneChange;            ///< "+02:00 → +00:00"; "" when the offset stays
+};
+
+/// Everything that a save of one item will do to its file, decided before the file is opened.
+struct PatchPlan {
+    std::array<StampPlan, stampSlots.size()> stamps; ///< in the order of `stampSlots`
+    std::vector<Patch> patches;                      ///< only those that change a byte
+    OptionalDate modificationDate;                   ///< none: the file's times stay as they are
+    OptionalDate newGpsDate;                         ///< none: the GPS stamps stay
+    PlanObstacle obstacle = PlanObstacle::None;
+
+    bool isEmpty() const { return patches.empty() && !modificationDate; }
+};
+
+/// What a plan needs to know beside the item.
+struct PlanContext {
+    const MySingleFolder &folder;
+    const Zones &zones;
+    bool syncGPSDataOnSave = true;
+    bool syncGPSDataOnSaveType = true;
+
+    PlanContext(const MySingleFolder &folder, const Zones &zones, const UserDefaults &defaults);
+};
+
+/// Builds every stamp from the item's NEW slots and reads it back by the reader's own parser. The
+/// item is only read.
+PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context,
+                     const Acceptance &acceptance);
+
+/// The five slots of the item, OLD and NEW, with what the plan makes of them.
+std::vector<SlotOutcome> slotOutcomes(const MySinglePic &pic, const PatchPlan &plan);
+
+} // namespace chronomender

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SaveDriver.h"
+
+#include "FolderSave.h"
+#include "MainThread.h"
+#include "PreProcess.h"
+
+#include <absl/time/clock.h>
+
+#include <algorithm>
+
+namespace chronomender {
+namespace {
+
+constexpr std::size_t kPreProcessStep = 100;
+
+/// Both stages and the question between them are one save; each stage ends its part.
+class InProgress {
+public:
+    explicit InProgress(std::atomic<bool> &flag) : m_flag(flag) { m_flag = true; }
+    ~InProgress() { m_flag = false; }
+    InProgress(const InProgress &) = delete;
+    InProgress &operator=(const InProgress &) = delete;
+
+private:
+    std::atomic<bool> &m_flag;
+};
+
+bool isSavingType(SaveProcessType type) {
+    return type != SaveProcessType::Rename;
+}
+
+} // namespace
+
+SaveDriver::SaveDriver(const std::vector<MySingleFolderPtr> &folders, SaveServices services)
+    : m_folders(folders), m_services(std::move(services)) {}
+
+bool SaveDriver::isSavingInProgress() const {
+    return m_isSavingInProgress;
+}
+
+std::size_t SaveDriver::piValueForCount(std::size_t count) {
+    constexpr std::size_t updates = 10, mostBetween = 25;
+    return count < updates ? 1 : std::min(count / updates, mostBetween);
+}
+
+std::vector<MySingleFolderPtr> SaveDriver::foldersToSave(const SaveRequest &request) const {
+    if (request.onlyFolder)
+        return {request.onlyFolder};
+    std::vector<MySingleFolderPtr> folders;
+    for (const MySingleFolderPtr &folder : m_folders) {
+        const bool isAll = request.type == SaveProcessType::SaveThenRenameAll;
+        const bool hasWork = request.savingAll || folder->isUnsavedFolder();
+        if (folder->count() > 0 && (isAll || (hasWork && !folder->isEXIFIgnored)))
+            folders.push_back(folder);
+    }
+    return folders;
+}
+
+PreProcessResult SaveDriver::preProcessThread(const SaveRequest &request) {
+    const InProgress inProgress(m_isSavingInProgress);
+    PreProcessResult result;
+    if (!isSavingType(request.type))
+        return result;
+    std::vector<std::vector<MySinglePicPtr>> items;
+    std::size_t total = 0;
+    mainThread::callAndWait([&] {
+        result.folders = foldersToSave(request);
+        for (const MySingleFolderPtr &folder : result.folders) {
+            // From here on every proof that was taken before is out of date.
+            folder->lastLocalChange = absl::Now();
+            items.push_back(itemsToSave(*folder, request.savingAll));
+            total += items.back().size();
+        }
+    });
+    const DateChangeOptions options =
+        cachedSaveOptions(m_services.defaults, m_services.now(), request.savingAll);
+    ProgressCounter progress(m_services.progress, total, kPreProcessStep);
+    result.items.reserve(total);
+    for (std::size_t i = 0; i < items.size() && !result.wasCancelled; ++i)
+        result.wasCancelled =
+            !FolderPreProcess(result.folders[i], std::move(items[i]), request, m_services, options)
+                 .run(progress, result);
+    return result;
+}
+
+SaveRunResult SaveDriver::continueProcessThread(const SaveRequest &request,
+                                                const PreProcessResult &preProcess) {
+    const InProgress inProgress(m_isSavingInProgress);
+    SaveRunResult result;
+    if (!isSavingType(request.type))
+        return result;
+    const std::size_t total = preProcess.items.size();
+    ProgressCounter progress(m_services.progress, total, piValueForCount(total));
+    result.items.reserve(total);
+    std::span<const ItemOutcome> left(preProcess.items);
+    while (!left.empty()) {
+        const auto folder = left.front().pic->spSingleRealFolder();
+        const auto next = std::find_if(left.begin(), left.end(), [&](const ItemOutcome &item) {
+            return item.pic->spSingleRealFolder() != folder;
+        });
+        const auto count = static_cast<std::size_t>(next - left.begin());
+        if (folder)
+            FolderSave(folder, left.first(count), request, m_services).run(progress, result);
+        left = left.subspan(count);
+    }
+    return result;
+}
+
+} // namespace chronomender

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "SaveErrors.h"
+
+#include <string_view>
+#include <vector>
+
+namespace chronomender {
+
+enum class SlotResult : std::uint8_t { Unchanged, WrittenInPlace, Refused, NotStorable };
+struct SlotOutcome {
+    std::string_view slot; ///< name of the slot, from `slotDescriptions`
+    OptionalDate oldDate, newDate;
+    SlotResult result = SlotResult::Unchanged;
+};
+
+enum class ItemResult : std::uint8_t {
+    Saved,
+    Unchanged,  ///< nothing to write
+    Refused,    ///< a problem stopped it before the save, or the proof failed
+    Failed,     ///< an error in the middle
+    NotReached, ///< the run was cancelled before it
+};
+
+/// What happened to one item, or in a dry run would happen.
+struct ItemOutcome {
+    MySinglePicPtr pic;
+    ItemResult result = ItemResult::Unchanged;
+    std::vector<SlotOutcome> slots;
+    std::vector<PreSaveFinding> problems;
+    std::vector<SaveError> errors;
+};
+
+} // namespace chronomender
