@@ -13,8 +13,8 @@ namespace chronomender {
 
 namespace {
 
-// The tags that are looked for in one go. The first ones may stand in either directory; their order
-// is that of the values' tables.
+// The tags that are looked for in one go; those in front of kSharedTags may stand in either
+// directory.
 enum Wanted : std::size_t {
     Original,
     Digitized,
@@ -31,6 +31,7 @@ enum Wanted : std::size_t {
     kAllTags
 };
 
+// In the order of Wanted.
 constexpr std::array<std::uint16_t, kAllTags> kTags{
     kTagDateTimeOriginal,
     kTagDateTimeDigitized,
@@ -65,7 +66,7 @@ constexpr std::array kZoneSlots{
     StampSlot{ZoneModified, "TIFFOffsetTime", &DatesData::exifOffsetTiffTime},
 };
 
-/// A panasonic raw file keeps a JPEG with an Exif block of its own; that block's first directory
+/// A Panasonic raw file keeps a JPEG with an Exif block of its own; that block's first directory
 /// gives the modification stamp when the outer one has none.
 void readEmbeddedStamp(const ByteRange &file, const TiffBlock &outer, const TiffEntry &jpeg,
                        DatesData &dates) {

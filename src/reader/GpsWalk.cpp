@@ -21,7 +21,6 @@ struct LocationValue {
     std::optional<LocatedBytes> GpsLocation::*slot;
 };
 
-// The values of a location, in the order of their tags in `kTags`.
 constexpr std::array kLocationValues{
     LocationValue{"latitudeRef", kGpsRefLength, Place::Inline, &GpsLocation::latitudeRef},
     LocationValue{"latitude", kGpsTripleLength, Place::Elsewhere, &GpsLocation::latitude},
@@ -46,6 +45,7 @@ enum Wanted : std::size_t {
     kAllTags
 };
 
+// In the order of Wanted, which begins with that of kLocationValues.
 constexpr std::array<std::uint16_t, kAllTags> kTags{
     kGpsTagLatitudeRef,      kGpsTagLatitude,    kGpsTagLongitudeRef,
     kGpsTagLongitude,        kGpsTagAltitudeRef, kGpsTagAltitude,

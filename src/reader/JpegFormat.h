@@ -16,6 +16,7 @@ inline constexpr std::uint64_t kJpegFirstSegment = 2; ///< behind the SOI marker
 inline constexpr std::size_t kJpegMarkerLength = 2;
 inline constexpr std::uint16_t kJpegShortestSegment = 2; ///< the length field counts itself
 
+inline constexpr std::uint8_t kJpegFill = 0xFF; ///< may stand in front of a marker (B.1.1.2)
 inline constexpr std::uint8_t kJpegMarkerApp1 = 0xE1;
 inline constexpr std::uint8_t kJpegMarkerEndOfImage = 0xD9;
 inline constexpr std::uint8_t kJpegMarkerStartOfScan = 0xDA;

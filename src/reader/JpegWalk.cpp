@@ -12,17 +12,33 @@ constexpr int kMostSegments = 65536;
 /// As many bytes as tell an Exif segment from others: marker, length, identifier and TIFF magic.
 constexpr std::size_t kSegmentStart = kJpegExifHeaderAt + kTiffMagicLength;
 
-bool isXmpAt(const ByteRange &file, std::uint64_t offset) {
-    const auto longStart = file.bytes(offset, kXmpPacketStart.size());
-    if (longStart && *longStart == kXmpPacketStart)
-        return true;
-    const auto shortStart = file.bytes(offset, kXmpMetaStart.size());
-    return shortStart && *shortStart == kXmpMetaStart;
+struct Segment {
+    std::uint8_t marker = 0;
+    std::uint16_t length = 0;           ///< without the marker
+    std::optional<ByteOrder> exifOrder; ///< set when a TIFF magic stands where Exif puts it
+};
+
+/// The segment at `at`; none where no segment stands or where the walk has to end.
+std::optional<Segment> segmentAt(const ByteRange &file, std::uint64_t at) {
+    const auto start = file.bytes(at, kSegmentStart);
+    if (!start || start->front() != kJpegMarkerPrefix)
+        return std::nullopt;
+    const Segment segment{static_cast<std::uint8_t>(start->at(1)),
+                          number16(start->substr(kJpegMarkerLength), ByteOrder::Motorola),
+                          byteOrderOfTiffMagic(start->substr(kJpegExifHeaderAt))};
+    const bool isEnd = isJpegFrameMarker(segment.marker) ||
+                       segment.marker == kJpegMarkerStartOfScan ||
+                       segment.marker == kJpegMarkerEndOfImage;
+    return isEnd ? std::nullopt : std::optional(segment);
 }
 
-bool endsSegments(std::uint8_t marker) {
-    return isJpegFrameMarker(marker) || marker == kJpegMarkerStartOfScan ||
-           marker == kJpegMarkerEndOfImage;
+bool isXmpAt(const ByteRange &file, std::uint64_t offset) {
+    for (const std::string_view begin : {kXmpPacketStart, kXmpMetaStart}) {
+        const auto bytes = file.bytes(offset, begin.size());
+        if (bytes && *bytes == begin)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -31,27 +47,20 @@ JpgOffsets readJpgHeader(const ByteRange &file) {
     JpgOffsets offsets;
     std::uint64_t at = kJpegFirstSegment;
     for (int i = 0; i < kMostSegments; ++i) {
-        const auto start = file.bytes(at, kSegmentStart);
-        if (!start || start->front() != kJpegMarkerPrefix)
-            break;
-        const auto marker = static_cast<std::uint8_t>((*start)[1]);
-        if (start->at(1) == kJpegMarkerPrefix) { // T.81 allows fill bytes in front of a marker
+        const auto segment = segmentAt(file, at);
+        if (segment && segment->marker == kJpegFill) {
             ++at;
             continue;
         }
-        const std::uint16_t length =
-            number16(start->substr(kJpegMarkerLength), ByteOrder::Motorola);
-        if (endsSegments(marker) || length < kJpegShortestSegment)
+        if (!segment || segment->length < kJpegShortestSegment)
             break;
-        if (marker == kJpegMarkerApp1) {
-            if (const auto order = byteOrderOfTiffMagic(start->substr(kJpegExifHeaderAt))) {
-                offsets.tiff = TiffHeader{at + kJpegExifHeaderAt, *order};
-                break;
-            }
-            if (isXmpAt(file, at + kJpegXmpPacketAt))
-                offsets.xmp = at + kJpegXmpPacketAt;
+        if (segment->marker == kJpegMarkerApp1 && segment->exifOrder) {
+            offsets.tiff = TiffHeader{at + kJpegExifHeaderAt, *segment->exifOrder};
+            break;
         }
-        at += kJpegMarkerLength + length;
+        if (segment->marker == kJpegMarkerApp1 && isXmpAt(file, at + kJpegXmpPacketAt))
+            offsets.xmp = at + kJpegXmpPacketAt;
+        at += kJpegMarkerLength + segment->length;
     }
     return offsets;
 }
