@@ -4,17 +4,15 @@
 #include "ByteOrder.h"
 #include "FileWindow.h"
 
-#include <algorithm>
-
 namespace chronomender {
 
 /// A part of a file, addressed from its own beginning. A range made inside another never reaches
 /// beyond it, and each range knows where in the file it stands. Cheap to copy; the window is not
 /// owned and must outlive it.
 ///
-///     ByteRange file(window);                            // the whole file
-///     auto segment = file.from(20)->upTo(300);           // file bytes 20 to 319
-///     segment.absolute(4);                               // 24
+///     ByteRange file(window);          // the whole file
+///     auto rest = file.from(20);       // file bytes from 20 on
+///     rest->absolute(4);               // 24
 class ByteRange {
 public:
     explicit ByteRange(FileWindow &window) : m_window(&window), m_length(window.length()) {}
@@ -30,13 +28,6 @@ public:
         rest.m_begin += offset;
         rest.m_length -= offset;
         return rest;
-    }
-
-    /// The first `length` bytes of this range, or all of it when it is shorter.
-    ByteRange upTo(std::uint64_t length) const {
-        ByteRange part = *this;
-        part.m_length = std::min(m_length, length);
-        return part;
     }
 
     /// Bytes still there behind `offset`; 0 outside.

@@ -156,18 +156,19 @@ TEST(Agreement, WithExifToolOnRealFiles) {
     }
 }
 
-/// Places of a tag's values in the directories that are read, as ExifTool prints them.
-std::set<std::uint64_t> witnessPlaces(const CorpusFile &file, const std::string &tag) {
+/// Places and lengths of a tag's values in the directories that are read, as ExifTool prints them.
+std::map<std::uint64_t, std::uint64_t> witnessPlaces(const CorpusFile &file,
+                                                     const std::string &tag) {
     const std::set<std::string> directories{"IFD0", "IFD0/ExifIFD", "IFD0/GPS"};
-    std::set<std::uint64_t> places;
+    std::map<std::uint64_t, std::uint64_t> places;
     for (const auto &entry : file.offsets) {
         if (entry.at("tag") == tag && directories.contains(entry.at("dir")))
-            places.insert(entry.at("offset").get<std::uint64_t>());
+            places.emplace(entry.at("offset"), entry.at("length"));
     }
     return places;
 }
 
-TEST(Agreement, OnThePlacesOfValues) {
+TEST(Agreement, OnThePlacesAndRoomsOfValues) {
     std::map<std::string, std::string> tags{{"GPSDateStamp", "GPSDateStamp"},
                                             {"GPSTimeStamp", "GPSTimeStamp"},
                                             {"latitudeRef", "GPSLatitudeRef"},
@@ -186,14 +187,16 @@ TEST(Agreement, OnThePlacesOfValues) {
             continue;
         for (const auto &[name, value] : valuesByName(readCorpusFile(file))) {
             const auto places = witnessPlaces(file, tags.at(name));
-            compared += places.empty() ? 0 : 1;
-            EXPECT_TRUE(places.empty() || places.contains(value.offset))
-                << file.path << ' ' << name << " at " << value.offset;
+            if (places.empty())
+                continue;
+            ++compared;
+            ASSERT_TRUE(places.contains(value.offset)) << file.path << ' ' << name;
+            EXPECT_EQ(value.room, places.at(value.offset)) << file.path << ' ' << name;
         }
     }
     if (compared == 0)
         GTEST_SKIP() << "there are no camera files";
-    std::cout << compared << " places equal\n";
+    std::cout << compared << " places and rooms equal\n";
 }
 
 TEST(Agreement, ListsOnlyRulesThatAFileShows) {
