@@ -129,15 +129,6 @@ TEST_F(StoredDefaultsTest, IgnoresBadLinesAndKeepsThemForTheProgramThatWroteThem
     EXPECT_NE(content.find("createFileGroups=0\n"), std::string::npos);
 }
 
-TEST_F(StoredDefaultsTest, TwoProgramsStoreSideBySide) {
-    UserDefaults first(store), second(store);
-    first.set("folderMode", "1");
-    second.set("folderType", "1");
-    const UserDefaults again(store);
-    EXPECT_EQ(again.integerForKey("folderMode"), 1);
-    EXPECT_EQ(again.integerForKey("folderType"), 1);
-}
-
 TEST_F(StoredDefaultsTest, AStoreThatCannotBeWrittenIsSaidAndTheValueStillHolds) {
     UserDefaults defaults(folder.write("file", "") + "/below.conf");
     EXPECT_EQ(defaults.set("folderMode", "1"), NotStored);

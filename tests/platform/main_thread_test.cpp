@@ -8,7 +8,6 @@
 
 #include <atomic>
 #include <future>
-#include <memory>
 #include <thread>
 #include <vector>
 
@@ -110,21 +109,6 @@ TEST_F(MainThreadTest, ManyWorkersNeverLoseACallAcrossAShutdown) {
     EXPECT_EQ(runs, done);
     EXPECT_EQ(done + cancelled, 4 * callsEach);
     EXPECT_GT(cancelled, 0);
-}
-
-TEST_F(MainThreadTest, WhatPostedWorkHoldsOnToEndsOnTheMainThread) {
-    struct Held {
-        std::atomic<bool> &isRight;
-        ~Held() { isRight = mainThread::isCurrent(); }
-    };
-    std::atomic<bool> endedOnMain{false}, isOver{false};
-    std::thread worker([&] {
-        mainThread::post([held = std::make_shared<Held>(endedOnMain)] { (void)held; });
-        mainThread::post([&] { isOver = true; });
-    });
-    runUntil([&] { return isOver.load(); });
-    worker.join();
-    EXPECT_TRUE(endedOnMain);
 }
 
 } // namespace

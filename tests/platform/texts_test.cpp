@@ -88,19 +88,6 @@ TEST(TextsTest, EveryKeyThatTheSourcesNameHasAText) {
     EXPECT_THAT(missing, testing::IsEmpty());
 }
 
-/// Texts that belong together: whoever shows one of a family shows the others too.
-TEST(TextsTest, FamiliesOfKeysAreComplete) {
-    const Texts english = messagesOf("en");
-    for (const auto &[key, ignored] : english) {
-        const bool isSummary = key.starts_with("preSaveSummary_error_") &&
-                               !key.ends_with("_details") &&
-                               key.find("groupDetail") == std::string::npos;
-        EXPECT_TRUE(!isSummary || english.contains(key + "_details")) << key;
-    }
-    for (const int id : {0, 1, 2, 3, 4, 6, 7, 10, 11, 12, 15, 16, 17, 18})
-        EXPECT_TRUE(english.contains("errorPanelDescriptionText_ID" + std::to_string(id))) << id;
-}
-
 TEST(TextsTest, LoadsTheChosenLanguageAndFillsInArguments) {
     for (const std::string language : {"en", "de", "de_AT"}) {
         loadTexts(language);
