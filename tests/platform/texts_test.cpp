@@ -2,6 +2,7 @@
 #include "Texts.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 #include <gmock/gmock.h>
@@ -10,7 +11,6 @@
 #include <fstream>
 #include <iterator>
 #include <map>
-#include <regex>
 #include <set>
 
 namespace chronomender {
@@ -27,10 +27,11 @@ std::set<std::string> keysOf(const Texts &texts) {
     return keys;
 }
 
-std::set<std::string> matches(const std::string &text, const std::regex &pattern, int group = 0) {
+std::set<std::string> matches(const std::string &text, const char *pattern, int group = 0) {
     std::set<std::string> found;
-    for (std::sregex_iterator match(text.begin(), text.end(), pattern), end; match != end; ++match)
-        found.insert((*match)[static_cast<std::size_t>(group)]);
+    const QRegularExpression expression{QString::fromUtf8(pattern)};
+    for (auto match = expression.globalMatch(QString::fromStdString(text)); match.hasNext();)
+        found.insert(match.next().captured(group).toStdString());
     return found;
 }
 
@@ -64,7 +65,7 @@ TEST(TextsTest, BothLanguagesAreCompleteAndTakeTheSameArguments) {
     const Texts english = messagesOf("en"), german = messagesOf("de");
     ASSERT_FALSE(english.empty());
     EXPECT_EQ(keysOf(english), keysOf(german));
-    const std::regex place("%[1-9]");
+    const char *const place = "%[1-9]";
     for (const auto &[key, words] : english) {
         EXPECT_FALSE(words.empty() || german.at(key).empty()) << key;
         EXPECT_EQ(matches(words, place), matches(german.at(key), place)) << key;
@@ -73,7 +74,7 @@ TEST(TextsTest, BothLanguagesAreCompleteAndTakeTheSameArguments) {
 
 TEST(TextsTest, EveryKeyThatTheSourcesNameHasAText) {
     const Texts english = messagesOf("en");
-    const std::regex use("\\btext\\(\\s*\"([^\"]+)\"\\s*[,)]");
+    const char *const use = "\\btext\\(\\s*\"([^\"]+)\"\\s*[,)]";
     std::set<std::string> missing;
     std::size_t files = 0;
     for (const auto &entry : fs::recursive_directory_iterator(sourceFolder / "src")) {
