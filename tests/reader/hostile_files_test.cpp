@@ -114,6 +114,11 @@ TEST(HugeFile, IsScannedForItsDataOnly) {
     const DatesData dates = reader.readDates(FileFormatRaw, "raf");
     EXPECT_EQ(text(dates.tiffDateTime), kStamp);
     EXPECT_GT(dates.tiffDateTime->offset, std::uint64_t{kHuge / 2});
+
+    ASSERT_TRUE(file.stretch(9));
+    ASSERT_TRUE(file.stretch(kHuge)); // nothing but a hole is left
+    ASSERT_TRUE(reader.borrow(file.descriptor()));
+    EXPECT_THAT(reader.readDates(FileFormatRaw, "raf").findings, IsEmpty());
 }
 
 TEST(HugeFile, IsScannedUpToALimit) {

@@ -111,7 +111,8 @@ TEST(SharedTags, ExifDirectoryWinsAndFirstDirectoryFillsIn) {
                           .text(Directory::First, 36868, kOther) // behind both pointers
                           .text(Directory::First, 36880, "+01:00")
                           .text(Directory::Exif, 36867, kStamp)
-                          .text(Directory::Exif, 306, kOther) // not looked for here
+                          .text(Directory::Exif, 36867, kOther) // the first of two counts
+                          .text(Directory::Exif, 306, kOther)   // not looked for here
                           .build();
     const DatesData dates = readTiff(tiff.bytes);
     EXPECT_EQ(text(dates.exifDateTimeOriginal), kStamp);
@@ -136,15 +137,17 @@ TEST(CameraText, EndsAtTheFirstZeroByte) {
 }
 
 TEST(EmbeddedJpeg, GivesTheModificationStampThatTheRawLacks) {
-    const std::string inner =
-        Jpeg().exif(Tiff().text(Directory::First, 306, kOther).build().bytes).bytes();
-    const auto outer = [&](bool hasOwn) {
+    const auto outer = [](bool hasOwn, Endian innerEndian = Endian::Intel) {
+        const BuiltTiff exif = Tiff(innerEndian).text(Directory::First, 306, kOther).build();
+        const std::string jpeg = Jpeg().exif(exif.bytes).bytes();
         Tiff tiff;
-        tiff.value(Directory::First, 46, 7, static_cast<std::uint32_t>(inner.size()), inner);
+        tiff.value(Directory::First, 46, 7, static_cast<std::uint32_t>(jpeg.size()), jpeg);
         if (hasOwn)
             tiff.text(Directory::First, 306, kStamp);
         return tiff.build();
     };
+    const auto otherOrder = outer(false, Endian::Motorola);
+    EXPECT_EQ(text(readBytes(otherOrder.bytes, FileFormatRaw, "rw2").tiffDateTime), "absent");
     const BuiltTiff raw = outer(false);
     const DatesData dates = readBytes(raw.bytes, FileFormatRaw, "rw2");
     EXPECT_EQ(text(dates.tiffDateTime), kOther);
