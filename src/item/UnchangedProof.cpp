@@ -32,10 +32,13 @@ struct ExpectedBytes {
 ExpectedBytes expectedInOrderOfPlace(const SinglePicAttributes &recorded) {
     ExpectedBytes expected;
     forEachRecordedValue(recorded, [&](std::string_view, const LocatedBytes &value) {
-        expected.values[expected.count++] = {value.offset, bytesInFile(recorded, value)};
+        const auto end = expected.values.begin() + expected.count++;
+        const auto behind = std::upper_bound(
+            expected.values.begin(), end, value.offset,
+            [](std::uint64_t offset, const Expected &other) { return offset < other.offset; });
+        std::move_backward(behind, end, end + 1);
+        *behind = {value.offset, bytesInFile(recorded, value)};
     });
-    std::sort(expected.values.begin(), expected.values.begin() + expected.count,
-              [](const Expected &a, const Expected &b) { return a.offset < b.offset; });
     return expected;
 }
 
