@@ -164,7 +164,8 @@ private:
 ImportOutcome updatePicData(MySingleFolder &folder, std::vector<std::string> names,
                             const ImportServices &services) {
     const std::shared_ptr<FolderReference> reference = folder.reference();
-    auto entries = reference ? takeBatch(folder, *reference, std::move(names)) : std::nullopt;
+    const bool isReached = reference && folder.unlockedSecUrl();
+    auto entries = isReached ? takeBatch(folder, *reference, std::move(names)) : std::nullopt;
     if (!entries) {
         ImportOutcome outcome;
         outcome.skipped.push_back({folder.sfFolderPath(), SkipReason::Unreadable});

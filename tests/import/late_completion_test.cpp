@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ImportSteps.h"
+#include "LateCompletion.h"
+
+namespace chronomender {
+namespace {
+
+PropertyDictionary camera(const char *make, const char *model) {
+    PropertyDictionary properties;
+    properties.make = make;
+    properties.model = model;
+    return properties;
+}
+PropertyDictionary located(double latitude, double longitude) {
+    PropertyDictionary properties;
+    properties.gps = PropertyDictionary::Gps{latitude, longitude, {}};
+    return properties;
+}
+PropertyDictionary sized(std::int32_t width, std::int32_t height) {
+    PropertyDictionary properties;
+    properties.pixelWidth = width;
+    properties.pixelHeight = height;
+    return properties;
+}
+
+class LateCompletionTest : public testing::Test {
+protected:
+    LateCompletionTest() : pic(MySinglePic::create("a.nef", nullptr, SpTypeExifOriginal, {})) {
+        pic->fileFormatType = FileFormatRaw;
+    }
+    MySinglePicPtr pic;
+};
+
+TEST_F(LateCompletionTest, CameraTakesTheBetterWords) {
+    struct Case {
+        const char *known, *make, *model, *expected;
+    };
+    const Case cases[]{
+        {"", "Canon", "Canon EOS R5", "Canon EOS R5"},
+        {"", "SONY", "ILCE-7M3", "SONY ILCE-7M3"},
+        {"-", "X", "Y", "X Y"},
+        {"Old Camera", "NIKON", "D5000", "NIKON D5000"},
+        {"Old Camera", "N", "D5000", "Old Camera"},
+        {"Old Camera", "NIKON", "D5", "Old Camera"},
+        {"Old Camera", "", "D5000", "Old Camera"},
+        {"", "NIKON", "", ""},
+    };
+    for (const Case &c : cases) {
+        pic->camera = {.make = "", .model = "", .pivMakeModel = c.known};
+        completeItem(*pic, camera(c.make, c.model));
+        EXPECT_EQ(pic->camera.pivMakeModel, c.expected) << c.make << '/' << c.model;
+    }
+}
+
+TEST_F(LateCompletionTest, ALocationOfTheFilesOwnTagsStays) {
+    completeItem(*pic, located(10, 20));
+    EXPECT_EQ(pic->location.gpsLat, 10);
+    EXPECT_EQ(pic->location.gpsLong, 20);
+    completeItem(*pic, located(-1, -2));
+    EXPECT_EQ(pic->location.gpsLat, 10);
+}
+
+TEST_F(LateCompletionTest, SizesAreOfStillImagesOnly) {
+    completeItem(*pic, sized(6000, 4000));
+    EXPECT_EQ(pic->camera.pivImageWidth, 6000);
+    completeItem(*pic, {});
+    EXPECT_EQ(pic->camera.pivImageHeight, 4000);
+    pic->fileFormatType = FileFormatQuickTime;
+    completeItem(*pic, sized(1, 1));
+    EXPECT_EQ(pic->camera.pivImageWidth, -1);
+}
+
+TEST_F(LateCompletionTest, AnItemIsAskedForOnce) {
+    EXPECT_TRUE(lacksCamera(*pic));
+    completeItem(*pic, {});
+    EXPECT_FALSE(lacksCamera(*pic));
+}
+
+/// The image library and our own reader, looking at the same file.
+class SecondOpinionTest : public ImportTest {};
+
+TEST_F(SecondOpinionTest, AgreesOnCameraAndLocation) {
+    initialiseImaging();
+    const std::string path = photo("a.jpg", little::fullPhotoFields());
+    const MySinglePicPtr pic = import().items.at(0);
+    const auto found = readPropertyDictionary(path);
+    ASSERT_TRUE(found && found->gps);
+    EXPECT_EQ(completeMakerModelString(found->make, found->model), pic->camera.pivMakeModel);
+    EXPECT_NEAR(found->gps->latitude, pic->location.gpsLat.value_or(0), 1e-9);
+    EXPECT_NEAR(found->gps->longitude, pic->location.gpsLong.value_or(0), 1e-9);
+}
+
+} // namespace
+} // namespace chronomender

@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "FolderNames.h"
+#include "ImportSteps.h"
+#include "Texts.h"
+
+#include <filesystem>
+#include <fstream>
+#include <unistd.h>
+
+namespace chronomender {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+constexpr std::string_view pngStart{"\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16};
+
+class SkippedEntriesTest : public ImportTest {
+protected:
+    void link(const std::string &target, const std::string &name) {
+        std::filesystem::create_symlink(target, disk.path(name));
+    }
+};
+
+TEST_F(SkippedEntriesTest, WhatAPersonWouldMissIsListedWithItsReason) {
+    file("empty.jpg", "");
+    file("movie.mov", "no matter");
+    file("clip.MTS", "no matter");
+    file("picture.png", std::string(pngStart));
+    file("shot.CR3", "no matter");
+    file("cut\xFF.jpg", "no matter");
+    dated("good.jpg");
+    ASSERT_EQ(::mkfifo(disk.path("pipe.jpg").c_str(), 0600), 0);
+    link("good.jpg", "link.jpg");
+    link("nowhere", "dangling.jpg");
+    link("loop", "loop");
+
+    const ImportOutcome outcome = import();
+
+    EXPECT_THAT(namesOf(outcome.items), ElementsAre("good.jpg"));
+    EXPECT_THAT(skippedOf(outcome),
+                UnorderedElementsAre("empty.jpg empty", "movie.mov notYetSupported",
+                                     "clip.MTS notYetSupported", "picture.png notYetSupported",
+                                     "shot.CR3 notYetSupported", "cut\xFF.jpg nameNotUtf8",
+                                     "pipe.jpg unreadable", "link.jpg symbolicLink",
+                                     "dangling.jpg symbolicLink", "loop symbolicLink"));
+    EXPECT_EQ(outcome.skipped.front().path.substr(0, disk.path().size()), disk.path());
+}
+
+TEST_F(SkippedEntriesTest, WhatNobodyLooksForAmongPhotosIsPassedOver) {
+    for (const char *name : {"._good.jpg", ".DS_Store", "notes.txt", "good.xmp", "good.AAE",
+                             "track.gpx", "inside/good.jpg"})
+        file(name, "text");
+    file("nothing.txt", "");
+    link("inside", "linked folder");
+    ASSERT_EQ(::mkfifo(disk.path("pipe").c_str(), 0600), 0);
+    const ImportOutcome outcome = import();
+    EXPECT_THAT(outcome.items, IsEmpty());
+    EXPECT_THAT(skippedOf(outcome), IsEmpty());
+}
+
+TEST_F(SkippedEntriesTest, EverythingNamedByAPersonIsAnswered) {
+    file("notes.txt", "text");
+    file("good.xmp", "text");
+    file("._good.jpg", "text");
+    file("inside/deep.jpg", "text");
+    dated("good.jpg");
+    dated("other.jpg");
+
+    const ImportOutcome outcome = import({"good.jpg", "notes.txt", "good.xmp", "._good.jpg",
+                                          "inside", "inside/deep.jpg", "absent.jpg", "good.jpg"});
+
+    EXPECT_THAT(namesOf(outcome.items), ElementsAre("good.jpg"));
+    EXPECT_THAT(skippedOf(outcome),
+                UnorderedElementsAre("notes.txt notAMedium", "good.xmp notAMedium",
+                                     "._good.jpg notAMedium", "inside notAMedium",
+                                     "deep.jpg unreadable", "absent.jpg unreadable"));
+}
+
+TEST_F(SkippedEntriesTest, AFileWithoutPermissionIsUnreadable) {
+    if (::geteuid() == 0)
+        GTEST_SKIP() << "root may read every file";
+    std::filesystem::permissions(dated("locked.jpg"), std::filesystem::perms::none);
+    EXPECT_THAT(skippedOf(import()), ElementsAre("locked.jpg unreadable"));
+}
+
+TEST_F(SkippedEntriesTest, AFolderThatIsGoneIsSaid) {
+    openFolder();
+    std::filesystem::remove_all(disk.path());
+    const ImportOutcome outcome = import();
+    EXPECT_THAT(outcome.items, IsEmpty());
+    ASSERT_EQ(outcome.skipped.size(), 1U);
+    EXPECT_EQ(outcome.skipped[0].path, disk.path());
+    EXPECT_EQ(outcome.skipped[0].reason, SkipReason::Unreadable);
+}
+
+TEST_F(SkippedEntriesTest, OneFileUnderTwoNamesIsOneItem) {
+    const std::string path = dated("IMG_2.jpg");
+    std::filesystem::create_hard_link(path, disk.path("IMG_10.jpg"));
+    std::filesystem::create_hard_link(path, disk.path("IMG_1.jpg"));
+    dated("IMG_3.jpg");
+    const ImportOutcome outcome = import();
+    EXPECT_THAT(namesOf(outcome.items), ElementsAre("IMG_1.jpg", "IMG_3.jpg"));
+    EXPECT_THAT(skippedOf(outcome),
+                ElementsAre("IMG_2.jpg sameFileTwice", "IMG_10.jpg sameFileTwice"));
+    EXPECT_TRUE(outcome.items[0]->importState.isExtraHardLink);
+    EXPECT_FALSE(outcome.items[1]->importState.isExtraHardLink);
+}
+
+TEST_F(SkippedEntriesTest, OneFileInTwoFoldersOfASessionIsOneItem) {
+    SessionFiles files;
+    sessionFiles = &files;
+    const std::string path = dated("a.jpg");
+    EXPECT_EQ(import().items.size(), 1U);
+
+    const little::TemporaryFolder second;
+    std::filesystem::create_hard_link(path, second.path("b.jpg"));
+    folder = MySingleFolder::initWithFolder(second.path(), FolderReference::open(second.path()),
+                                            EditMode::Together);
+    EXPECT_THAT(skippedOf(import()), ElementsAre("b.jpg sameFileTwice"));
+}
+
+TEST_F(SkippedEntriesTest, EveryReasonHasItsText) {
+    loadTexts("en");
+    for (int reason = 0; reason <= static_cast<int>(SkipReason::Cancelled); ++reason) {
+        const char *key = textKey(static_cast<SkipReason>(reason));
+        EXPECT_NE(text(key), key);
+    }
+}
+
+class ContentTest : public ImportTest {};
+
+TEST_F(ContentTest, ContentWinsOverTheExtension) {
+    const little::PhotoFields fields{.original = "2024:05:06 07:08:09"};
+    const std::string jpeg = little::jpegPhoto(fields).bytes,
+                      tiff = little::tiffPhoto(fields).bytes;
+    struct Case {
+        const char *name;
+        const std::string &bytes;
+        FileFormatType format;
+    };
+    const Case cases[]{
+        {"tiff.jpg", tiff, FileFormatTiff}, {"jpeg.tif", jpeg, FileFormatJpeg},
+        {"jpeg.png", jpeg, FileFormatJpeg}, {"jpeg.txt", jpeg, FileFormatJpeg},
+        {"jpeg", jpeg, FileFormatJpeg},     {"tiff.NEF", tiff, FileFormatRaw},
+        {"jpeg.dng", jpeg, FileFormatJpeg},
+    };
+    for (const Case &c : cases)
+        file(c.name, c.bytes);
+    std::map<std::string, FileFormatType> formats;
+    for (const MySinglePicPtr &pic : import().items) {
+        formats[pic->spName] = pic->fileFormatType;
+        EXPECT_EQ(pic->spType, SpTypeExifOriginal) << pic->spName;
+    }
+    for (const Case &c : cases)
+        EXPECT_EQ(formats[c.name], c.format) << c.name;
+}
+
+TEST_F(ContentTest, TheExtensionCountsWhereContentSaysNothing) {
+    file("text.jpg", "this is no picture");
+    file("png.jpg", std::string(pngStart));
+    const ImportOutcome outcome = import();
+    ASSERT_THAT(namesOf(outcome.items), ElementsAre("text.jpg"));
+    EXPECT_EQ(outcome.items[0]->spType, SpTypeNoTagsFileDate);
+    EXPECT_THAT(skippedOf(outcome), ElementsAre("png.jpg notYetSupported"));
+}
+
+TEST_F(ContentTest, FilesOfManyGigabytesThatHoldNothing) {
+    for (const char *name : {"huge.jpg", "huge.dng", "huge.tif", "huge.bin"}) {
+        file(name, "x");
+        std::filesystem::resize_file(disk.path(name), std::uintmax_t{64} << 30);
+    }
+    const ImportOutcome outcome = import();
+    EXPECT_THAT(namesOf(outcome.items), ElementsAre("huge.dng", "huge.jpg", "huge.tif"));
+    for (const MySinglePicPtr &pic : outcome.items)
+        EXPECT_EQ(pic->spType, SpTypeNoTagsFileDate) << pic->spName;
+}
+
+TEST(FolderNamesTest, LibrariesOfOtherProgramsAreRefused) {
+    for (const char *path :
+         {"/home/a/Photos.photoslibrary", "/home/Photos.photoslibrary/originals/0",
+          "Old.aplibrary/", "/x/Catalog Previews.lrdata", "/x/Trip.mending"})
+        EXPECT_TRUE(isRefusedFolder(path)) << path;
+    for (const char *path : {"/home/a/photoslibrary", "/x/Trip.mending.old", "", "/"})
+        EXPECT_FALSE(isRefusedFolder(path)) << path;
+}
+
+} // namespace
+} // namespace chronomender
