@@ -5,6 +5,8 @@
 #include "FileLayer.h"
 #include "FolderDrag.h"
 #include "ImportRun.h"
+#include "KnownFiles.h"
+#include "LateCompletion.h"
 #include "MyDroppedFolders.h"
 #include "SaveDriver.h"
 #include "SourceBuilder.h"
@@ -12,7 +14,12 @@
 #include "UserDefaults.h"
 #include "Zones.h"
 
+#include <QThreadPool>
+
+#include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,24 +32,51 @@ struct AppServices {
     std::unique_ptr<Zones> zones;
     std::function<Date()> now;
 };
+/// The operating system's files, zones and clock, and the user's stored preferences.
 AppServices systemServices();
 
 /// One folder to open: what a drop or an option block says about it.
 struct FolderRequest {
     std::string path;
-    std::vector<std::string> names; ///< only these files; empty for the whole folder
     EditMode mode = EditMode::Together;
+    /// A source zone alone makes the target follow it, so that no file changes by it.
     std::optional<ZoneChoice> sourceZone, targetZone;
 };
 
-enum class OpenFolderResult { Opened, NotFound, NotAFolder, NoAccess, Refused };
+enum class OpenFolderResult : std::uint8_t {
+    Opened,
+    AlreadyOpen, ///< the same directory is part of the session, perhaps under another path
+    NotFound,
+    NotAFolder,
+    NoAccess,
+    NameNotUtf8,
+    LibraryOfAnotherProgram, ///< a photo library's inside, or a saved session
+};
+
+/// A batch of one folder to import; without names, the whole folder.
+struct ImportRequest {
+    MySingleFolderPtr folder;
+    std::vector<std::string> names;
+    CompletionScope completion = CompletionScope::WhereCameraIsMissing;
+    std::function<void(ImportProgress)> progress; ///< called on the import thread; may be empty
+};
 
 /// The composition root: owns the session's folders and the rooms' controllers and wires them; all
-/// rules live in the rooms. Created and used on the main thread.
+/// rules live in the rooms. Created, used and destroyed on the main thread.
+///
+/// Imports and saves are started here and run on their own threads: an operation returns at once,
+/// and its `finished` is called on the main thread from the event loop, exactly once, unless the
+/// controller is destroyed before. Only one save operation runs at a time, and no folder may be
+/// changed while it does.
 class AppController {
 public:
+    using Progress = std::function<void(std::size_t done, std::size_t total)>;
+
     AppController(AppServices services, ImportQuestions &questions);
+    /// Asks a running operation to stop and waits for it.
     ~AppController();
+    AppController(const AppController &) = delete;
+    AppController &operator=(const AppController &) = delete;
 
     MyDroppedFolders &droppedFolders() { return m_droppedFolders; }
     const std::vector<MySinglePicPtr> &source_full() const { return m_source.source_full(); }
@@ -51,11 +85,13 @@ public:
     UndoManager &undoManager() { return m_undo; }
     Cancellation &cancellation() { return m_cancellation; }
 
-    /// Makes the folder part of the session (without importing it).
-    OpenFolderResult addFolder(const FolderRequest &request, MySingleFolderPtr *added = nullptr);
-    /// Imports on the import thread and publishes the items here; returns when done.
-    ImportOutcome importFolder(const MySingleFolderPtr &folder, std::vector<std::string> names = {},
-                               std::function<void(ImportProgress)> progress = {});
+    /// Makes the folder part of the session (without importing it) and says where its zones stand.
+    /// `folder` takes the new folder, or with AlreadyOpen the one that is there.
+    OpenFolderResult addFolder(const FolderRequest &request, MySingleFolderPtr *folder = nullptr);
+
+    /// Imports on the import thread, publishes the items here, and reads cameras late. A file that
+    /// stands in the session already is left out and, unless it is the same item, told as skipped.
+    void startImport(ImportRequest request, std::function<void(ImportOutcome)> finished);
     /// Sorts the visible list again.
     void buildNewSource();
 
@@ -63,18 +99,32 @@ public:
     DateChangeOutcome shiftItems(const std::vector<MySinglePicPtr> &items,
                                  absl::Duration difference);
 
-    PreProcessResult preProcess(const SaveRequest &request,
-                                std::function<void(std::size_t, std::size_t)> progress = {});
-    SaveRunResult continueProcess(const SaveRequest &request, const PreProcessResult &preProcess,
-                                  std::function<void(std::size_t, std::size_t)> progress = {});
+    /// Stage one of a save; nothing is written.
+    void startPreProcess(SaveRequest request, Progress progress,
+                         std::function<void(PreProcessResult)> finished);
+    /// Stage two. Problems in `preProcess` count as accepted.
+    void startContinueProcess(SaveRequest request, PreProcessResult preProcess, Progress progress,
+                              std::function<void(SaveRunResult)> finished);
 
 private:
+    void publish(MySingleFolder &folder, ImportOutcome &outcome);
+    void completeLate(const ImportRequest &request, ImportOutcome outcome,
+                      std::function<void(ImportOutcome)> finished);
+    template<class Work, class Finished>
+    void runOn(QThreadPool &thread, Work work, Finished finished);
+
     AppServices m_services;
     ImportQuestions &m_questions;
     Cancellation m_cancellation;
     UndoManager m_undo;
     MyDroppedFolders m_droppedFolders;
     SourceBuilder m_source;
+    KnownFiles m_knownFiles;
+    Progress m_saveProgress;
+    SaveDriver m_saveDriver;
+    QThreadPool m_importThread, m_saveWorker;
+    std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true);
+    bool m_isImagingReady = false;
 };
 
 } // namespace chronomender

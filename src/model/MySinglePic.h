@@ -105,6 +105,7 @@ struct Marks {
 struct CameraInfo {
     std::string make, model;
     std::string pivMakeModel; ///< make and model for display; "" when unknown
+    std::string lens;         ///< read late, where a display asks for it; "" when unknown
     std::int32_t pivImageWidth = 0, pivImageHeight = 0;
 };
 
