@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "SaveErrors.h"
+#include "ShiftSpec.h"
+
+#include <absl/time/time.h>
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace chronomender {
+
+/// `--folder PATH` with the options behind it, or a plain PATH, which has none.
+struct FolderBlock {
+    std::string path;
+    bool isPlain = false;
+    std::optional<absl::Duration> shift;
+    std::vector<std::pair<std::string, absl::Duration>> picShifts; ///< by file name
+    std::optional<std::string> sourceZone, targetZone;             ///< names, not yet looked up
+    std::optional<EmptyTagsSpec> emptyTags;
+};
+
+enum class Command : std::uint8_t { List, Info, Save };
+
+/// What the user asked for, checked as far as that goes without looking at the disk.
+struct CommandLine {
+    Command command = Command::List;
+    std::vector<FolderBlock> blocks; ///< in the order given
+    std::vector<std::pair<std::string, std::string>> settings;
+    std::optional<std::string> systemZone;
+    bool isJson = false, isDryRun = false, savesAll = false;
+    bool acceptsAll = false;
+    std::set<PreSaveProblem> accepted;
+};
+
+/// The run ends here: help or version was asked for (code 0), or the arguments are wrong (code 2).
+struct ParseEnd {
+    int exitCode = 0;
+    std::string output, errors;
+};
+
+using ParsedCommandLine = std::variant<CommandLine, ParseEnd>;
+
+/// Texts must be loaded. `arguments` are those behind the program's name.
+ParsedCommandLine parseCommandLine(std::vector<std::string> arguments);
+
+/// The value of `--language`, which is needed before anything can be said; "" without one.
+std::string languageArgument(const std::vector<std::string> &arguments);
+
+} // namespace chronomender

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "CommandLine.h"
+
+#include <array>
+#include <cstdint>
+
+namespace chronomender {
+
+enum class OptionId : std::uint8_t {
+    Path, ///< an argument that is no option
+    Folder,
+    Shift,
+    Pic,
+    SourceZone,
+    TargetZone,
+    EmptyTags,
+    Set,
+    SystemZone,
+    All,
+    DryRun,
+    Accept,
+    Json,
+};
+
+/// One option of a command: which commands have it, and what it belongs to.
+struct OptionDescription {
+    OptionId id;
+    const char *name;
+    const char *valueName; ///< "" for a flag
+    const char *textKey;
+    bool isOfFolder; ///< belongs to the block that is open, not to the run
+    unsigned commands;
+};
+
+constexpr unsigned commandBit(Command command) {
+    return 1U << static_cast<unsigned>(command);
+}
+inline constexpr unsigned ofInfo = commandBit(Command::Info);
+inline constexpr unsigned ofSave = commandBit(Command::Save);
+inline constexpr unsigned ofFolders = commandBit(Command::List) | ofSave;
+
+inline constexpr std::array<OptionDescription, 12> optionTable{{
+    {OptionId::Folder, "--folder", "PATH", "cli_help_folder", true, ofFolders},
+    {OptionId::Shift, "--shift", "SPEC", "cli_help_shift", true, ofFolders},
+    {OptionId::Pic, "--pic", "NAME", "cli_help_pic", true, ofFolders},
+    {OptionId::SourceZone, "--source-zone", "NAME", "cli_help_sourceZone", true, ofFolders},
+    {OptionId::TargetZone, "--target-zone", "NAME|own", "cli_help_targetZone", true, ofFolders},
+    {OptionId::EmptyTags, "--empty-tags", "leave|file|DATE[+STEP]", "cli_help_emptyTags", true,
+     ofFolders},
+    {OptionId::DryRun, "--dry-run", "", "cli_help_dryRun", false, ofSave},
+    {OptionId::Accept, "--accept", "KEY|all", "cli_help_accept", false, ofSave},
+    {OptionId::All, "--all", "", "cli_help_all", false, ofSave},
+    {OptionId::Json, "--json", "", "cli_help_json", false, ofFolders | ofInfo},
+    {OptionId::Set, "--set", "KEY=VALUE", "cli_help_set", false, ofFolders | ofInfo},
+    {OptionId::SystemZone, "--system-zone", "NAME", "cli_help_systemZone", false,
+     ofFolders | ofInfo},
+}};
+
+} // namespace chronomender
