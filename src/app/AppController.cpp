@@ -3,30 +3,16 @@
 
 #include "DateModifications.h"
 #include "FolderAccess.h"
+#include "FolderNames.h"
 #include "MainThread.h"
 #include "SupportFolders.h"
 #include "ZoneLookup.h"
 
-#include <array>
 #include <cerrno>
-#include <filesystem>
-#include <string_view>
 #include <utility>
 
 namespace chronomender {
 namespace {
-
-// Packages whose insides belong to another program, and our own saved sessions.
-constexpr std::array<std::string_view, 4> refusedFolderEndings{".photoslibrary", ".aplibrary",
-                                                               ".lrdata", ".mending"};
-
-bool isInsideRefusedFolder(const std::string &path) {
-    for (const std::filesystem::path &part : std::filesystem::path(path))
-        for (const std::string_view ending : refusedFolderEndings)
-            if (part.native().ends_with(ending))
-                return true;
-    return false;
-}
 
 OpenFolderResult resultOf(const FileError &error) {
     switch (error.code) {
@@ -63,7 +49,8 @@ AppServices systemServices() {
 }
 
 AppController::AppController(AppServices services, ImportQuestions &questions)
-    : m_services(std::move(services)), m_questions(questions),
+    : m_services(std::move(services)),
+      m_questions(questions),
       m_saveDriver(m_droppedFolders.droppedFolders(),
                    SaveServices{*m_services.files, *m_services.zones, *m_services.defaults, m_undo,
                                 m_cancellation, m_services.now,
@@ -105,7 +92,7 @@ OpenFolderResult AppController::addFolder(const FolderRequest &request, MySingle
     const std::string path = reference->path();
     if (!isValidUtf8(path))
         return OpenFolderResult::NameNotUtf8;
-    if (isInsideRefusedFolder(path))
+    if (isRefusedFolder(path))
         return OpenFolderResult::LibraryOfAnotherProgram;
     MySingleFolderPtr found = m_droppedFolders.folderWithIdentity(*attributes);
     const auto result = found ? OpenFolderResult::AlreadyOpen : OpenFolderResult::Opened;
@@ -123,7 +110,7 @@ void AppController::startImport(ImportRequest request,
                                 std::function<void(ImportOutcome)> finished) {
     auto work = [this, request] {
         const ImportServices services{*m_services.zones, *m_services.defaults, m_questions,
-                                      m_cancellation, request.progress};
+                                      m_cancellation,    request.progress,     &m_sessionFiles};
         return updatePicData(*request.folder, request.names, services);
     };
     auto publishAndComplete = [this, request,
@@ -134,19 +121,10 @@ void AppController::startImport(ImportRequest request,
     runOn(m_importThread, std::move(work), std::move(publishAndComplete));
 }
 
-void AppController::publish(MySingleFolder &folder, ImportOutcome &outcome) {
-    std::vector<MySinglePicPtr> fresh;
-    fresh.reserve(outcome.items.size());
-    for (MySinglePicPtr &pic : outcome.items) {
-        const MySinglePicPtr holder = m_knownFiles.add(pic);
-        if (!holder)
-            fresh.push_back(std::move(pic));
-        else if (holder->spSingleRealFolder().get() != &folder || holder->spName != pic->spName)
-            outcome.skipped.push_back({pic->spPath(), SkipReason::SameFileTwice});
-    }
-    outcome.items = std::move(fresh);
+void AppController::publish(MySingleFolder &folder, const ImportOutcome &outcome) {
     auto &list = folder.sfPicDetails_fullArray;
     list.insert(list.end(), outcome.items.begin(), outcome.items.end());
+    folder.fixedDates += outcome.fixedDates;
     sfUpdatePicsFromAndTill(folder);
     folder.mediaTypesState = mediaStateOf(folder);
     validateTZCUnsaved(folder, *m_services.zones);

@@ -5,10 +5,10 @@
 #include "FileLayer.h"
 #include "FolderDrag.h"
 #include "ImportRun.h"
-#include "KnownFiles.h"
 #include "LateCompletion.h"
 #include "MyDroppedFolders.h"
 #include "SaveDriver.h"
+#include "SessionFiles.h"
 #include "SourceBuilder.h"
 #include "UndoManager.h"
 #include "UserDefaults.h"
@@ -89,8 +89,9 @@ public:
     /// `folder` takes the new folder, or with AlreadyOpen the one that is there.
     OpenFolderResult addFolder(const FolderRequest &request, MySingleFolderPtr *folder = nullptr);
 
-    /// Imports on the import thread, publishes the items here, and reads cameras late. A file that
-    /// stands in the session already is left out and, unless it is the same item, told as skipped.
+    /// Imports on the import thread, publishes the items here, and reads cameras late. Names that
+    /// the folder holds already are left out; a file that stands in the session under another name
+    /// is told as skipped.
     void startImport(ImportRequest request, std::function<void(ImportOutcome)> finished);
     /// Sorts the visible list again.
     void buildNewSource();
@@ -107,7 +108,7 @@ public:
                               std::function<void(SaveRunResult)> finished);
 
 private:
-    void publish(MySingleFolder &folder, ImportOutcome &outcome);
+    void publish(MySingleFolder &folder, const ImportOutcome &outcome);
     void completeLate(const ImportRequest &request, ImportOutcome outcome,
                       std::function<void(ImportOutcome)> finished);
     template<class Work, class Finished>
@@ -119,7 +120,7 @@ private:
     UndoManager m_undo;
     MyDroppedFolders m_droppedFolders;
     SourceBuilder m_source;
-    KnownFiles m_knownFiles;
+    SessionFiles m_sessionFiles; ///< import thread only
     Progress m_saveProgress;
     SaveDriver m_saveDriver;
     QThreadPool m_importThread, m_saveWorker;

@@ -101,8 +101,8 @@ private:
         } else {
             option = m_app->add_flag(description.name, text(description.textKey));
         }
-        option->group(text(description.isOfFolder ? "cli_help_folderOptions"
-                                                  : "cli_help_runOptions"));
+        option->group(
+            text(description.isOfFolder ? "cli_help_folderOptions" : "cli_help_runOptions"));
         m_options[option] = &description;
     }
 

@@ -12,7 +12,8 @@ namespace chronomender {
 /// given the callback to hand on, and starts the operation.
 ///
 ///     auto outcome = waitFor<ImportOutcome>([&](auto finished) { c.startImport(r, finished); });
-template<class Result, class Start> Result waitFor(Start start) {
+template<class Result, class Start>
+Result waitFor(Start start) {
     std::optional<Result> result;
     QEventLoop loop;
     start([&](Result answer) {

@@ -128,9 +128,8 @@ std::variant<Zone, Complaint> lookUpZone(const std::string &name, const Zones &z
     std::string near;
     for (const std::string &similar : zones.namesNear(name, mostSuggestions))
         near += (near.empty() ? "" : ", ") + similar;
-    return Complaint{2, near.empty()
-                            ? text("cli_error_unknownZone", {printable(name)})
-                            : text("cli_error_unknownZoneNear", {printable(name), near})};
+    return Complaint{2, near.empty() ? text("cli_error_unknownZone", {printable(name)})
+                                     : text("cli_error_unknownZoneNear", {printable(name), near})};
 }
 
 std::variant<FolderPlans, Complaint> planFolders(const std::vector<FolderBlock> &blocks,

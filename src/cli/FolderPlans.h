@@ -24,7 +24,8 @@ struct FolderPlan {
     FolderBlock block;
     std::vector<std::string> names; ///< only these files; empty: the whole folder
     std::optional<ZoneChoice> sourceZone, targetZone;
-    PerFolderImportOptions importOptions;
+    PerFolderImportOptions importOptions{.withEmptyExifFixDate =
+                                             PerFolderImportOptions::EmptyTags::LeaveAlone};
 };
 
 struct FolderPlans {

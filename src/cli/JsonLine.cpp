@@ -21,7 +21,8 @@ void appendEscape(std::string &buffer, char character) {
         buffer += {'\\', 'u', '0', '0', digits[character >> 4], digits[character & 15]};
 }
 
-template<class Number> void appendNumber(std::string &buffer, Number value) {
+template<class Number>
+void appendNumber(std::string &buffer, Number value) {
     std::array<char, 32> digits;
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
     buffer.append(digits.data(), end);

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ItemTexts.h"
+
+#include "Texts.h"
+#include "ZoneLookup.h"
+
+#include <array>
+#include <cstdio>
+#include <optional>
+
+namespace chronomender {
+namespace {
+
+/// The slot that an item's main date was read from; none when it comes from elsewhere.
+std::optional<StampSlot> sourceSlot(SpType type) {
+    switch (typeAfterFillingEmptyTags(type)) {
+    case SpTypeExifOriginal:
+        return StampSlot::Original;
+    case SpTypeExifDigitized:
+        return StampSlot::Digitized;
+    case SpTypeTiffDateTime:
+        return StampSlot::Modification;
+    default:
+        return std::nullopt;
+    }
+}
+
+struct Note {
+    bool (*applies)(const MySinglePic &);
+    const char *key;
+};
+constexpr std::array<Note, 6> notes{{
+    {isUnsaved, "cli_note_unsaved"},
+    {[](const MySinglePic &pic) { return pic.importState.isLeftAlone; }, "cli_note_emptyTags"},
+    {[](const MySinglePic &pic) { return hasNoDateTags(pic.spType); }, "cli_note_noTags"},
+    {[](const MySinglePic &pic) { return isPreferringFileDate(pic.spType); },
+     "cli_note_youngerThanFile"},
+    {[](const MySinglePic &pic) { return pic.zones.dstAmbiguityAtImportState != 0; },
+     "cli_note_repeatedHour"},
+    {[](const MySinglePic &pic) { return pic.importState.isExtraHardLink; }, "cli_note_hardLinks"},
+}};
+
+} // namespace
+
+absl::TimeZone displayZone(const MySinglePic &pic, const MySingleFolder &folder,
+                           const Zones &zones) {
+    const auto slot = sourceSlot(pic.spType);
+    return slot ? targetZoneForSlot(pic, *slot, folder, zones).rules
+                : targetTimeZoneForPic(pic, folder, zones).rules;
+}
+
+bool isUnsaved(const MySinglePic &pic) {
+    return !pic.importState.isLeftAlone && pic.isUnsavedOrGroupHarmonized();
+}
+
+std::string noteText(const MySinglePic &pic) {
+    std::string joined;
+    for (const Note &note : notes)
+        if (note.applies(pic))
+            joined += (joined.empty() ? "" : "; ") + text(note.key);
+    return joined;
+}
+
+std::string locationText(const MySinglePic &pic) {
+    if (!pic.location.gpsLat || !pic.location.gpsLong)
+        return {};
+    std::array<char, 64> buffer{};
+    std::snprintf(buffer.data(), buffer.size(), "%.6f, %.6f", *pic.location.gpsLat,
+                  *pic.location.gpsLong);
+    return buffer.data();
+}
+
+FolderPaths::FolderPaths(const std::vector<MySingleFolderPtr> &folders) {
+    for (const MySingleFolderPtr &folder : folders)
+        m_paths.emplace(folder.get(), folder->sfFolderPath());
+}
+
+std::string FolderPaths::path(const MySingleFolder &folder, const MySinglePic &pic) const {
+    const std::string &folderPath = path(folder);
+    return folderPath + (folderPath.ends_with('/') ? "" : "/") + pic.spName;
+}
+
+} // namespace chronomender

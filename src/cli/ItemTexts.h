@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "MySingleFolder.h"
+#include "Zones.h"
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace chronomender {
+
+/// The zone in which an item's date is shown: the target zone of the slot that the date comes from.
+absl::TimeZone displayZone(const MySinglePic &pic, const MySingleFolder &folder,
+                           const Zones &zones);
+
+/// A save would write this item.
+bool isUnsaved(const MySinglePic &pic);
+
+/// Remarks for a person, separated by semicolons: unsaved, empty tags left alone, dated by its
+/// file…
+std::string noteText(const MySinglePic &pic);
+
+/// "48.8584, 2.2945", or "" without a location.
+std::string locationText(const MySinglePic &pic);
+
+/// The paths of a session's folders, asked for once.
+class FolderPaths {
+public:
+    explicit FolderPaths(const std::vector<MySingleFolderPtr> &folders);
+    const std::string &path(const MySingleFolder &folder) const { return m_paths.at(&folder); }
+    std::string path(const MySingleFolder &folder, const MySinglePic &pic) const;
+
+private:
+    std::unordered_map<const MySingleFolder *, std::string> m_paths;
+};
+
+} // namespace chronomender

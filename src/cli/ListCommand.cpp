@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Commands.h"
+
+#include "DateTexts.h"
+#include "ItemTexts.h"
+#include "JsonLine.h"
+#include "MendSession.h"
+#include "Output.h"
+#include "Table.h"
+#include "Texts.h"
+#include "Utf8Text.h"
+
+#include <algorithm>
+
+namespace chronomender {
+namespace {
+
+class List {
+public:
+    explicit List(MendSession &session)
+        : m_items(session.controller().source_full()),
+          m_zones(session.controller().zones()),
+          m_paths(session.folders()),
+          m_folderCount(session.folders().size()) {}
+
+    std::vector<std::string> jsonLines() const {
+        return buildPieces(m_items.size(), [this](std::size_t i, std::string &buffer) {
+            appendJson(*m_items[i], buffer);
+        });
+    }
+
+    std::string table() const {
+        Table table;
+        for (const MySinglePicPtr &pic : m_items)
+            if (const MySingleFolderPtr folder = pic->spSingleRealFolder())
+                table.add(
+                    {readableText(pic->spDateTimeModified(), displayZone(*pic, *folder, m_zones)),
+                     printable(folder->sfFolder), printable(pic->spName),
+                     printable(pic->camera.pivMakeModel), noteText(*pic)});
+        const auto unsaved = std::count_if(m_items.begin(), m_items.end(),
+                                           [](const auto &pic) { return isUnsaved(*pic); });
+        return table.text() +
+               text("cli_list_summary", {std::to_string(m_items.size()),
+                                         std::to_string(m_folderCount), std::to_string(unsaved)}) +
+               '\n';
+    }
+
+private:
+    void appendJson(const MySinglePic &pic, std::string &buffer) const {
+        const MySingleFolderPtr folder = pic.spSingleRealFolder();
+        if (!folder)
+            return;
+        const Date date = pic.spDateTimeModified();
+        JsonLine line(buffer);
+        line.field("path", m_paths.path(*folder, pic))
+            .field("folder", m_paths.path(*folder))
+            .field("name", pic.spName)
+            .fieldIfAny("date", utcText(date))
+            .fieldIfAny("local", localText(date, displayZone(pic, *folder, m_zones)))
+            .field("spType", static_cast<std::int64_t>(pic.spType))
+            .field("format", formatName(pic.fileFormatType))
+            .fieldIfAny("camera", pic.camera.pivMakeModel);
+        if (pic.location.gpsLat && pic.location.gpsLong)
+            line.beginObject("location")
+                .field("lat", *pic.location.gpsLat)
+                .field("lon", *pic.location.gpsLong)
+                .end();
+        line.flag("unsaved", isUnsaved(pic)).finish();
+    }
+
+    const std::vector<MySinglePicPtr> &m_items;
+    const Zones &m_zones;
+    FolderPaths m_paths;
+    std::size_t m_folderCount;
+};
+
+} // namespace
+
+int runList(const CommandLine &line) {
+    MendSession session(line);
+    if (const auto code = session.open({BadPath::GoOn, CompletionScope::WhereCameraIsMissing}))
+        return *code;
+    const List list(session);
+    const WriteResult written =
+        line.isJson ? writeOutput(list.jsonLines()) : writeOutput(list.table());
+    if (session.wasInterrupted())
+        return exitInterrupted;
+    return session.hasFailedPaths() || written == WriteResult::Failed ? exitItemFailed : exitDone;
+}
+
+} // namespace chronomender

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MendSession.h"
+
+#include "EventLoopWait.h"
+#include "Output.h"
+#include "ProgressBar.h"
+#include "Texts.h"
+#include "Utf8Text.h"
+
+#include <algorithm>
+
+namespace chronomender {
+namespace {
+
+const char *complaintKey(OpenFolderResult result) {
+    switch (result) {
+    case OpenFolderResult::NotAFolder:
+        return "cli_error_notAFolder";
+    case OpenFolderResult::NoAccess:
+        return "cli_error_noAccess";
+    case OpenFolderResult::NameNotUtf8:
+        return "cli_error_nameNotUtf8";
+    case OpenFolderResult::LibraryOfAnotherProgram:
+        return "cli_error_libraryOfAnotherProgram";
+    case OpenFolderResult::AlreadyOpen:
+        return "cli_error_folderTwice";
+    default:
+        return "cli_error_notFound";
+    }
+}
+
+MySinglePicPtr itemWithName(const MySingleFolder &folder, const std::string &name) {
+    const auto &items = folder.sfPicDetails_fullArray;
+    const auto found = std::find_if(items.begin(), items.end(),
+                                    [&](const auto &pic) { return pic->spName == name; });
+    return found == items.end() ? nullptr : *found;
+}
+
+std::optional<Complaint> complaintOf(DateChangeOutcome outcome, const std::string &what) {
+    if (outcome != DateChangeOutcome::RefusedOutOfBounds)
+        return std::nullopt;
+    return Complaint{2, text("cli_error_shiftOutOfBounds", {printable(what)})};
+}
+
+void tell(const std::string &message) {
+    writeError("mend: " + message + '\n');
+}
+
+} // namespace
+
+std::optional<int> MendSession::open(const Opening &opening) {
+    AppServices services = systemServices();
+    auto complaint = applySettings(services);
+    FolderPlans plans;
+    if (!complaint) {
+        auto planned = planFolders(m_line.blocks, *services.zones);
+        if (const auto *refused = std::get_if<Complaint>(&planned))
+            complaint = *refused;
+        else
+            plans = std::get<FolderPlans>(std::move(planned));
+    }
+    if (!complaint) {
+        m_controller = std::make_unique<AppController>(std::move(services), *this);
+        m_interruption.emplace(m_controller->cancellation());
+        complaint = addFolders(plans);
+    }
+    if (!complaint && m_hasFailedPaths && opening.badPath == BadPath::Stop)
+        complaint = Complaint{2, text("cli_error_nothingWritten")};
+    for (std::size_t i = 0; i < m_folders.size() && !complaint; ++i) {
+        import(m_plans[i], m_folders[i], opening.completion);
+        if (!wasInterrupted())
+            complaint = shift(m_plans[i].block, *m_folders[i]);
+    }
+    if (complaint) {
+        tell(complaint->message);
+        return complaint->exitCode;
+    }
+    m_controller->buildNewSource();
+    return std::nullopt;
+}
+
+std::optional<Complaint> MendSession::applySettings(AppServices &services) const {
+    if (m_line.systemZone) {
+        auto zone = lookUpZone(*m_line.systemZone, *services.zones);
+        if (const auto *complaint = std::get_if<Complaint>(&zone))
+            return *complaint;
+        services.zones->setSystemZone(std::get<Zone>(std::move(zone)));
+    }
+    for (const auto &[key, value] : m_line.settings) {
+        switch (services.defaults->setForThisRun(key, value)) {
+        case UserDefaults::Outcome::UnknownKey:
+            return Complaint{2, text("cli_error_unknownSetting", {printable(key)})};
+        case UserDefaults::Outcome::ValueNotAllowed:
+            return Complaint{2, text("cli_error_settingNotAllowed",
+                                     {key, printable(value),
+                                      UserDefaults::allowedText(*findDefaultEntry(key))})};
+        case UserDefaults::Outcome::Done:
+            break;
+        }
+    }
+    return std::nullopt;
+}
+
+void MendSession::failPath(std::string message) {
+    m_hasFailedPaths = true;
+    tell(message);
+}
+
+std::optional<Complaint> MendSession::addFolders(const FolderPlans &plans) {
+    for (const std::string &path : plans.missing)
+        failPath(text("cli_error_notFound", {printable(path)}));
+    for (const FolderPlan &plan : plans.plans)
+        if (auto complaint = addFolder(plan))
+            return complaint;
+    return std::nullopt;
+}
+
+std::optional<Complaint> MendSession::addFolder(const FolderPlan &plan) {
+    FolderRequest request;
+    request.path = plan.path;
+    request.mode = plan.block.picShifts.empty() ? EditMode::Together : EditMode::Single;
+    request.sourceZone = plan.sourceZone;
+    request.targetZone = plan.targetZone;
+    MySingleFolderPtr folder;
+    const OpenFolderResult result = m_controller->addFolder(request, &folder);
+    const std::string message = result == OpenFolderResult::Opened
+                                    ? ""
+                                    : text(complaintKey(result), {printable(plan.path)});
+    if (result == OpenFolderResult::AlreadyOpen)
+        return Complaint{2, message};
+    if (result != OpenFolderResult::Opened) {
+        failPath(message);
+        return std::nullopt;
+    }
+    m_importOptions[folder.get()] = plan.importOptions;
+    m_folders.push_back(std::move(folder));
+    m_plans.push_back(plan);
+    return std::nullopt;
+}
+
+void MendSession::import(const FolderPlan &plan, const MySingleFolderPtr &folder,
+                         CompletionScope completion) {
+    if (wasInterrupted())
+        return;
+    ProgressBar bar(text("cli_progress_reading", {printable(folder->sfFolder)}));
+    ImportRequest request;
+    request.folder = folder;
+    request.names = plan.names;
+    request.completion = completion;
+    request.progress = [&bar](ImportProgress progress) {
+        bar.update(progress.done, progress.total);
+    };
+    const auto outcome = waitFor<ImportOutcome>(
+        [&](auto finished) { m_controller->startImport(std::move(request), finished); });
+    tellSkipped(plan, outcome.skipped);
+}
+
+void MendSession::tellSkipped(const FolderPlan &plan, const std::vector<SkippedEntry> &skipped) {
+    std::size_t notReached = 0;
+    for (const SkippedEntry &entry : skipped) {
+        if (entry.reason == SkipReason::Cancelled) {
+            ++notReached;
+            continue;
+        }
+        m_hasFailedPaths = m_hasFailedPaths || !plan.names.empty();
+        tell(text("cli_skipped", {printable(entry.path), text(textKey(entry.reason))}));
+    }
+    if (notReached > 0)
+        tell(text("cli_importInterrupted", {printable(plan.path), std::to_string(notReached)}));
+}
+
+std::optional<Complaint> MendSession::shift(const FolderBlock &block, MySingleFolder &folder) {
+    if (!block.picShifts.empty())
+        return shiftSingly(block, folder);
+    if (!block.shift)
+        return std::nullopt;
+    return complaintOf(m_controller->shiftFolder(folder, *block.shift), block.path);
+}
+
+/// Single mode: the folder's shift is given to each item as its own, an item's own is added.
+std::optional<Complaint> MendSession::shiftSingly(const FolderBlock &block,
+                                                  MySingleFolder &folder) {
+    if (block.shift) {
+        const auto outcome = m_controller->shiftItems(folder.sfPicDetails_fullArray, *block.shift);
+        if (auto complaint = complaintOf(outcome, block.path))
+            return complaint;
+    }
+    for (const auto &[name, shift] : block.picShifts) {
+        const MySinglePicPtr pic = itemWithName(folder, name);
+        if (!pic)
+            return Complaint{2,
+                             text("cli_error_noSuchPic", {printable(name), printable(block.path)})};
+        if (auto complaint = complaintOf(m_controller->shiftItems({pic}, shift), name))
+            return complaint;
+    }
+    return std::nullopt;
+}
+
+PerFolderImportOptions MendSession::emptyTagOptions(const MySingleFolder &folder) {
+    return m_importOptions.at(&folder);
+}
+
+} // namespace chronomender

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Commands.h"
+
+#include "EventLoopWait.h"
+#include "MendSession.h"
+#include "Output.h"
+#include "ProgressBar.h"
+#include "SaveReport.h"
+#include "Texts.h"
+
+#include <algorithm>
+
+namespace chronomender {
+namespace {
+
+/// The two stages of one save, and what is said about them.
+class Save {
+public:
+    Save(MendSession &session) : m_session(session) {
+        m_request.savingAll = session.line().savesAll;
+    }
+
+    int run() {
+        m_plan = preProcess();
+        if (m_plan.wasCancelled || m_session.wasInterrupted())
+            return finish(m_plan.items, WasRun::No, exitInterrupted);
+        if (m_plan.items.empty())
+            return finish(m_plan.items, WasRun::No, exitDone);
+        const bool needsConsent = hasUnacceptedProblem();
+        if (m_session.line().isDryRun || needsConsent)
+            return finish(m_plan.items, WasRun::No, needsConsent ? exitProblems : exitDone);
+        const SaveRunResult result = continueProcess();
+        return finish(result.items, WasRun::Yes, exitCodeOf(result), result.errors);
+    }
+
+private:
+    enum class WasRun : bool { No, Yes };
+
+    PreProcessResult preProcess() {
+        ProgressBar bar(text("workPanelPreSave"));
+        return waitFor<PreProcessResult>([&](auto finished) {
+            m_session.controller().startPreProcess(m_request, progressTo(bar), finished);
+        });
+    }
+
+    SaveRunResult continueProcess() {
+        ProgressBar bar(text("workPanelSave"));
+        return waitFor<SaveRunResult>([&](auto finished) {
+            m_session.controller().startContinueProcess(m_request, m_plan, progressTo(bar),
+                                                        finished);
+        });
+    }
+
+    static AppController::Progress progressTo(ProgressBar &bar) {
+        return [&bar](std::size_t done, std::size_t total) { bar.update(done, total); };
+    }
+
+    bool isAccepted(PreSaveProblem problem) const {
+        const CommandLine &line = m_session.line();
+        return line.acceptsAll || line.accepted.contains(problem);
+    }
+
+    bool hasUnacceptedProblem() const {
+        return std::any_of(m_plan.items.begin(), m_plan.items.end(), [&](const auto &item) {
+            return std::any_of(item.problems.begin(), item.problems.end(),
+                               [&](const auto &finding) { return !isAccepted(finding.problem); });
+        });
+    }
+
+    static int exitCodeOf(const SaveRunResult &result) {
+        const bool isWhole =
+            std::none_of(result.items.begin(), result.items.end(), [](const auto &item) {
+                return item.result == ItemResult::Refused || item.result == ItemResult::Failed;
+            });
+        return result.wasCancelled                ? exitInterrupted
+               : isWhole && result.errors.empty() ? exitDone
+                                                  : exitItemFailed;
+    }
+
+    int finish(const std::vector<ItemOutcome> &items, WasRun wasRun, int exitCode,
+               const std::vector<SaveError> &errors = {}) {
+        const SaveReport report(m_session.controller(), m_session.folders(), items,
+                                wasRun == WasRun::Yes);
+        const bool isInterrupted = exitCode == exitInterrupted;
+        const CommandLine &line = m_session.line();
+        const WriteResult written =
+            writeOutput(line.isJson ? report.jsonLines({line.isDryRun, isInterrupted, exitCode})
+                                    : reportText(report, wasRun, exitCode));
+        writeError(actionErrorText(errors));
+        return written == WriteResult::Failed && exitCode == exitDone ? exitItemFailed : exitCode;
+    }
+
+    std::string reportText(const SaveReport &report, WasRun wasRun, int exitCode) const {
+        std::string out;
+        if (m_session.line().isDryRun)
+            out += report.plannedText();
+        out += report.problemText(acceptedProblems());
+        out += report.notReachedText();
+        out += report.summaryText();
+        if (exitCode == exitInterrupted)
+            out += text(wasRun == WasRun::Yes ? "cli_save_interrupted"
+                                              : "cli_save_interruptedBefore") +
+                   '\n';
+        else if (report.isEmpty())
+            out += text("cli_save_nothingToSave") + '\n';
+        else if (wasRun == WasRun::No)
+            out += text(exitCode == exitProblems ? "cli_save_problemsNothingWritten"
+                                                 : "cli_save_dryRunNothingWritten") +
+                   '\n';
+        return out;
+    }
+
+    std::set<PreSaveProblem> acceptedProblems() const {
+        std::set<PreSaveProblem> accepted;
+        for (const ItemOutcome &item : m_plan.items)
+            for (const PreSaveFinding &finding : item.problems)
+                if (isAccepted(finding.problem))
+                    accepted.insert(finding.problem);
+        return accepted;
+    }
+
+    MendSession &m_session;
+    SaveRequest m_request;
+    PreProcessResult m_plan;
+};
+
+} // namespace
+
+int runSave(const CommandLine &line) {
+    MendSession session(line);
+    if (const auto code = session.open({BadPath::Stop, CompletionScope::None}))
+        return *code;
+    const int code = Save(session).run();
+    return code == exitDone && session.hasFailedPaths() ? exitItemFailed : code;
+}
+
+} // namespace chronomender

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SaveReport.h"
+
+#include "JsonLine.h"
+#include "SlotTexts.h"
+#include "Texts.h"
+#include "Utf8Text.h"
+
+#include <array>
+
+namespace chronomender {
+namespace {
+
+struct ResultName {
+    ReportedResult result;
+    std::string_view name;
+};
+constexpr std::array<ResultName, 6> resultNames{{
+    {ReportedResult::Planned, "planned"},
+    {ReportedResult::Saved, "saved"},
+    {ReportedResult::Unchanged, "unchanged"},
+    {ReportedResult::Refused, "refused"},
+    {ReportedResult::Failed, "failed"},
+    {ReportedResult::NotReached, "notReached"},
+}};
+
+std::string problemTitle(PreSaveProblem problem) {
+    return text("preSaveSummary_" + std::string(key(problem)));
+}
+
+std::string acceptingOption(PreSaveProblem problem) {
+    return "--accept " + std::string(key(problem));
+}
+
+void appendProblems(JsonLine &line, const std::vector<PreSaveFinding> &problems) {
+    line.beginArray("problems");
+    for (const PreSaveFinding &finding : problems)
+        line.beginElement()
+            .field("key", key(finding.problem))
+            .field("text", problemTitle(finding.problem))
+            .fieldIfAny("detail", finding.detail)
+            .field("option", acceptingOption(finding.problem))
+            .end();
+    line.end();
+}
+
+} // namespace
+
+std::string_view resultName(ReportedResult result) {
+    for (const ResultName &named : resultNames)
+        if (named.result == result)
+            return named.name;
+    return {};
+}
+
+SaveReport::SaveReport(AppController &controller, const std::vector<MySingleFolderPtr> &folders,
+                       const std::vector<ItemOutcome> &items, bool wasRun)
+    : m_controller(controller), m_paths(folders), m_items(items), m_wasRun(wasRun) {
+    for (const ItemOutcome &outcome : items)
+        m_outcomes.emplace(outcome.pic.get(), &outcome);
+}
+
+ReportedResult SaveReport::resultOf(const ItemOutcome &outcome) const {
+    if (!m_wasRun) // the plan tells of problems only; nothing else has happened yet
+        return outcome.problems.empty() ? ReportedResult::Planned : ReportedResult::Refused;
+    switch (outcome.result) {
+    case ItemResult::Saved:
+        return ReportedResult::Saved;
+    case ItemResult::Refused:
+        return ReportedResult::Refused;
+    case ItemResult::Failed:
+        return ReportedResult::Failed;
+    case ItemResult::NotReached:
+        return ReportedResult::NotReached;
+    case ItemResult::Unchanged:
+        break;
+    }
+    return ReportedResult::Unchanged;
+}
+
+const ItemOutcome *SaveReport::outcomeOf(const MySinglePic &pic) const {
+    const auto found = m_outcomes.find(&pic);
+    return found == m_outcomes.end() ? nullptr : found->second;
+}
+
+std::string SaveReport::path(const MySinglePic &pic) const {
+    const MySingleFolderPtr folder = pic.spSingleRealFolder();
+    return folder ? m_paths.path(*folder, pic) : pic.spName;
+}
+
+std::set<PreSaveProblem> SaveReport::problems() const {
+    std::set<PreSaveProblem> found;
+    for (const ItemOutcome &outcome : m_items)
+        for (const PreSaveFinding &finding : outcome.problems)
+            found.insert(finding.problem);
+    return found;
+}
+
+/// Items that the save never looked at count as unchanged.
+std::size_t SaveReport::count(ReportedResult result) const {
+    std::size_t sum = 0;
+    for (const ItemOutcome &outcome : m_items)
+        sum += resultOf(outcome) == result ? 1 : 0;
+    const std::size_t all = m_controller.source_full().size();
+    return result == ReportedResult::Unchanged && all > m_items.size() ? sum + all - m_items.size()
+                                                                       : sum;
+}
+
+void SaveReport::appendItem(std::string &buffer, const MySinglePic &pic,
+                            const MySingleFolder &folder) const {
+    const ItemOutcome *outcome = outcomeOf(pic);
+    JsonLine line(buffer);
+    line.field("path", m_paths.path(folder, pic));
+    line.field("result", resultName(outcome ? resultOf(*outcome) : ReportedResult::Unchanged));
+    line.beginArray("errorIds");
+    if (outcome)
+        for (const SaveError &error : outcome->errors)
+            line.element(static_cast<std::int64_t>(error.id));
+    line.end();
+    appendProblems(line, outcome ? outcome->problems : std::vector<PreSaveFinding>());
+    appendSlots(line, outcome ? slotViews(*outcome, folder, m_controller.zones())
+                              : std::vector<SlotView>());
+    line.finish();
+}
+
+std::string SaveReport::jsonLines(const Summary &summary) const {
+    std::string buffer;
+    for (const MySinglePicPtr &pic : m_controller.source_full())
+        if (const MySingleFolderPtr folder = pic->spSingleRealFolder())
+            appendItem(buffer, *pic, *folder);
+    JsonLine line(buffer);
+    line.beginObject("summary");
+    for (const ResultName &named : resultNames)
+        line.field(named.name, static_cast<std::int64_t>(count(named.result)));
+    line.flag("dryRun", summary.isDryRun)
+        .flag("interrupted", summary.wasInterrupted)
+        .field("exitCode", static_cast<std::int64_t>(summary.exitCode))
+        .finish();
+    return buffer;
+}
+
+void SaveReport::appendPlanned(std::string &buffer, const ItemOutcome &outcome) const {
+    const MySingleFolderPtr folder = outcome.pic->spSingleRealFolder();
+    if (!folder)
+        return;
+    buffer += printable(m_paths.path(*folder, *outcome.pic)) + '\n';
+    Table table("    ");
+    addSlotRows(table, slotViews(outcome, *folder, m_controller.zones()));
+    buffer += table.text();
+    if (outcome.pic->importState.isExtraHardLink)
+        buffer += "    " + text("cli_save_hardLinks") + '\n';
+    for (const PreSaveFinding &finding : outcome.problems)
+        buffer += "    " + std::string(key(finding.problem)) + ": " +
+                  problemTitle(finding.problem) +
+                  (finding.detail.empty() ? "" : " (" + finding.detail + ')') + '\n';
+}
+
+std::string SaveReport::plannedText() const {
+    std::string buffer;
+    for (const ItemOutcome &outcome : m_items)
+        appendPlanned(buffer, outcome);
+    return buffer;
+}
+
+std::string SaveReport::problemText(const std::set<PreSaveProblem> &accepted) const {
+    std::string buffer;
+    for (const PreSaveProblem problem : problems()) {
+        const std::string name(key(problem));
+        buffer += name + ": " + problemTitle(problem) + '\n';
+        buffer += "  " + text("preSaveSummary_" + name + "_details") + '\n';
+        buffer +=
+            "  " +
+            (accepted.contains(problem) ? text("cli_save_accepted")
+                                        : text("cli_save_acceptWith", {acceptingOption(problem)})) +
+            '\n';
+        for (const ItemOutcome &outcome : m_items)
+            for (const PreSaveFinding &finding : outcome.problems)
+                if (finding.problem == problem)
+                    buffer += "    " + printable(path(*outcome.pic)) +
+                              (finding.detail.empty() ? "" : "  " + finding.detail) + '\n';
+    }
+    return buffer;
+}
+
+std::string SaveReport::notReachedText() const {
+    std::string buffer;
+    for (const ItemOutcome &outcome : m_items)
+        if (resultOf(outcome) == ReportedResult::NotReached)
+            buffer += "  " + printable(path(*outcome.pic)) + '\n';
+    return buffer.empty() ? buffer : text("cli_save_notReached") + '\n' + buffer;
+}
+
+std::string SaveReport::summaryText() const {
+    std::string buffer;
+    for (const ResultName &named : resultNames) {
+        const bool isAlwaysSaid = named.result == ReportedResult::Unchanged ||
+                                  (named.result == ReportedResult::Saved && m_wasRun);
+        const std::size_t items = count(named.result);
+        if (items > 0 || isAlwaysSaid)
+            buffer += (buffer.empty() ? "" : ", ") +
+                      text("cli_result_" + std::string(named.name), {std::to_string(items)});
+    }
+    return buffer + '\n';
+}
+
+} // namespace chronomender

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "AppController.h"
+#include "ItemTexts.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace chronomender {
+
+/// What the report says of one item.
+enum class ReportedResult : std::uint8_t {
+    Planned, ///< would be saved; the run wrote nothing
+    Saved,
+    Unchanged,
+    Refused,
+    Failed,
+    NotReached, ///< the run was interrupted before it
+};
+std::string_view resultName(ReportedResult result);
+
+/// Everything that a save has to say, as a text for people or as JSON Lines.
+class SaveReport {
+public:
+    /// `items` are those of the plan, or of the run once there was one.
+    SaveReport(AppController &controller, const std::vector<MySingleFolderPtr> &folders,
+               const std::vector<ItemOutcome> &items, bool wasRun);
+
+    struct Summary {
+        bool isDryRun = false, wasInterrupted = false;
+        int exitCode = 0;
+    };
+    /// A line for each item of the session, in display order, and a summary.
+    std::string jsonLines(const Summary &summary) const;
+    /// Every slot old → new, for a dry run.
+    std::string plannedText() const;
+    /// The problems by key, with the option that accepts each.
+    std::string problemText(const std::set<PreSaveProblem> &accepted) const;
+    /// Items that an interruption left.
+    std::string notReachedText() const;
+    std::string summaryText() const;
+
+    std::set<PreSaveProblem> problems() const;
+    std::size_t count(ReportedResult result) const;
+    bool isEmpty() const { return m_items.empty(); }
+
+private:
+    ReportedResult resultOf(const ItemOutcome &outcome) const;
+    const ItemOutcome *outcomeOf(const MySinglePic &pic) const;
+    void appendItem(std::string &buffer, const MySinglePic &pic,
+                    const MySingleFolder &folder) const;
+    void appendPlanned(std::string &buffer, const ItemOutcome &outcome) const;
+    std::string path(const MySinglePic &pic) const;
+
+    AppController &m_controller;
+    FolderPaths m_paths;
+    const std::vector<ItemOutcome> &m_items;
+    bool m_wasRun;
+    std::unordered_map<const MySinglePic *, const ItemOutcome *> m_outcomes;
+};
+
+} // namespace chronomender

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SlotTexts.h"
+
+#include "DateTexts.h"
+#include "Texts.h"
+#include "ZoneLookup.h"
+
+#include <algorithm>
+
+namespace chronomender {
+namespace {
+
+constexpr std::string_view creationSlot = "fileCreationDate";
+
+absl::TimeZone zoneOfSlot(std::string_view name, const MySinglePic &pic,
+                          const MySingleFolder &folder, const Zones &zones) {
+    for (const StampSlot slot : stampSlots)
+        if (description(slot).name == name)
+            return targetZoneForSlot(pic, slot, folder, zones).rules;
+    return targetTimeZoneForPic(pic, folder, zones).rules;
+}
+
+/// The distant past marks a tag that is to be added: nothing that a person could read.
+OptionalDate readable(const OptionalDate &date) {
+    return date && *date == InfinitePast() ? std::nullopt : date;
+}
+
+} // namespace
+
+std::vector<SlotView> slotViews(const MySinglePic &pic, const MySingleFolder &folder,
+                                const Zones &zones) {
+    std::vector<SlotView> views;
+    for (const SlotDescription &slot : slotDescriptions) {
+        const OptionalDate oldDate = readable(pic.slots.*slot.oldDate);
+        OptionalDate newDate = readable(pic.slots.*slot.newDate);
+        if (!oldDate && !newDate)
+            continue;
+        const bool isStorable = slot.name != creationSlot || newDate == oldDate;
+        if (newDate == oldDate || !isStorable)
+            newDate.reset();
+        views.push_back(
+            {slot.name, oldDate, newDate, isStorable, zoneOfSlot(slot.name, pic, folder, zones)});
+    }
+    return views;
+}
+
+std::vector<SlotView> slotViews(const ItemOutcome &outcome, const MySingleFolder &folder,
+                                const Zones &zones) {
+    std::vector<SlotView> views;
+    for (const SlotOutcome &slot : outcome.slots) {
+        const OptionalDate oldDate = readable(slot.oldDate);
+        const bool stays = slot.result == SlotResult::Unchanged ||
+                           slot.result == SlotResult::NotStorable || !readable(slot.newDate);
+        if (!oldDate && stays)
+            continue;
+        views.push_back({slot.slot, oldDate, stays ? std::nullopt : slot.newDate,
+                         slot.result != SlotResult::NotStorable,
+                         zoneOfSlot(slot.slot, *outcome.pic, folder, zones)});
+    }
+    return views;
+}
+
+void appendSlots(JsonLine &line, const std::vector<SlotView> &slots) {
+    line.beginObject("slots");
+    for (const SlotView &slot : slots) {
+        line.beginObject(slot.name);
+        if (slot.oldDate)
+            line.fieldIfAny("old", utcText(*slot.oldDate));
+        if (slot.newDate)
+            line.field("new",
+                       *slot.newDate == InfiniteFuture() ? "at save" : utcText(*slot.newDate));
+        line.flag("stays", slot.stays()).end();
+    }
+    line.end();
+}
+
+void addSlotRows(Table &table, const std::vector<SlotView> &slots) {
+    for (const SlotView &slot : slots) {
+        std::vector<std::string> row{std::string(slot.name)};
+        row.push_back(slot.oldDate ? readableText(*slot.oldDate, slot.zone) : "-");
+        if (!slot.isStorable)
+            row.push_back(text("cli_slot_notStorable"));
+        else if (slot.stays())
+            row.push_back(text("cli_slot_stays"));
+        else
+            row.push_back("→ " + (*slot.newDate == InfiniteFuture()
+                                      ? text("cli_slot_atSave")
+                                      : readableText(*slot.newDate, slot.zone)));
+        table.add(std::move(row));
+    }
+}
+
+} // namespace chronomender

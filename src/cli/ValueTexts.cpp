@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ValueTexts.h"
+
+#include <array>
+#include <cstdint>
+
+namespace chronomender {
+namespace {
+
+enum class ValueKind : std::uint8_t { Text, Rationals, Number };
+struct KeyKind {
+    std::string_view key;
+    ValueKind kind;
+};
+// Values that are no texts (Exif 2.32, 4.6.6 "GPS Attribute Information").
+constexpr std::array<KeyKind, 6> kinds{{
+    {"GPSTimeStamp", ValueKind::Rationals},
+    {"latitude", ValueKind::Rationals},
+    {"longitude", ValueKind::Rationals},
+    {"altitude", ValueKind::Rationals},
+    {"hPositioningError", ValueKind::Rationals},
+    {"altitudeRef", ValueKind::Number},
+}};
+
+ValueKind kindOf(std::string_view key) {
+    for (const KeyKind &kind : kinds)
+        if (kind.key == key)
+            return kind.kind;
+    return ValueKind::Text;
+}
+
+std::uint32_t numberAt(const Bytes &bytes, std::size_t offset, bool isBigEndian) {
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < 4; ++i)
+        value = value << 8 | static_cast<unsigned char>(bytes[offset + (isBigEndian ? i : 3 - i)]);
+    return value;
+}
+
+std::string rationalsText(const Bytes &bytes, bool isBigEndian) {
+    std::string text;
+    for (std::size_t offset = 0; offset + 8 <= bytes.size(); offset += 8)
+        text += (offset ? " " : "") + std::to_string(numberAt(bytes, offset, isBigEndian)) + '/' +
+                std::to_string(numberAt(bytes, offset + 4, isBigEndian));
+    return text;
+}
+
+bool hasBigEndianRationals(std::string_view key, const SinglePicAttributes &attributes) {
+    if (key == "GPSTimeStamp")
+        return attributes.gpsTimeStamp && attributes.gpsTimeStamp->needsConv;
+    return attributes.gpsLocation && attributes.gpsLocation->needsConv;
+}
+
+} // namespace
+
+std::string hexText(const Bytes &bytes) {
+    constexpr char digits[] = "0123456789abcdef";
+    std::string text;
+    text.reserve(2 * bytes.size());
+    for (const char byte : bytes) {
+        const auto value = static_cast<unsigned char>(byte);
+        text += {digits[value >> 4], digits[value & 15]};
+    }
+    return text;
+}
+
+std::string valueText(std::string_view key, const Bytes &bytes,
+                      const SinglePicAttributes &attributes) {
+    switch (kindOf(key)) {
+    case ValueKind::Rationals:
+        return rationalsText(bytes, hasBigEndianRationals(key, attributes));
+    case ValueKind::Number:
+        return bytes.empty() ? "" : std::to_string(static_cast<unsigned char>(bytes[0]));
+    case ValueKind::Text:
+        break;
+    }
+    return bytes.substr(0, bytes.find('\0'));
+}
+
+} // namespace chronomender
