@@ -3,6 +3,299 @@
 <TS version="2.1" language="de">
 <context>
     <name></name>
+    <message id="cli_emptyTagsLeftAlone">
+        <translation>%1 Dateien haben leere Zeitfelder und bleiben, wie sie sind. --empty-tags sagt, was sie bedeuten sollen.</translation>
+    </message>
+    <message id="cli_error_badEmptyTags">
+        <translation>%1 sagt nichts über leere Zeitfelder. Möglich sind leave, file oder eine Zeit wie 2024-05-01T10:00+60.</translation>
+    </message>
+    <message id="cli_error_badSetting">
+        <translation>--set erwartet KEY=VALUE, nicht %1.</translation>
+    </message>
+    <message id="cli_error_badShift">
+        <translation>%1 ist keine Verschiebung. Möglich sind Sekunden wie -90 oder 0.5 oder Tage und Uhrzeit wie +1d, -1:00 oder +1d2:30:00.</translation>
+    </message>
+    <message id="cli_error_emptyPath">
+        <translation>Ein leerer Text ist kein Pfad.</translation>
+    </message>
+    <message id="cli_error_folderTwice">
+        <translation>%1 ist zweimal angegeben; alles zu einem Ordner gehört hinter ein --folder.</translation>
+    </message>
+    <message id="cli_error_libraryOfAnotherProgram">
+        <translation>%1 gehört zur Mediathek eines Programms und darf nicht hinter dessen Rücken geändert werden.</translation>
+    </message>
+    <message id="cli_error_nameNotUtf8">
+        <translation>%1 ist kein gültiges UTF-8. Benennen Sie den Ordner zuerst um.</translation>
+    </message>
+    <message id="cli_error_noAccess">
+        <translation>%1 lässt sich nicht öffnen: Sie dürfen es nicht lesen.</translation>
+    </message>
+    <message id="cli_error_noPaths">
+        <translation>Mindestens ein Ordner oder eine Datei muss angegeben sein.</translation>
+    </message>
+    <message id="cli_error_noSuchPic">
+        <translation>Eine Aufnahme %1 gibt es in %2 nicht.</translation>
+    </message>
+    <message id="cli_error_notAFolder">
+        <translation>%1 ist kein Ordner.</translation>
+    </message>
+    <message id="cli_error_notFound">
+        <translation>%1 gibt es nicht.</translation>
+    </message>
+    <message id="cli_error_nothingWritten">
+        <translation>Es wurde nichts geschrieben.</translation>
+    </message>
+    <message id="cli_error_optionTwice">
+        <translation>%1 steht zweimal für den Ordner %2.</translation>
+    </message>
+    <message id="cli_error_optionWithoutFolder">
+        <translation>%1 gilt für einen Ordner: Es gehört hinter --folder PATH.</translation>
+    </message>
+    <message id="cli_error_outputFailed">
+        <translation>Die Ausgabe ließ sich nicht schreiben.</translation>
+    </message>
+    <message id="cli_error_picTwice">
+        <translation>--pic %1 steht zweimal.</translation>
+    </message>
+    <message id="cli_error_picWithoutShift">
+        <translation>--pic %1 braucht ein --shift dahinter.</translation>
+    </message>
+    <message id="cli_error_settingNotAllowed">
+        <translation>Die Einstellung %1 kann nicht %2 sein; möglich ist %3.</translation>
+    </message>
+    <message id="cli_error_shiftOutOfBounds">
+        <translation>Die Verschiebung würde %1 aus den Jahren 1 bis 4999 hinausführen.</translation>
+    </message>
+    <message id="cli_error_unknownProblem">
+        <translation>Ein Bedenken %1 gibt es nicht. Bedenken werden genannt, wenn sie auftreten.</translation>
+    </message>
+    <message id="cli_error_unknownSetting">
+        <translation>Eine Einstellung %1 gibt es nicht.</translation>
+    </message>
+    <message id="cli_error_unknownZone">
+        <translation>Eine Zeitzone %1 gibt es nicht.</translation>
+    </message>
+    <message id="cli_error_unknownZoneNear">
+        <translation>Eine Zeitzone %1 gibt es nicht. Ähnlich: %2.</translation>
+    </message>
+    <message id="cli_help_accept">
+        <translation>Speichern, obwohl es dieses Bedenken gibt</translation>
+    </message>
+    <message id="cli_help_all">
+        <translation>Auch Dateien ohne Korrektur schreiben</translation>
+    </message>
+    <message id="cli_help_dryRun">
+        <translation>Jede Zeit alt und neu zeigen und nichts schreiben</translation>
+    </message>
+    <message id="cli_help_emptyTags">
+        <translation>Was leere Zeitfelder bedeuten: die Datei in Ruhe lassen (sonst üblich), das Datum der Datei nehmen, oder eine Zeit, von der STEP (Sekunden oder H:MM:SS) zur nächsten führt</translation>
+    </message>
+    <message id="cli_help_file">
+        <translation>Dateien, die gezeigt werden; ein Ordner steht für alle darin</translation>
+    </message>
+    <message id="cli_help_folder">
+        <translation>Ein Ordner; die Angaben dahinter gelten für ihn</translation>
+    </message>
+    <message id="cli_help_folderOptions">
+        <translation>Angaben zu einem Ordner (hinter seinem --folder)</translation>
+    </message>
+    <message id="cli_help_footer">
+        <translation>Ergebnis: 0 erledigt, 1 bei manchen Dateien misslungen, 2 Aufruf falsch, 3 Bedenken vor dem Speichern und nichts geschrieben, 130 unterbrochen.</translation>
+    </message>
+    <message id="cli_help_help">
+        <translation>Diese Hilfe ausgeben</translation>
+    </message>
+    <message id="cli_help_info">
+        <translation>Alles zeigen, was in Dateien gelesen wurde, mit Stellen und Bytes</translation>
+    </message>
+    <message id="cli_help_info_footer">
+        <translation>Beispiel:
+  mend info IMG_0001.JPG</translation>
+    </message>
+    <message id="cli_help_json">
+        <translation>Ein JSON-Objekt je Zeile ausgeben</translation>
+    </message>
+    <message id="cli_help_language">
+        <translation>Sprache aller Meldungen (sonst die des Systems)</translation>
+    </message>
+    <message id="cli_help_list">
+        <translation>Die Aufnahmen aller Ordner in einer Reihenfolge auflisten</translation>
+    </message>
+    <message id="cli_help_list_footer">
+        <translation>Beispiel:
+  mend list --folder canon --shift -1:00:00 --folder nikon --source-zone America/New_York phone</translation>
+    </message>
+    <message id="cli_help_mend">
+        <translation>Bringt Fotos mehrerer Kameras in eine Reihenfolge und korrigiert ihre Zeiten in den Dateien.</translation>
+    </message>
+    <message id="cli_help_path">
+        <translation>Ordner oder Dateien ohne eigene Angaben</translation>
+    </message>
+    <message id="cli_help_pic">
+        <translation>Eine Aufnahme des Ordners; das nächste --shift kommt nur bei ihr dazu</translation>
+    </message>
+    <message id="cli_help_runOptions">
+        <translation>Angaben zum ganzen Lauf</translation>
+    </message>
+    <message id="cli_help_save">
+        <translation>Die Korrekturen in die Dateien schreiben</translation>
+    </message>
+    <message id="cli_help_save_footer">
+        <translation>Beispiele:
+  mend save --folder canon --shift -1:00:00 --dry-run
+  mend save --folder canon --shift -1:00:00
+  mend save --folder canon --pic IMG_0007.JPG --shift +0:05 --target-zone own</translation>
+    </message>
+    <message id="cli_help_set">
+        <translation>Eine Einstellung für diesen Lauf setzen</translation>
+    </message>
+    <message id="cli_help_shift">
+        <translation>Seine Zeiten verschieben: Sekunden oder [+-][Nd][H:MM[:SS]]; hinter --pic nur die dieser Aufnahme</translation>
+    </message>
+    <message id="cli_help_sourceZone">
+        <translation>Zeitzone, in der die Uhr der Kamera ging</translation>
+    </message>
+    <message id="cli_help_systemZone">
+        <translation>Steht anstelle der Zeitzone des Systems</translation>
+    </message>
+    <message id="cli_help_targetZone">
+        <translation>Zeitzone, in der die Zeiten stehen sollen; own lässt jeder Datei ihre eigene</translation>
+    </message>
+    <message id="cli_help_version">
+        <translation>Die Version ausgeben</translation>
+    </message>
+    <message id="cli_importInterrupted">
+        <translation>unterbrochen: %2 Dateien von %1 wurden nicht gelesen</translation>
+    </message>
+    <message id="cli_info_camera">
+        <translation>Kamera</translation>
+    </message>
+    <message id="cli_info_date">
+        <translation>Zeit</translation>
+    </message>
+    <message id="cli_info_dates">
+        <translation>Zeiten</translation>
+    </message>
+    <message id="cli_info_format">
+        <translation>Format</translation>
+    </message>
+    <message id="cli_info_lens">
+        <translation>Objektiv</translation>
+    </message>
+    <message id="cli_info_location">
+        <translation>Ort</translation>
+    </message>
+    <message id="cli_info_note">
+        <translation>Hinweis</translation>
+    </message>
+    <message id="cli_info_refused">
+        <translation>abgelehnt oder geduldet</translation>
+    </message>
+    <message id="cli_info_room">
+        <translation>%1 Bytes</translation>
+    </message>
+    <message id="cli_info_size">
+        <translation>Größe</translation>
+    </message>
+    <message id="cli_info_source">
+        <translation>Quelltyp</translation>
+    </message>
+    <message id="cli_info_sourceZone">
+        <translation>Quellzone</translation>
+    </message>
+    <message id="cli_info_targetZone">
+        <translation>Zielzone</translation>
+    </message>
+    <message id="cli_info_values">
+        <translation>Werte in der Datei</translation>
+    </message>
+    <message id="cli_list_summary">
+        <translation>Aufnahmen: %1, Ordner: %2, ungespeichert: %3</translation>
+    </message>
+    <message id="cli_note_emptyTags">
+        <translation>Zeitfelder sind leer, bleibt wie sie ist</translation>
+    </message>
+    <message id="cli_note_filledTags">
+        <translation>Zeitfelder sind leer</translation>
+    </message>
+    <message id="cli_note_hardLinks">
+        <translation>mehrere Namen auf dem Datenträger</translation>
+    </message>
+    <message id="cli_note_noTags">
+        <translation>keine Zeit darin, Datum der Datei</translation>
+    </message>
+    <message id="cli_note_repeatedHour">
+        <translation>die Stunde kommt zweimal vor</translation>
+    </message>
+    <message id="cli_note_unsaved">
+        <translation>ungespeichert</translation>
+    </message>
+    <message id="cli_note_youngerThanFile">
+        <translation>Zeit darin ist jünger als die Datei, Datum der Datei</translation>
+    </message>
+    <message id="cli_progress_reading">
+        <translation>Lesen von %1</translation>
+    </message>
+    <message id="cli_result_failed">
+        <translation>%1 misslungen</translation>
+    </message>
+    <message id="cli_result_notReached">
+        <translation>%1 nicht erreicht</translation>
+    </message>
+    <message id="cli_result_planned">
+        <translation>%1 zu speichern</translation>
+    </message>
+    <message id="cli_result_refused">
+        <translation>%1 abgelehnt</translation>
+    </message>
+    <message id="cli_result_saved">
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message id="cli_result_unchanged">
+        <translation>%1 unverändert</translation>
+    </message>
+    <message id="cli_save_acceptWith">
+        <translation>Trotzdem speichern: %1</translation>
+    </message>
+    <message id="cli_save_accepted">
+        <translation>hingenommen</translation>
+    </message>
+    <message id="cli_save_dryRunNothingWritten">
+        <translation>Probelauf: Es wurde nichts geschrieben.</translation>
+    </message>
+    <message id="cli_save_hardLinks">
+        <translation>die Datei hat mehrere Namen auf dem Datenträger; die Änderung zeigt sich unter allen</translation>
+    </message>
+    <message id="cli_save_interrupted">
+        <translation>Unterbrochen. Die Dateien oben wurden nicht gespeichert; alle anderen sind vollständig.</translation>
+    </message>
+    <message id="cli_save_interruptedBefore">
+        <translation>Vor dem Speichern unterbrochen. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message id="cli_save_keepOwnZones">
+        <translation>Jeder Datei ihre Zone lassen: --target-zone own</translation>
+    </message>
+    <message id="cli_save_notReached">
+        <translation>Nicht gespeichert, da der Lauf unterbrochen wurde:</translation>
+    </message>
+    <message id="cli_save_nothingToSave">
+        <translation>Keine Datei hat eine Korrektur. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message id="cli_save_problemsNothingWritten">
+        <translation>Es wurde nichts geschrieben, da es Bedenken gibt, die nicht hingenommen sind.</translation>
+    </message>
+    <message id="cli_skipped">
+        <translation>übergangen: %1: %2</translation>
+    </message>
+    <message id="cli_slot_atSave">
+        <translation>beim Speichern</translation>
+    </message>
+    <message id="cli_slot_notStorable">
+        <translation>lässt sich auf diesem System nicht speichern</translation>
+    </message>
+    <message id="cli_slot_stays">
+        <translation>bleibt</translation>
+    </message>
     <message id="dragInSingleMode">
         <translation>Aufnahmen zeitlich verschieben</translation>
     </message>

@@ -3,6 +3,299 @@
 <TS version="2.1" language="en">
 <context>
     <name></name>
+    <message id="cli_emptyTagsLeftAlone">
+        <translation>%1 files have empty date tags and are left alone. --empty-tags says what they are to mean.</translation>
+    </message>
+    <message id="cli_error_badEmptyTags">
+        <translation>%1 says nothing about empty tags. Give leave, file, or a date such as 2024-05-01T10:00+60.</translation>
+    </message>
+    <message id="cli_error_badSetting">
+        <translation>--set takes KEY=VALUE, not %1.</translation>
+    </message>
+    <message id="cli_error_badShift">
+        <translation>%1 is no shift. Give seconds, such as -90 or 0.5, or days and a clock, such as +1d, -1:00 or +1d2:30:00.</translation>
+    </message>
+    <message id="cli_error_emptyPath">
+        <translation>An empty text is no path.</translation>
+    </message>
+    <message id="cli_error_folderTwice">
+        <translation>%1 is given twice; put all that is about one folder behind one --folder.</translation>
+    </message>
+    <message id="cli_error_libraryOfAnotherProgram">
+        <translation>%1 belongs to the library of a program, which must not be changed behind its back.</translation>
+    </message>
+    <message id="cli_error_nameNotUtf8">
+        <translation>%1 is not valid UTF-8. Rename the folder first.</translation>
+    </message>
+    <message id="cli_error_noAccess">
+        <translation>%1 cannot be opened: you may not read it.</translation>
+    </message>
+    <message id="cli_error_noPaths">
+        <translation>Name at least one folder or file.</translation>
+    </message>
+    <message id="cli_error_noSuchPic">
+        <translation>There is no item %1 in %2.</translation>
+    </message>
+    <message id="cli_error_notAFolder">
+        <translation>%1 is not a folder.</translation>
+    </message>
+    <message id="cli_error_notFound">
+        <translation>%1 does not exist.</translation>
+    </message>
+    <message id="cli_error_nothingWritten">
+        <translation>Nothing was written.</translation>
+    </message>
+    <message id="cli_error_optionTwice">
+        <translation>%1 is given twice for the folder %2.</translation>
+    </message>
+    <message id="cli_error_optionWithoutFolder">
+        <translation>%1 is about a folder: put it behind --folder PATH.</translation>
+    </message>
+    <message id="cli_error_outputFailed">
+        <translation>The output could not be written.</translation>
+    </message>
+    <message id="cli_error_picTwice">
+        <translation>--pic %1 is given twice.</translation>
+    </message>
+    <message id="cli_error_picWithoutShift">
+        <translation>--pic %1 needs a --shift behind it.</translation>
+    </message>
+    <message id="cli_error_settingNotAllowed">
+        <translation>The preference %1 cannot be %2; it accepts %3.</translation>
+    </message>
+    <message id="cli_error_shiftOutOfBounds">
+        <translation>The shift would move %1 out of the years 1 to 4999.</translation>
+    </message>
+    <message id="cli_error_unknownProblem">
+        <translation>There is no problem %1 that could be accepted. Problems are named when they are found.</translation>
+    </message>
+    <message id="cli_error_unknownSetting">
+        <translation>There is no preference %1.</translation>
+    </message>
+    <message id="cli_error_unknownZone">
+        <translation>There is no time zone %1.</translation>
+    </message>
+    <message id="cli_error_unknownZoneNear">
+        <translation>There is no time zone %1. Similar: %2.</translation>
+    </message>
+    <message id="cli_help_accept">
+        <translation>Save although this problem was found</translation>
+    </message>
+    <message id="cli_help_all">
+        <translation>Write files without a correction as well</translation>
+    </message>
+    <message id="cli_help_dryRun">
+        <translation>Show every date old and new, and write nothing</translation>
+    </message>
+    <message id="cli_help_emptyTags">
+        <translation>What empty date tags mean: leave the file alone (default), take the file’s date, or a date from which STEP (seconds or H:MM:SS) leads to the next</translation>
+    </message>
+    <message id="cli_help_file">
+        <translation>Files to tell about; a folder stands for all in it</translation>
+    </message>
+    <message id="cli_help_folder">
+        <translation>A folder; the options behind it are about it</translation>
+    </message>
+    <message id="cli_help_folderOptions">
+        <translation>Options of a folder (behind its --folder)</translation>
+    </message>
+    <message id="cli_help_footer">
+        <translation>Exit codes: 0 done, 1 some item failed, 2 usage, 3 problems before the save and nothing written, 130 interrupted.</translation>
+    </message>
+    <message id="cli_help_help">
+        <translation>Print this help and end</translation>
+    </message>
+    <message id="cli_help_info">
+        <translation>Tell all that was read from files, with offsets and bytes</translation>
+    </message>
+    <message id="cli_help_info_footer">
+        <translation>Example:
+  mend info IMG_0001.JPG</translation>
+    </message>
+    <message id="cli_help_json">
+        <translation>Print one JSON object a line</translation>
+    </message>
+    <message id="cli_help_language">
+        <translation>Language of all messages (else the system’s)</translation>
+    </message>
+    <message id="cli_help_list">
+        <translation>List the items of all folders in one order</translation>
+    </message>
+    <message id="cli_help_list_footer">
+        <translation>Example:
+  mend list --folder canon --shift -1:00:00 --folder nikon --source-zone America/New_York phone</translation>
+    </message>
+    <message id="cli_help_mend">
+        <translation>Puts photos of several cameras in one order and corrects their dates inside the files.</translation>
+    </message>
+    <message id="cli_help_path">
+        <translation>Folders or files without options of their own</translation>
+    </message>
+    <message id="cli_help_pic">
+        <translation>An item of the folder; the next --shift is added to it alone</translation>
+    </message>
+    <message id="cli_help_runOptions">
+        <translation>Options of the whole run</translation>
+    </message>
+    <message id="cli_help_save">
+        <translation>Write the corrections into the files</translation>
+    </message>
+    <message id="cli_help_save_footer">
+        <translation>Examples:
+  mend save --folder canon --shift -1:00:00 --dry-run
+  mend save --folder canon --shift -1:00:00
+  mend save --folder canon --pic IMG_0007.JPG --shift +0:05 --target-zone own</translation>
+    </message>
+    <message id="cli_help_set">
+        <translation>Set a preference for this run</translation>
+    </message>
+    <message id="cli_help_shift">
+        <translation>Move its dates: seconds, or [+-][Nd][H:MM[:SS]]; behind --pic, that item’s alone</translation>
+    </message>
+    <message id="cli_help_sourceZone">
+        <translation>Time zone in which the camera’s clock was meant</translation>
+    </message>
+    <message id="cli_help_systemZone">
+        <translation>Stands in for the system’s time zone</translation>
+    </message>
+    <message id="cli_help_targetZone">
+        <translation>Time zone in which dates are to be written; own keeps each file’s own</translation>
+    </message>
+    <message id="cli_help_version">
+        <translation>Print the version and end</translation>
+    </message>
+    <message id="cli_importInterrupted">
+        <translation>interrupted: %2 files of %1 were not read</translation>
+    </message>
+    <message id="cli_info_camera">
+        <translation>camera</translation>
+    </message>
+    <message id="cli_info_date">
+        <translation>date</translation>
+    </message>
+    <message id="cli_info_dates">
+        <translation>dates</translation>
+    </message>
+    <message id="cli_info_format">
+        <translation>format</translation>
+    </message>
+    <message id="cli_info_lens">
+        <translation>lens</translation>
+    </message>
+    <message id="cli_info_location">
+        <translation>location</translation>
+    </message>
+    <message id="cli_info_note">
+        <translation>note</translation>
+    </message>
+    <message id="cli_info_refused">
+        <translation>refused or tolerated</translation>
+    </message>
+    <message id="cli_info_room">
+        <translation>%1 bytes</translation>
+    </message>
+    <message id="cli_info_size">
+        <translation>size</translation>
+    </message>
+    <message id="cli_info_source">
+        <translation>source type</translation>
+    </message>
+    <message id="cli_info_sourceZone">
+        <translation>source zone</translation>
+    </message>
+    <message id="cli_info_targetZone">
+        <translation>target zone</translation>
+    </message>
+    <message id="cli_info_values">
+        <translation>values in the file</translation>
+    </message>
+    <message id="cli_list_summary">
+        <translation>items: %1, folders: %2, unsaved: %3</translation>
+    </message>
+    <message id="cli_note_emptyTags">
+        <translation>date tags are empty, left alone</translation>
+    </message>
+    <message id="cli_note_filledTags">
+        <translation>date tags are empty</translation>
+    </message>
+    <message id="cli_note_hardLinks">
+        <translation>several names on disk</translation>
+    </message>
+    <message id="cli_note_noTags">
+        <translation>no date inside, dated by the file</translation>
+    </message>
+    <message id="cli_note_repeatedHour">
+        <translation>the hour occurs twice</translation>
+    </message>
+    <message id="cli_note_unsaved">
+        <translation>unsaved</translation>
+    </message>
+    <message id="cli_note_youngerThanFile">
+        <translation>date inside is younger than the file, dated by the file</translation>
+    </message>
+    <message id="cli_progress_reading">
+        <translation>Reading %1</translation>
+    </message>
+    <message id="cli_result_failed">
+        <translation>%1 failed</translation>
+    </message>
+    <message id="cli_result_notReached">
+        <translation>%1 not reached</translation>
+    </message>
+    <message id="cli_result_planned">
+        <translation>%1 to be saved</translation>
+    </message>
+    <message id="cli_result_refused">
+        <translation>%1 refused</translation>
+    </message>
+    <message id="cli_result_saved">
+        <translation>%1 saved</translation>
+    </message>
+    <message id="cli_result_unchanged">
+        <translation>%1 unchanged</translation>
+    </message>
+    <message id="cli_save_acceptWith">
+        <translation>To save anyway: %1</translation>
+    </message>
+    <message id="cli_save_accepted">
+        <translation>accepted</translation>
+    </message>
+    <message id="cli_save_dryRunNothingWritten">
+        <translation>Dry run: nothing was written.</translation>
+    </message>
+    <message id="cli_save_hardLinks">
+        <translation>the file has several names on disk; the change shows under all of them</translation>
+    </message>
+    <message id="cli_save_interrupted">
+        <translation>Interrupted. The files above were not saved; all others are whole.</translation>
+    </message>
+    <message id="cli_save_interruptedBefore">
+        <translation>Interrupted before the save. Nothing was written.</translation>
+    </message>
+    <message id="cli_save_keepOwnZones">
+        <translation>To keep each file’s own zone: --target-zone own</translation>
+    </message>
+    <message id="cli_save_notReached">
+        <translation>Not saved, as the run was interrupted:</translation>
+    </message>
+    <message id="cli_save_nothingToSave">
+        <translation>No file has a correction. Nothing was written.</translation>
+    </message>
+    <message id="cli_save_problemsNothingWritten">
+        <translation>Nothing was written, as problems were found that are not accepted.</translation>
+    </message>
+    <message id="cli_skipped">
+        <translation>skipped: %1: %2</translation>
+    </message>
+    <message id="cli_slot_atSave">
+        <translation>at save</translation>
+    </message>
+    <message id="cli_slot_notStorable">
+        <translation>cannot be stored on this system</translation>
+    </message>
+    <message id="cli_slot_stays">
+        <translation>stays</translation>
+    </message>
     <message id="dragInSingleMode">
         <translation>Move Items in Time</translation>
     </message>

@@ -8,6 +8,8 @@
 #include "SupportFolders.h"
 #include "ZoneLookup.h"
 
+#include <absl/time/clock.h>
+
 #include <cerrno>
 #include <utility>
 

@@ -99,7 +99,8 @@ private:
             option->expected(1)->type_name(description.valueName);
             option->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)->allow_extra_args(false);
         } else {
-            option = m_app->add_flag(description.name, text(description.textKey));
+            const std::string help = text(description.textKey);
+            option = m_app->add_flag(description.name, help);
         }
         option->group(
             text(description.isOfFolder ? "cli_help_folderOptions" : "cli_help_runOptions"));

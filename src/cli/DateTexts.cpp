@@ -55,9 +55,12 @@ std::string zonedText(Date date, const absl::TimeZone &zone, char separator) {
     out.reserve(40);
     const absl::TimeZone::CivilInfo info = zone.At(date);
     appendCivil(out, info.cs, separator);
-    appendFraction(out, info.subsecond);
-    if (separator == ' ')
+    if (separator == ' ') {
+        appendFraction(out, absl::Trunc(info.subsecond, absl::Milliseconds(1)));
         out += ' ';
+    } else {
+        appendFraction(out, info.subsecond);
+    }
     appendOffset(out, info.offset);
     return out;
 }

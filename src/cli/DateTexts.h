@@ -14,7 +14,8 @@ namespace chronomender {
 std::string utcText(Date date);
 /// "2024-10-27T12:00:00+02:00" in the zone, with a fraction where there is one. Empty for markers.
 std::string localText(Date date, const absl::TimeZone &zone);
-/// "2024-10-27 12:00:00 +02:00" for people. Empty for markers.
+/// "2024-10-27 12:00:00 +02:00" for people, with milliseconds where there are any. Empty for
+/// markers.
 std::string readableText(Date date, const absl::TimeZone &zone);
 
 } // namespace chronomender

@@ -74,6 +74,7 @@ private:
         plan.path = folder;
         plan.block = block;
         plan.names.push_back(name);
+        plan.importOptions = importOptions({}, m_zones.systemZone().rules);
         m_result.plans.push_back(std::move(plan));
         return std::nullopt;
     }

@@ -24,8 +24,7 @@ struct FolderPlan {
     FolderBlock block;
     std::vector<std::string> names; ///< only these files; empty: the whole folder
     std::optional<ZoneChoice> sourceZone, targetZone;
-    PerFolderImportOptions importOptions{.withEmptyExifFixDate =
-                                             PerFolderImportOptions::EmptyTags::LeaveAlone};
+    PerFolderImportOptions importOptions;
 };
 
 struct FolderPlans {

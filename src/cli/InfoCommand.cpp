@@ -14,6 +14,8 @@
 #include "ValueTexts.h"
 #include "ZoneLookup.h"
 
+#include <absl/time/clock.h>
+
 namespace chronomender {
 namespace {
 
@@ -167,9 +169,7 @@ int runInfo(const CommandLine &line) {
                 info.appendText(buffer);
         }
     const WriteResult written = writeOutput(buffer);
-    if (session.wasInterrupted())
-        return exitInterrupted;
-    return session.hasFailedPaths() || written == WriteResult::Failed ? exitItemFailed : exitDone;
+    return codeAfterWriting(written, settledCode(session, exitDone));
 }
 
 } // namespace chronomender

@@ -29,9 +29,13 @@ struct Note {
     bool (*applies)(const MySinglePic &);
     const char *key;
 };
-constexpr std::array<Note, 6> notes{{
+constexpr std::array<Note, 7> notes{{
     {isUnsaved, "cli_note_unsaved"},
     {[](const MySinglePic &pic) { return pic.importState.isLeftAlone; }, "cli_note_emptyTags"},
+    {[](const MySinglePic &pic) {
+         return isNullerFile(pic.spType) && !pic.importState.isLeftAlone;
+     },
+     "cli_note_filledTags"},
     {[](const MySinglePic &pic) { return hasNoDateTags(pic.spType); }, "cli_note_noTags"},
     {[](const MySinglePic &pic) { return isPreferringFileDate(pic.spType); },
      "cli_note_youngerThanFile"},

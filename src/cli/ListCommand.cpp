@@ -83,9 +83,7 @@ int runList(const CommandLine &line) {
     const List list(session);
     const WriteResult written =
         line.isJson ? writeOutput(list.jsonLines()) : writeOutput(list.table());
-    if (session.wasInterrupted())
-        return exitInterrupted;
-    return session.hasFailedPaths() || written == WriteResult::Failed ? exitItemFailed : exitDone;
+    return codeAfterWriting(written, settledCode(session, exitDone));
 }
 
 } // namespace chronomender

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MendSession.h"
 
+#include "Commands.h"
 #include "EventLoopWait.h"
-#include "Output.h"
 #include "ProgressBar.h"
 #include "Texts.h"
 #include "Utf8Text.h"
@@ -60,7 +60,8 @@ std::optional<int> MendSession::open(const Opening &opening) {
             plans = std::get<FolderPlans>(std::move(planned));
     }
     if (!complaint) {
-        m_controller = std::make_unique<AppController>(std::move(services), *this);
+        ImportQuestions &questions = *this;
+        m_controller = std::make_unique<AppController>(std::move(services), questions);
         m_interruption.emplace(m_controller->cancellation());
         complaint = addFolders(plans);
     }
@@ -76,6 +77,7 @@ std::optional<int> MendSession::open(const Opening &opening) {
         return complaint->exitCode;
     }
     m_controller->buildNewSource();
+    tellLeftAlone();
     return std::nullopt;
 }
 
@@ -95,6 +97,7 @@ std::optional<Complaint> MendSession::applySettings(AppServices &services) const
                                      {key, printable(value),
                                       UserDefaults::allowedText(*findDefaultEntry(key))})};
         case UserDefaults::Outcome::Done:
+        case UserDefaults::Outcome::NotStored: // a value for this run is never stored
             break;
         }
     }
@@ -169,6 +172,14 @@ void MendSession::tellSkipped(const FolderPlan &plan, const std::vector<SkippedE
         tell(text("cli_importInterrupted", {printable(plan.path), std::to_string(notReached)}));
 }
 
+void MendSession::tellLeftAlone() const {
+    const auto &items = m_controller->source_full();
+    const auto count = std::count_if(items.begin(), items.end(),
+                                     [](const auto &pic) { return pic->importState.isLeftAlone; });
+    if (count > 0)
+        tell(text("cli_emptyTagsLeftAlone", {std::to_string(count)}));
+}
+
 std::optional<Complaint> MendSession::shift(const FolderBlock &block, MySingleFolder &folder) {
     if (!block.picShifts.empty())
         return shiftSingly(block, folder);
@@ -198,6 +209,21 @@ std::optional<Complaint> MendSession::shiftSingly(const FolderBlock &block,
 
 PerFolderImportOptions MendSession::emptyTagOptions(const MySingleFolder &folder) {
     return m_importOptions.at(&folder);
+}
+
+int settledCode(const MendSession &session, int code) {
+    if (code != exitDone)
+        return code;
+    return session.wasInterrupted()   ? exitInterrupted
+           : session.hasFailedPaths() ? exitItemFailed
+                                      : exitDone;
+}
+
+int codeAfterWriting(WriteResult written, int code) {
+    if (written != WriteResult::Failed)
+        return code;
+    tell(text("cli_error_outputFailed"));
+    return code == exitDone ? exitItemFailed : code;
 }
 
 } // namespace chronomender

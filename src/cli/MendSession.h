@@ -4,6 +4,7 @@
 #include "AppController.h"
 #include "FolderPlans.h"
 #include "Interruption.h"
+#include "Output.h"
 
 #include <map>
 #include <memory>
@@ -49,6 +50,7 @@ private:
     void tellSkipped(const FolderPlan &plan, const std::vector<SkippedEntry> &skipped);
     std::optional<Complaint> shift(const FolderBlock &block, MySingleFolder &folder);
     std::optional<Complaint> shiftSingly(const FolderBlock &block, MySingleFolder &folder);
+    void tellLeftAlone() const;
     void failPath(std::string message);
 
     const CommandLine &m_line;
@@ -59,5 +61,11 @@ private:
     std::map<const MySingleFolder *, PerFolderImportOptions> m_importOptions;
     bool m_hasFailedPaths = false;
 };
+
+/// The exit code of a command whose own work ended with `code`: an interruption, or a path that
+/// failed, makes a good end a bad one.
+int settledCode(const MendSession &session, int code);
+/// The same once the output is out.
+int codeAfterWriting(WriteResult written, int code);
 
 } // namespace chronomender

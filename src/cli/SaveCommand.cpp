@@ -77,8 +77,9 @@ private:
                                                   : exitItemFailed;
     }
 
-    int finish(const std::vector<ItemOutcome> &items, WasRun wasRun, int exitCode,
+    int finish(const std::vector<ItemOutcome> &items, WasRun wasRun, int code,
                const std::vector<SaveError> &errors = {}) {
+        const int exitCode = settledCode(m_session, code);
         const SaveReport report(m_session.controller(), m_session.folders(), items,
                                 wasRun == WasRun::Yes);
         const bool isInterrupted = exitCode == exitInterrupted;
@@ -87,7 +88,7 @@ private:
             writeOutput(line.isJson ? report.jsonLines({line.isDryRun, isInterrupted, exitCode})
                                     : reportText(report, wasRun, exitCode));
         writeError(actionErrorText(errors));
-        return written == WriteResult::Failed && exitCode == exitDone ? exitItemFailed : exitCode;
+        return codeAfterWriting(written, exitCode);
     }
 
     std::string reportText(const SaveReport &report, WasRun wasRun, int exitCode) const {
@@ -97,10 +98,10 @@ private:
         out += report.problemText(acceptedProblems());
         out += report.notReachedText();
         out += report.summaryText();
-        if (exitCode == exitInterrupted)
-            out += text(wasRun == WasRun::Yes ? "cli_save_interrupted"
-                                              : "cli_save_interruptedBefore") +
-                   '\n';
+        if (exitCode == exitInterrupted && wasRun == WasRun::No)
+            out += text("cli_save_interruptedBefore") + '\n';
+        else if (report.count(ReportedResult::NotReached) > 0)
+            out += text("cli_save_interrupted") + '\n';
         else if (report.isEmpty())
             out += text("cli_save_nothingToSave") + '\n';
         else if (wasRun == WasRun::No)
@@ -130,8 +131,7 @@ int runSave(const CommandLine &line) {
     MendSession session(line);
     if (const auto code = session.open({BadPath::Stop, CompletionScope::None}))
         return *code;
-    const int code = Save(session).run();
-    return code == exitDone && session.hasFailedPaths() ? exitItemFailed : code;
+    return Save(session).run();
 }
 
 } // namespace chronomender

@@ -173,6 +173,8 @@ std::string SaveReport::problemText(const std::set<PreSaveProblem> &accepted) co
             (accepted.contains(problem) ? text("cli_save_accepted")
                                         : text("cli_save_acceptWith", {acceptingOption(problem)})) +
             '\n';
+        if (problem == PreSaveProblem::error_12_zoneStampRewritten)
+            buffer += "  " + text("cli_save_keepOwnZones") + '\n';
         for (const ItemOutcome &outcome : m_items)
             for (const PreSaveFinding &finding : outcome.problems)
                 if (finding.problem == problem)
