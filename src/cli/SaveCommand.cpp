@@ -23,18 +23,18 @@ public:
     int run() {
         m_plan = preProcess();
         if (m_plan.wasCancelled || m_session.wasInterrupted())
-            return finish(m_plan.items, WasRun::No, exitInterrupted);
+            return finish(m_plan.items, Stage::Plan, exitInterrupted);
         if (m_plan.items.empty())
-            return finish(m_plan.items, WasRun::No, exitDone);
+            return finish(m_plan.items, Stage::Plan, exitDone);
         const bool needsConsent = hasUnacceptedProblem();
         if (m_session.line().isDryRun || needsConsent)
-            return finish(m_plan.items, WasRun::No, needsConsent ? exitProblems : exitDone);
+            return finish(m_plan.items, Stage::Plan, needsConsent ? exitProblems : exitDone);
         const SaveRunResult result = continueProcess();
-        return finish(result.items, WasRun::Yes, exitCodeOf(result), result.errors);
+        return finish(result.items, Stage::Run, exitCodeOf(result), result.errors);
     }
 
 private:
-    enum class WasRun : bool { No, Yes };
+    using Stage = SaveReport::Stage;
 
     PreProcessResult preProcess() {
         ProgressBar bar(text("workPanelPreSave"));
@@ -77,34 +77,34 @@ private:
                                                   : exitItemFailed;
     }
 
-    int finish(const std::vector<ItemOutcome> &items, WasRun wasRun, int code,
+    int finish(const std::vector<ItemOutcome> &items, Stage stage, int code,
                const std::vector<SaveError> &errors = {}) {
         const int exitCode = settledCode(m_session, code);
-        const SaveReport report(m_session.controller(), m_session.folders(), items,
-                                wasRun == WasRun::Yes);
+        const SaveReport report(m_session.controller(), m_session.folders(), items, stage,
+                                acceptedProblems());
         const bool isInterrupted = exitCode == exitInterrupted;
         const CommandLine &line = m_session.line();
         const WriteResult written =
             writeOutput(line.isJson ? report.jsonLines({line.isDryRun, isInterrupted, exitCode})
-                                    : reportText(report, wasRun, exitCode));
+                                    : reportText(report, stage, exitCode));
         writeError(actionErrorText(errors));
         return codeAfterWriting(written, exitCode);
     }
 
-    std::string reportText(const SaveReport &report, WasRun wasRun, int exitCode) const {
+    std::string reportText(const SaveReport &report, Stage stage, int exitCode) const {
         std::string out;
         if (m_session.line().isDryRun)
             out += report.plannedText();
-        out += report.problemText(acceptedProblems());
+        out += report.problemText();
         out += report.notReachedText();
         out += report.summaryText();
-        if (exitCode == exitInterrupted && wasRun == WasRun::No)
+        if (exitCode == exitInterrupted && stage == Stage::Plan)
             out += text("cli_save_interruptedBefore") + '\n';
         else if (report.count(ReportedResult::NotReached) > 0)
             out += text("cli_save_interrupted") + '\n';
         else if (report.isEmpty())
             out += text("cli_save_nothingToSave") + '\n';
-        else if (wasRun == WasRun::No)
+        else if (stage == Stage::Plan)
             out += text(exitCode == exitProblems ? "cli_save_problemsNothingWritten"
                                                  : "cli_save_dryRunNothingWritten") +
                    '\n';

@@ -6,7 +6,9 @@
 #include "Texts.h"
 #include "Utf8Text.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace chronomender {
 namespace {
@@ -54,15 +56,26 @@ std::string_view resultName(ReportedResult result) {
 }
 
 SaveReport::SaveReport(AppController &controller, const std::vector<MySingleFolderPtr> &folders,
-                       const std::vector<ItemOutcome> &items, bool wasRun)
-    : m_controller(controller), m_paths(folders), m_items(items), m_wasRun(wasRun) {
+                       const std::vector<ItemOutcome> &items, Stage stage,
+                       std::set<PreSaveProblem> accepted)
+    : m_controller(controller),
+      m_paths(folders),
+      m_items(items),
+      m_stage(stage),
+      m_accepted(std::move(accepted)) {
     for (const ItemOutcome &outcome : items)
         m_outcomes.emplace(outcome.pic.get(), &outcome);
 }
 
+bool SaveReport::isAccepted(const ItemOutcome &outcome) const {
+    return std::all_of(
+        outcome.problems.begin(), outcome.problems.end(),
+        [this](const PreSaveFinding &finding) { return m_accepted.contains(finding.problem); });
+}
+
 ReportedResult SaveReport::resultOf(const ItemOutcome &outcome) const {
-    if (!m_wasRun) // the plan tells of problems only; nothing else has happened yet
-        return outcome.problems.empty() ? ReportedResult::Planned : ReportedResult::Refused;
+    if (m_stage == Stage::Plan) // a plan tells of problems only; nothing else has happened yet
+        return isAccepted(outcome) ? ReportedResult::Planned : ReportedResult::Refused;
     switch (outcome.result) {
     case ItemResult::Saved:
         return ReportedResult::Saved;
@@ -162,17 +175,17 @@ std::string SaveReport::plannedText() const {
     return buffer;
 }
 
-std::string SaveReport::problemText(const std::set<PreSaveProblem> &accepted) const {
+std::string SaveReport::problemText() const {
     std::string buffer;
     for (const PreSaveProblem problem : problems()) {
         const std::string name(key(problem));
         buffer += name + ": " + problemTitle(problem) + '\n';
         buffer += "  " + text("preSaveSummary_" + name + "_details") + '\n';
-        buffer +=
-            "  " +
-            (accepted.contains(problem) ? text("cli_save_accepted")
-                                        : text("cli_save_acceptWith", {acceptingOption(problem)})) +
-            '\n';
+        buffer += "  " +
+                  (m_accepted.contains(problem)
+                       ? text("cli_save_accepted")
+                       : text("cli_save_acceptWith", {acceptingOption(problem)})) +
+                  '\n';
         if (problem == PreSaveProblem::error_12_zoneStampRewritten)
             buffer += "  " + text("cli_save_keepOwnZones") + '\n';
         for (const ItemOutcome &outcome : m_items)
@@ -196,7 +209,7 @@ std::string SaveReport::summaryText() const {
     std::string buffer;
     for (const ResultName &named : resultNames) {
         const bool isAlwaysSaid = named.result == ReportedResult::Unchanged ||
-                                  (named.result == ReportedResult::Saved && m_wasRun);
+                                  (named.result == ReportedResult::Saved && m_stage == Stage::Run);
         const std::size_t items = count(named.result);
         if (items > 0 || isAlwaysSaid)
             buffer += (buffer.empty() ? "" : ", ") +

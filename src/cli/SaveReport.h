@@ -26,9 +26,11 @@ std::string_view resultName(ReportedResult result);
 /// Everything that a save has to say, as a text for people or as JSON Lines.
 class SaveReport {
 public:
-    /// `items` are those of the plan, or of the run once there was one.
+    enum class Stage : bool { Plan, Run };
+    /// `items` are those of the plan, or of the run once there was one; they outlive the report.
     SaveReport(AppController &controller, const std::vector<MySingleFolderPtr> &folders,
-               const std::vector<ItemOutcome> &items, bool wasRun);
+               const std::vector<ItemOutcome> &items, Stage stage,
+               std::set<PreSaveProblem> accepted);
 
     struct Summary {
         bool isDryRun = false, wasInterrupted = false;
@@ -39,16 +41,17 @@ public:
     /// Every slot old → new, for a dry run.
     std::string plannedText() const;
     /// The problems by key, with the option that accepts each.
-    std::string problemText(const std::set<PreSaveProblem> &accepted) const;
+    std::string problemText() const;
     /// Items that an interruption left.
     std::string notReachedText() const;
     std::string summaryText() const;
 
-    std::set<PreSaveProblem> problems() const;
     std::size_t count(ReportedResult result) const;
     bool isEmpty() const { return m_items.empty(); }
 
 private:
+    std::set<PreSaveProblem> problems() const;
+    bool isAccepted(const ItemOutcome &outcome) const;
     ReportedResult resultOf(const ItemOutcome &outcome) const;
     const ItemOutcome *outcomeOf(const MySinglePic &pic) const;
     void appendItem(std::string &buffer, const MySinglePic &pic,
@@ -59,7 +62,8 @@ private:
     AppController &m_controller;
     FolderPaths m_paths;
     const std::vector<ItemOutcome> &m_items;
-    bool m_wasRun;
+    Stage m_stage;
+    std::set<PreSaveProblem> m_accepted;
     std::unordered_map<const MySinglePic *, const ItemOutcome *> m_outcomes;
 };
 

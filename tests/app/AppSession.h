@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "AppController.h"
+#include "LittlePhoto.h"
+#include "TemporaryFolder.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <absl/time/clock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace chronomender {
+
+/// Leaves files with empty date tags alone.
+class LeaveAlone : public ImportQuestions {
+public:
+    PerFolderImportOptions emptyTagOptions(const MySingleFolder &) override {
+        PerFolderImportOptions options;
+        options.withEmptyExifFixDate = PerFolderImportOptions::EmptyTags::LeaveAlone;
+        return options;
+    }
+};
+
+/// A session in UTC with registered defaults, over files of its own.
+class AppSession : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        static int count = 1;
+        static char name[] = "app_tests";
+        static char *arguments[] = {name, nullptr};
+        static const QCoreApplication application(count, arguments);
+    }
+
+    AppSession() { restart(); }
+
+    void restart() {
+        m_controller.reset();
+        AppServices services{makeSystemFileLayer(), std::make_unique<UserDefaults>(),
+                             std::make_unique<Zones>(), [] { return absl::Now(); }};
+        services.zones->setSystemZone(Zones::utc());
+        m_controller = std::make_unique<AppController>(std::move(services), m_questions);
+    }
+
+    AppController &app() { return *m_controller; }
+    const little::TemporaryFolder &disk() const { return m_disk; }
+
+    std::string writePhoto(const std::string &name,
+                           const std::string &stamp = "2024:05:06 07:08:09") {
+        little::PhotoFields fields;
+        fields.original = fields.digitized = fields.modified = stamp;
+        fields.bodyLength = 500;
+        return m_disk.write(name, little::jpegPhoto(fields).bytes);
+    }
+
+    OpenFolderResult open(const std::string &path, MySingleFolderPtr *folder = nullptr) {
+        FolderRequest request;
+        request.path = path;
+        return app().addFolder(request, folder);
+    }
+
+    ImportOutcome import(const MySingleFolderPtr &folder) {
+        ImportRequest request;
+        request.folder = folder;
+        return waitFor<ImportOutcome>(
+            [&](auto finished) { app().startImport(std::move(request), finished); });
+    }
+
+    /// Opens and imports a folder and builds the visible list.
+    MySingleFolderPtr openAndImport(const std::string &path) {
+        MySingleFolderPtr folder;
+        EXPECT_EQ(open(path, &folder), OpenFolderResult::Opened);
+        import(folder);
+        app().buildNewSource();
+        return folder;
+    }
+
+    PreProcessResult preProcess() {
+        return waitFor<PreProcessResult>(
+            [&](auto finished) { app().startPreProcess({}, {}, finished); });
+    }
+    SaveRunResult goOn(const PreProcessResult &plan) {
+        return waitFor<SaveRunResult>(
+            [&](auto finished) { app().startContinueProcess({}, plan, {}, finished); });
+    }
+
+    template<class Result, class Start> static Result waitFor(Start start) {
+        std::optional<Result> result;
+        QEventLoop loop;
+        start([&](Result answer) {
+            result.emplace(std::move(answer));
+            loop.quit();
+        });
+        if (!result)
+            loop.exec();
+        return std::move(*result);
+    }
+
+private:
+    little::TemporaryFolder m_disk;
+    LeaveAlone m_questions;
+    std::unique_ptr<AppController> m_controller;
+};
+
+} // namespace chronomender

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "AppSession.h"
+
+#include "MainThread.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <unistd.h>
+
+namespace chronomender {
+namespace {
+
+using ::testing::ElementsAre;
+
+std::vector<std::string> namesOf(const std::vector<MySinglePicPtr> &items) {
+    std::vector<std::string> names;
+    for (const MySinglePicPtr &pic : items)
+        names.push_back(pic->spName);
+    return names;
+}
+
+class Import : public AppSession {};
+
+TEST_F(Import, FoldersThatCannotBeOpenedSayWhy) {
+    const std::string photo = writePhoto("trip/a.jpg");
+    std::filesystem::create_directory_symlink(disk().path("trip"), disk().path("link"));
+    writePhoto("Fotos.photoslibrary/originals/a.jpg");
+    writePhoto("caf\xE9/a.jpg");
+    EXPECT_EQ(open(disk().path("trip")), OpenFolderResult::Opened);
+    EXPECT_EQ(open(disk().path("link")), OpenFolderResult::AlreadyOpen);
+    EXPECT_EQ(open(disk().path("nothing")), OpenFolderResult::NotFound);
+    EXPECT_EQ(open(photo), OpenFolderResult::NotAFolder);
+    EXPECT_EQ(open(disk().path("Fotos.photoslibrary/originals")),
+              OpenFolderResult::LibraryOfAnotherProgram);
+    EXPECT_EQ(open(disk().path("caf\xE9")), OpenFolderResult::NameNotUtf8);
+    EXPECT_EQ(app().droppedFolders().droppedFolders().size(), 1U);
+}
+
+TEST_F(Import, FinishesOnTheMainThreadWithEverythingCounted) {
+    writePhoto("trip/a.jpg", "2024:05:06 07:08:09");
+    writePhoto("trip/b.jpg", "2024:05:04 07:08:09");
+    MySingleFolderPtr folder;
+    ASSERT_EQ(open(disk().path("trip"), &folder), OpenFolderResult::Opened);
+    ImportRequest request;
+    request.folder = folder;
+    QEventLoop loop;
+    bool wasOnMainThread = false;
+    app().startImport(std::move(request), [&](const ImportOutcome &) {
+        wasOnMainThread = mainThread::isCurrent();
+        loop.quit();
+    });
+    EXPECT_TRUE(folder->sfPicDetails_fullArray.empty()); // nothing is published from a worker
+    loop.exec();
+    EXPECT_TRUE(wasOnMainThread);
+    EXPECT_EQ(folder->sfPics, 2);
+    EXPECT_EQ(folder->mediaTypesState, MediaTypesState::Photos);
+    EXPECT_EQ(*folder->sfFrom, absl::FromCivil(absl::CivilSecond(2024, 5, 4, 7, 8, 9),
+                                               absl::UTCTimeZone()));
+    app().buildNewSource();
+    EXPECT_THAT(namesOf(app().source_full()), ElementsAre("b.jpg", "a.jpg"));
+}
+
+TEST_F(Import, SecondImportOfAFolderAddsOnlyNewNames) {
+    writePhoto("trip/a.jpg");
+    const MySingleFolderPtr folder = openAndImport(disk().path("trip"));
+    writePhoto("trip/b.jpg");
+    const ImportOutcome outcome = import(folder);
+    EXPECT_THAT(namesOf(outcome.items), ElementsAre("b.jpg"));
+    EXPECT_TRUE(outcome.skipped.empty());
+    EXPECT_EQ(folder->sfPics, 2);
+}
+
+TEST_F(Import, OneFileInTwoFoldersIsOneItem) {
+    const std::string photo = writePhoto("canon/a.jpg");
+    std::filesystem::create_directory(disk().path("copies"));
+    ASSERT_EQ(::link(photo.c_str(), disk().path("copies/b.jpg").c_str()), 0);
+    openAndImport(disk().path("canon"));
+    MySingleFolderPtr copies;
+    ASSERT_EQ(open(disk().path("copies"), &copies), OpenFolderResult::Opened);
+    const ImportOutcome outcome = import(copies);
+    EXPECT_TRUE(outcome.items.empty());
+    ASSERT_EQ(outcome.skipped.size(), 1U);
+    EXPECT_EQ(outcome.skipped[0].reason, SkipReason::SameFileTwice);
+}
+
+TEST_F(Import, SourceZoneAloneChangesNoFile) {
+    writePhoto("trip/a.jpg");
+    FolderRequest request;
+    request.path = disk().path("trip");
+    request.sourceZone = ZoneChoice::named(*app().zones().zoneWithName("Asia/Tokyo"));
+    MySingleFolderPtr folder;
+    ASSERT_EQ(app().addFolder(request, &folder), OpenFolderResult::Opened);
+    import(folder);
+    app().buildNewSource();
+    EXPECT_EQ(folder->sfPicDetails_fullArray.at(0)->spDateTimeOriginal,
+              absl::FromCivil(absl::CivilSecond(2024, 5, 5, 22, 8, 9), absl::UTCTimeZone()));
+    EXPECT_FALSE(folder->isUnsavedFolder());
+    EXPECT_TRUE(preProcess().items.empty());
+}
+
+TEST_F(Import, CancelledImportKeepsWhatItRead) {
+    writePhoto("trip/a.jpg");
+    MySingleFolderPtr folder;
+    ASSERT_EQ(open(disk().path("trip"), &folder), OpenFolderResult::Opened);
+    app().cancellation().request();
+    const ImportOutcome outcome = import(folder);
+    EXPECT_TRUE(outcome.wasCancelled);
+    EXPECT_EQ(folder->sfPics, 0);
+    ASSERT_EQ(outcome.skipped.size(), 1U);
+    EXPECT_EQ(outcome.skipped[0].reason, SkipReason::Cancelled);
+}
+
+TEST_F(Import, ControllerMayGoWhileAnImportRuns) {
+    for (int i = 0; i < 50; ++i)
+        writePhoto("trip/" + std::to_string(i) + ".jpg");
+    MySingleFolderPtr folder;
+    ASSERT_EQ(open(disk().path("trip"), &folder), OpenFolderResult::Opened);
+    ImportRequest request;
+    request.folder = folder;
+    bool wasCalled = false;
+    app().startImport(std::move(request), [&](const ImportOutcome &) { wasCalled = true; });
+    restart();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(wasCalled);
+}
+
+TEST_F(Import, LateDictionaryFillsOnlyWhatTheFileLeftOpen) {
+    little::PhotoFields fields = little::fullPhotoFields();
+    fields.location->latitude = {{0, 1}, {0, 1}, {0, 1}};
+    fields.location->longitude = {{0, 1}, {0, 1}, {0, 1}};
+    fields.model = "";
+    fields.make = "";
+    disk().write("trip/a.jpg", little::jpegPhoto(fields).bytes);
+    writePhoto("trip/b.jpg");
+    const auto items = openAndImport(disk().path("trip"))->sfPicDetails_fullArray;
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_THAT(namesOf(itemsToComplete(items, CompletionScope::WhereCameraIsMissing)),
+                ElementsAre("a.jpg"));
+    PropertyDictionary dictionary;
+    dictionary.make = "Other";
+    dictionary.model = "Other Two";
+    dictionary.gps = PropertyDictionary::Gps{1.5, 2.5, {}};
+    for (const MySinglePicPtr &pic : items)
+        applyDictionary(*pic, dictionary);
+    EXPECT_EQ(items[0]->camera.pivMakeModel, "Other Two");
+    EXPECT_FALSE(items[0]->hasLocation()); // recorded at 0/0, and so judged to be none
+    EXPECT_EQ(items[1]->camera.pivMakeModel, "Little One");
+    EXPECT_EQ(items[1]->location.gpsLat, 1.5);
+}
+
+} // namespace
+} // namespace chronomender
