@@ -90,7 +90,8 @@ protected:
             [&](auto finished) { app().startContinueProcess({}, plan, {}, finished); });
     }
 
-    template<class Result, class Start> static Result waitFor(Start start) {
+    template<class Result, class Start>
+    static Result waitFor(Start start) {
         std::optional<Result> result;
         QEventLoop loop;
         start([&](Result answer) {

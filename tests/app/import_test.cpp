@@ -54,8 +54,8 @@ TEST_F(Import, FinishesOnTheMainThreadWithEverythingCounted) {
     EXPECT_TRUE(wasOnMainThread);
     EXPECT_EQ(folder->sfPics, 2);
     EXPECT_EQ(folder->mediaTypesState, MediaTypesState::Photos);
-    EXPECT_EQ(*folder->sfFrom, absl::FromCivil(absl::CivilSecond(2024, 5, 4, 7, 8, 9),
-                                               absl::UTCTimeZone()));
+    EXPECT_EQ(*folder->sfFrom,
+              absl::FromCivil(absl::CivilSecond(2024, 5, 4, 7, 8, 9), absl::UTCTimeZone()));
     app().buildNewSource();
     EXPECT_THAT(namesOf(app().source_full()), ElementsAre("b.jpg", "a.jpg"));
 }
