@@ -144,9 +144,7 @@ void AppController::completeLate(const ImportRequest &request, ImportOutcome out
     auto work = [this, wanted] { return readDictionaries(wanted, m_cancellation); };
     auto apply = [wanted, outcome = std::move(outcome),
                   finished = std::move(finished)](const PropertyDictionaries &found) mutable {
-        for (std::size_t i = 0; i < wanted.size(); ++i)
-            if (found[i])
-                applyDictionary(*wanted[i], *found[i]);
+        completeItems(wanted, found);
         finished(std::move(outcome));
     };
     runOn(m_importThread, std::move(work), std::move(apply));

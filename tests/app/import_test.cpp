@@ -124,28 +124,23 @@ TEST_F(Import, ControllerMayGoWhileAnImportRuns) {
     EXPECT_FALSE(wasCalled);
 }
 
-TEST_F(Import, LateDictionaryFillsOnlyWhatTheFileLeftOpen) {
+TEST_F(Import, CameraIsReadLateOnlyWhereTheFileNamesNone) {
     little::PhotoFields fields = little::fullPhotoFields();
-    fields.location->latitude = {{0, 1}, {0, 1}, {0, 1}};
-    fields.location->longitude = {{0, 1}, {0, 1}, {0, 1}};
     fields.model = "";
-    fields.make = "";
     disk().write("trip/a.jpg", little::jpegPhoto(fields).bytes);
     writePhoto("trip/b.jpg");
-    const auto items = openAndImport(disk().path("trip"))->sfPicDetails_fullArray;
-    ASSERT_EQ(items.size(), 2U);
+    auto items = openAndImport(disk().path("trip"))->sfPicDetails_fullArray;
+    items[0]->camera.pivMakeModel.clear();
     EXPECT_THAT(namesOf(itemsToComplete(items, CompletionScope::WhereCameraIsMissing)),
                 ElementsAre("a.jpg"));
     PropertyDictionary dictionary;
     dictionary.make = "Other";
     dictionary.model = "Other Two";
-    dictionary.gps = PropertyDictionary::Gps{1.5, 2.5, {}};
-    for (const MySinglePicPtr &pic : items)
-        applyDictionary(*pic, dictionary);
+    dictionary.lens = "50 mm";
+    completeItems(items, {dictionary, std::nullopt});
     EXPECT_EQ(items[0]->camera.pivMakeModel, "Other Two");
-    EXPECT_FALSE(items[0]->hasLocation()); // recorded at 0/0, and so judged to be none
+    EXPECT_EQ(items[0]->camera.lens, "50 mm");
     EXPECT_EQ(items[1]->camera.pivMakeModel, "Little One");
-    EXPECT_EQ(items[1]->location.gpsLat, 1.5);
 }
 
 } // namespace

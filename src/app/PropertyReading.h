@@ -25,8 +25,8 @@ using PropertyDictionaries = std::vector<std::optional<PropertyDictionary>>;
 PropertyDictionaries readDictionaries(const std::vector<MySinglePicPtr> &items,
                                       const Cancellation &cancellation);
 
-/// Fills what the file's own values left open: camera, lens, picture size and, where the file has
-/// no recorded location, that. Main thread.
-void applyDictionary(MySinglePic &pic, const PropertyDictionary &dictionary);
+/// Completes the items that have an answer. Main thread.
+void completeItems(const std::vector<MySinglePicPtr> &items,
+                   const PropertyDictionaries &dictionaries);
 
 } // namespace chronomender

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "PropertyReading.h"
+
+#include "LateCompletion.h"
+#include "Parallel.h"
+
+namespace chronomender {
+namespace {
+
+bool isWanted(const MySinglePic &pic, CompletionScope scope) {
+    return scope == CompletionScope::All ||
+           (scope == CompletionScope::WhereCameraIsMissing && lacksCamera(pic));
+}
+
+} // namespace
+
+std::vector<MySinglePicPtr> itemsToComplete(const std::vector<MySinglePicPtr> &items,
+                                            CompletionScope scope) {
+    std::vector<MySinglePicPtr> wanted;
+    for (const MySinglePicPtr &pic : items)
+        if (isWanted(*pic, scope))
+            wanted.push_back(pic);
+    return wanted;
+}
+
+PropertyDictionaries readDictionaries(const std::vector<MySinglePicPtr> &items,
+                                      const Cancellation &cancellation) {
+    PropertyDictionaries dictionaries(items.size());
+    parallelFor(
+        items.size(),
+        [&](std::size_t i) { dictionaries[i] = readPropertyDictionary(items[i]->spPath()); },
+        [&] { return cancellation.isRequested(); });
+    return dictionaries;
+}
+
+void completeItems(const std::vector<MySinglePicPtr> &items,
+                   const PropertyDictionaries &dictionaries) {
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (!dictionaries[i])
+            continue;
+        completeItem(*items[i], *dictionaries[i]);
+        items[i]->camera.lens = dictionaries[i]->lens;
+    }
+}
+
+} // namespace chronomender
