@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DaylightSavingChecks.h"
+
+#include "LittleItem.h"
+
+#include <gtest/gtest.h>
+
+namespace chronomender {
+namespace {
+
+using namespace little;
+
+const Date autumnChange = utc(2024, 10, 27, 1), springChange = utc(2024, 3, 31, 1);
+constexpr unsigned original = 1, digitized = 2, modification = 4;
+
+class DaylightSaving : public testing::Test {
+protected:
+    absl::TimeZone berlin = zone("Europe/Berlin").rules;
+    MySingleFolderPtr folder = makeFolder();
+    MySinglePicPtr pic = addItem(folder, SpTypeExifOriginal, autumnChange);
+
+    bool isInDanger(Date date, ExportDate which = ExportDate::Main,
+                    DSTPreFilter filter = DSTPreFilter::On) {
+        return hasDSTAmbiguityForDate(*pic, date, which, berlin, filter);
+    }
+    void setAllSlots(Date date, const std::string &stamp) {
+        pic->slots.exifDateTimeOriginalOLD = pic->slots.exifDateTimeDigitizedOLD =
+            pic->slots.tiffDateTimeOLD = pic->spDateTimeOriginal = date;
+        SinglePicAttributes &attributes = pic->singlePicAttributes;
+        attributes.exifDateTimeOriginal = attributes.exifDateTimeDigitized =
+            attributes.tiffDateTime = located(stamp);
+    }
+};
+
+TEST_F(DaylightSaving, ATextThatStoodThereAnHourAgoIsAmbiguous) {
+    const struct {
+        int secondsAfterChange;
+        bool isAmbiguous;
+    } rows[] = {{-3600, false}, {-1, false}, {0, true}, {3599, true}, {3600, false}};
+    for (const auto &row : rows)
+        EXPECT_EQ(
+            isAmbiguousLocalTime(autumnChange + absl::Seconds(row.secondsAfterChange), berlin),
+            row.isAmbiguous)
+            << row.secondsAfterChange;
+    EXPECT_FALSE(isAmbiguousLocalTime(springChange + absl::Minutes(30), berlin));
+    EXPECT_FALSE(isAmbiguousLocalTime(InfinitePast(), berlin));
+    // Half an hour is not looked for.
+    EXPECT_FALSE(isAmbiguousLocalTime(utc(2024, 4, 6, 15, 10), zone("Australia/Lord_Howe").rules));
+}
+
+TEST_F(DaylightSaving, ExportIsPossiblyAmbiguousWithinTwoHoursOfAChange) {
+    for (Date change : {autumnChange, springChange}) {
+        for (int sign : {-1, 1}) {
+            EXPECT_TRUE(
+                isDSTAmbiguityAtExportPossibleForDate(change + sign * absl::Seconds(7199), berlin));
+            EXPECT_FALSE(
+                isDSTAmbiguityAtExportPossibleForDate(change + sign * absl::Seconds(7200), berlin));
+        }
+    }
+    EXPECT_FALSE(isDSTAmbiguityAtExportPossibleForDate(InfiniteFuture(), berlin));
+    EXPECT_FALSE(isDSTAmbiguityAtExportPossibleForDate(autumnChange, absl::UTCTimeZone()));
+    EXPECT_TRUE(isDSTAmbiguityAtExportPossibleForDate(utc(2900, 10, 31, 1), berlin));
+}
+
+TEST_F(DaylightSaving, TheFirstOfTwoEqualHoursCannotBeWritten) {
+    for (DSTPreFilter filter : {DSTPreFilter::On, DSTPreFilter::Off}) {
+        EXPECT_FALSE(isInDanger(autumnChange - absl::Seconds(3601), ExportDate::Main, filter));
+        EXPECT_TRUE(isInDanger(autumnChange - absl::Seconds(3600), ExportDate::Main, filter));
+        EXPECT_TRUE(isInDanger(autumnChange - absl::Nanoseconds(1), ExportDate::Main, filter));
+        EXPECT_FALSE(isInDanger(autumnChange, ExportDate::Main, filter));
+        EXPECT_FALSE(isInDanger(springChange, ExportDate::Main, filter));
+    }
+    EXPECT_FALSE(isInDanger(InfiniteFuture(), ExportDate::Main, DSTPreFilter::Off));
+}
+
+TEST_F(DaylightSaving, ASlotWithItsOwnZoneStampIsNeverInDanger) {
+    pic->singlePicAttributes.exifOffsetTimeDigitized = located("+02:00");
+    const struct {
+        ExportDate which;
+        SpType type;
+        bool isInDanger;
+    } rows[] = {
+        {ExportDate::Original, SpTypeExifDigitized, true},
+        {ExportDate::Digitized, SpTypeExifOriginal, false},
+        {ExportDate::Modification, SpTypeExifDigitized, true},
+        {ExportDate::Main, SpTypeExifOriginal, true},
+        {ExportDate::Main, SpTypeExifDigitized, false},
+        {ExportDate::Main, SpTypeTiffDateTime, true},
+        {ExportDate::Main, SpTypeEmptyOriginalFixedDate, true},
+        {ExportDate::Main, SpTypeEmptyDigitizedFileDate, false},
+        {ExportDate::Main, SpTypeEmptyTiffFixedDate, true},
+        {ExportDate::Main, SpTypeNoTagsFileDate, false},
+        {ExportDate::Main, SpTypeMovieMdta, false},
+    };
+    for (const auto &row : rows) {
+        pic->spType = row.type;
+        EXPECT_EQ(isInDanger(autumnChange - absl::Minutes(30), row.which), row.isInDanger)
+            << static_cast<int>(row.type);
+    }
+}
+
+TEST_F(DaylightSaving, ImportFlagsEachSlotByItself) {
+    setAllSlots(autumnChange + absl::Minutes(30), "2024:10:27 02:30:00");
+    pic->singlePicAttributes.exifOffsetTimeDigitized = located("+01:00");
+    pic->slots.tiffDateTimeOLD = autumnChange + absl::Hours(5);
+    checkImportDivergencyAndAmbiguityUsingZone(*pic, berlin);
+    EXPECT_EQ(pic->zones.dstAmbiguityAtImportState, original);
+    EXPECT_EQ(pic->zones.dstDivergenceState, modification);
+    EXPECT_TRUE(isDateSourceAmbiguousAtImport(*pic));
+
+    pic->spType = SpTypeEmptyTiffFileDate;
+    checkImportDivergencyAndAmbiguityUsingZone(*pic, berlin);
+    EXPECT_EQ(pic->zones.dstAmbiguityAtImportState, 0U);
+}
+
+TEST_F(DaylightSaving, ASkippedHourDivergesAndAnOddlyWrittenStampDoesNot) {
+    setAllSlots(springChange + absl::Minutes(30), "2024:03:31 02:30:00"); // shows 03:30 by now
+    EXPECT_EQ(checkDSTDivergence(*pic, berlin).divergence, original | digitized | modification);
+    EXPECT_EQ(checkDSTDivergence(*pic, berlin).ambiguity, 0U);
+    setAllSlots(utc(2024, 6, 1, 7, 5), "2024: 6: 1: 9: 5: 0");
+    EXPECT_EQ(checkDSTDivergence(*pic, berlin).divergence, 0U);
+}
+
+TEST_F(DaylightSaving, TheOtherReadingMovesExactlyTheFlaggedSlots) {
+    const Date later = autumnChange + absl::Minutes(30);
+    setAllSlots(later, "2024:10:27 02:30:00");
+    pic->zones.dstAmbiguityAtImportState = original | modification;
+    reapplyAmbiguityCorrection(*pic); // not in use: nothing moves
+    EXPECT_EQ(pic->spDateTimeOriginal, later);
+
+    pic->zones.usesAltTimeAtAmbiguityReason = 1;
+    reapplyAmbiguityCorrection(*pic);
+    EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, later - absl::Hours(1));
+    EXPECT_EQ(pic->slots.exifDateTimeDigitizedOLD, later);
+    EXPECT_EQ(pic->slots.tiffDateTimeOLD, later - absl::Hours(1));
+    EXPECT_EQ(pic->spDateTimeOriginal, later - absl::Hours(1));
+    // In use, the flags are kept: by its new date the slot would not look ambiguous any more.
+    checkImportDivergencyAndAmbiguityUsingZone(*pic, berlin);
+    EXPECT_EQ(pic->zones.dstAmbiguityAtImportState, original | modification);
+}
+
+} // namespace
+} // namespace chronomender
