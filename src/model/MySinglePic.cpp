@@ -116,7 +116,8 @@ const LocatedBytes *MySinglePic::zoneStamp(StampSlot slot) const {
 }
 
 std::string completeMakerModelString(const std::string &make, const std::string &model) {
-    const std::string maker = trimmed(make), camera = trimmed(model);
+    const std::string maker = trimmed(make);
+    std::string camera = trimmed(model);
     if (maker.empty() || camera.starts_with(maker))
         return camera;
     return camera.empty() ? maker : maker + ' ' + camera;

@@ -91,27 +91,26 @@ inline NewDateContext context(CalculationMode mode, const Options &options = {})
 }
 
 /// One line: what the file holds, the shift, the settings that differ from the defaults, and what
-/// one slot must hold afterwards (in a save, unless the line says otherwise).
+/// the slot in question must hold afterwards (in a save, unless the line says otherwise).
 struct Line {
     const char *what;
     SpType type;
     Moments old;
     double shift;
     Options options;
-    Slot slot;
     Moment expected;
     CalculationMode mode = Save;
     bool areFileDatesOutOfOrder = false;
 };
 
-inline void check(const std::vector<Line> &lines) {
+inline void check(Slot slot, const std::vector<Line> &lines) {
     for (const Line &line : lines) {
         const auto folder = makeFolder();
         const auto pic = addItem(folder, line.type, line.old);
         folder->sfDateModificationsTimeInterval = absl::Seconds(line.shift);
         pic->save.normalizationType = line.areFileDatesOutOfOrder ? 4 : 0;
         calculateNewDates(*pic, context(line.mode, line.options));
-        EXPECT_EQ(newMoment(*pic, line.slot), line.expected) << line.what;
+        EXPECT_EQ(newMoment(*pic, slot), line.expected) << line.what;
     }
 }
 

@@ -9,36 +9,35 @@ namespace {
 
 using O = DateChangeOptions;
 
-const struct {
+struct Row {
     const char *key;
     int O::*field;
     int registered;
     const char *other;
-} rows[] = {
-    {"dateChangeEXIFEXIFDigiDate", &O::dateChangeEXIFEXIFDigiDate, 1, "3"},
-    {"dateChangeEXIFEXIFDigiDateUnchangedOption", &O::dateChangeEXIFEXIFDigiDateUnchangedOption, 1,
-     "0"},
-    {"dateChangeEXIFEXIFModDate", &O::dateChangeEXIFEXIFModDate, 1, "2"},
-    {"dateChangeEXIFEXIFModDateUnchangedOption", &O::dateChangeEXIFEXIFModDateUnchangedOption, 1,
-     "0"},
-    {"dateChangeEXIFChangeFinderWhenChangingEXIF", &O::dateChangeEXIFChangeFinderWhenChangingEXIF,
-     1, "0"},
-    {"dateChangeEXIFFinderCreaDate2", &O::dateChangeEXIFFinderCreaDate2, 0, "2"},
-    {"dateChangeEXIFFinderModDate", &O::dateChangeEXIFFinderModDate, 0, "2"},
-    {"dateChangeEXIFFinderModDateUnchangedOption", &O::dateChangeEXIFFinderModDateUnchangedOption,
-     1, "0"},
-    {"dateChangeEXIFFinderModDateEXIFModDateOptions",
-     &O::dateChangeEXIFFinderModDateEXIFModDateOptions, 1, "0"},
-    {"dateChangeEXIFFinderModDateEXIFModDateUnchangedOption",
-     &O::dateChangeEXIFFinderModDateEXIFModDateUnchangedOption, 1, "0"},
-    {"dateChangeNoEXIFFinderModDate", &O::dateChangeNoEXIFFinderModDate, 2, "3"},
-    {"dateChangeNoEXIFFinderModDateUnchangedOption",
-     &O::dateChangeNoEXIFFinderModDateUnchangedOption, 1, "0"},
-    {"dateChangeNoEXIFButTIFFMetaModDate", &O::dateChangeNoEXIFButTIFFMetaModDate, 2, "3"},
-    {"dateChangeNoEXIFButTIFFFinderModDate", &O::dateChangeNoEXIFButTIFFFinderModDate, 2, "0"},
-    {"dateChangeNoEXIFButTIFFFinderModDateUnchangedOption",
-     &O::dateChangeNoEXIFButTIFFFinderModDateUnchangedOption, 1, "0"},
 };
+
+#define ROW(name, registered, other)                                                               \
+    Row {                                                                                          \
+#name, &O::name, registered, other                                                         \
+    }
+const Row rows[] = {
+    ROW(dateChangeEXIFEXIFDigiDate, 1, "3"),
+    ROW(dateChangeEXIFEXIFDigiDateUnchangedOption, 1, "0"),
+    ROW(dateChangeEXIFEXIFModDate, 1, "2"),
+    ROW(dateChangeEXIFEXIFModDateUnchangedOption, 1, "0"),
+    ROW(dateChangeEXIFChangeFinderWhenChangingEXIF, 1, "0"),
+    ROW(dateChangeEXIFFinderCreaDate2, 0, "2"),
+    ROW(dateChangeEXIFFinderModDate, 0, "2"),
+    ROW(dateChangeEXIFFinderModDateUnchangedOption, 1, "0"),
+    ROW(dateChangeEXIFFinderModDateEXIFModDateOptions, 1, "0"),
+    ROW(dateChangeEXIFFinderModDateEXIFModDateUnchangedOption, 1, "0"),
+    ROW(dateChangeNoEXIFFinderModDate, 2, "3"),
+    ROW(dateChangeNoEXIFFinderModDateUnchangedOption, 1, "0"),
+    ROW(dateChangeNoEXIFButTIFFMetaModDate, 2, "3"),
+    ROW(dateChangeNoEXIFButTIFFFinderModDate, 2, "0"),
+    ROW(dateChangeNoEXIFButTIFFFinderModDateUnchangedOption, 1, "0"),
+};
+#undef ROW
 
 TEST(DateChangeOptions, EachKeyReachesItsOwnField) {
     const Date now = little::utc(2024, 6, 1);
