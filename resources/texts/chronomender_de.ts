@@ -303,7 +303,7 @@
         <translation>OK</translation>
     </message>
     <message id="errorPanelDescriptionText_ID0">
-        <translation>Das Foto wurde gespeichert, aber das Dateidatum ließ sich nicht setzen. Vielleicht lässt der Datenträger es nicht zu.</translation>
+        <translation>Das Dateidatum ließ sich nicht setzen, deshalb wurde an der Datei nichts geändert. Vielleicht gehört sie Ihnen nicht, oder der Datenträger lässt es nicht zu.</translation>
     </message>
     <message id="errorPanelDescriptionText_ID1">
         <translation>Die Begleitdatei konnte nicht gelesen werden. Ihre Zeiten und ihr Ort wurden nicht übernommen.</translation>
@@ -331,6 +331,12 @@
     </message>
     <message id="errorPanelDescriptionText_ID2">
         <translation>Die Datei ließ sich nicht zum Schreiben öffnen. Prüfen Sie, ob sie schreibgeschützt ist oder von einem anderen Programm benutzt wird.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID21">
+        <translation>Eine korrigierte Zeit ließ sich an ihrer Stelle in der Datei nicht schreiben. Die Datei blieb, wie sie ist.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID23">
+        <translation>Das System hat das Schreiben verweigert. Was schon in der Datei stand, wurde zurückgenommen.</translation>
     </message>
     <message id="errorPanelDescriptionText_ID3">
         <translation>Die Datei wurde seit dem Einlesen von einem anderen Programm geändert. Sie wurde nicht angerührt. Lesen Sie ihren Ordner neu ein, um mit ihrem jetzigen Zustand zu arbeiten.</translation>
@@ -466,6 +472,24 @@
     </message>
     <message id="resetAllInSingleMode">
         <translation>Alle einzelnen Zeitverschiebungen zurücknehmen</translation>
+    </message>
+    <message id="saveObstacle_fileDateNotKept">
+        <translation>der Datenträger kann diese Zeit nicht aufnehmen</translation>
+    </message>
+    <message id="saveObstacle_noRoom">
+        <translation>das Feld der Zeit ist zu kurz</translation>
+    </message>
+    <message id="saveObstacle_notAccepted">
+        <translation>ein Problem dieser Datei wurde nicht angenommen</translation>
+    </message>
+    <message id="saveObstacle_notPutBack">
+        <translation>einige der alten Zeiten ließen sich nicht zurückschreiben</translation>
+    </message>
+    <message id="saveObstacle_unreadableBack">
+        <translation>die neue Zeit lässt sich nicht so schreiben, dass sie wieder denselben Zeitpunkt ergibt</translation>
+    </message>
+    <message id="saveObstacle_valuesCollide">
+        <translation>zwei Werte der Datei teilen sich dieselben Bytes</translation>
     </message>
     <message id="skipReason_cancelled">
         <translation>Der Import wurde vor dieser Datei angehalten.</translation>

@@ -303,7 +303,7 @@
         <translation>OK</translation>
     </message>
     <message id="errorPanelDescriptionText_ID0">
-        <translation>The photo was saved, but the date of the file on disk could not be set. The disk or memory card may not allow it.</translation>
+        <translation>The date of the file on disk could not be set, so nothing was changed in it. You may not own the file, or the disk or memory card does not allow it.</translation>
     </message>
     <message id="errorPanelDescriptionText_ID1">
         <translation>The sidecar file could not be read. Its dates and its location were not taken over.</translation>
@@ -331,6 +331,12 @@
     </message>
     <message id="errorPanelDescriptionText_ID2">
         <translation>The file could not be opened for writing. Check whether it is write-protected or in use by another program.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID21">
+        <translation>A corrected date could not be written in the place that the file has for it. The file was not touched.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID23">
+        <translation>The system refused to write. What had been written to the file was taken back.</translation>
     </message>
     <message id="errorPanelDescriptionText_ID3">
         <translation>The file was changed by another program since it was read. It was not touched. Read its folder again to work with it as it is now.</translation>
@@ -466,6 +472,24 @@
     </message>
     <message id="resetAllInSingleMode">
         <translation>Take Back All Single Shifts</translation>
+    </message>
+    <message id="saveObstacle_fileDateNotKept">
+        <translation>the disk cannot keep this date</translation>
+    </message>
+    <message id="saveObstacle_noRoom">
+        <translation>the field of the date is too short</translation>
+    </message>
+    <message id="saveObstacle_notAccepted">
+        <translation>a problem of this file was not accepted</translation>
+    </message>
+    <message id="saveObstacle_notPutBack">
+        <translation>some of the file’s old dates could not be put back</translation>
+    </message>
+    <message id="saveObstacle_unreadableBack">
+        <translation>the new date cannot be written so that it reads back as the same moment</translation>
+    </message>
+    <message id="saveObstacle_valuesCollide">
+        <translation>two values of the file share the same bytes</translation>
     </message>
     <message id="skipReason_cancelled">
         <translation>The import was stopped before this file.</translation>

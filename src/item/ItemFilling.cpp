@@ -112,7 +112,7 @@ void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
               std::move(dates.exifDateTimeDigitized), std::move(dates.exifOffsetTimeDigitized));
     takeStamp(attributes.tiffDateTime, attributes.tiffOffsetTime, std::move(dates.tiffDateTime),
               std::move(dates.exifOffsetTiffTime));
-    const Zone zone = sourceTimeZoneForPic(pic, folder, zones);
+    const Zone &zone = sourceTimeZoneForPic(pic, folder, zones);
     for (const StampSlot slot : stampSlots)
         setSlotFromStamp(pic, slot, zone.rules);
 

@@ -86,9 +86,6 @@ void dropSingleShifts(MySingleFolder &folder, const std::vector<MySinglePicPtr> 
     for (const MySinglePicPtr &pic : saved)
         pic->shift.singlePicModification = absl::ZeroDuration();
     clearSinglePicModeImages(folder);
-    for (const MySinglePicPtr &pic : folder.sfPicDetails_fullArray)
-        if (pic->shift.singlePicModification != absl::ZeroDuration())
-            addSinglePicModeImage(folder);
 }
 
 } // namespace
@@ -104,7 +101,7 @@ void applySavedPlan(MySinglePic &pic, const PatchPlan &plan, const PatchOutcome 
                     const MySingleFolder &folder, const Zones &zones) {
     const bool isAmbiguous = std::any_of(plan.stamps.begin(), plan.stamps.end(),
                                          [](const StampPlan &stamp) { return stamp.isAmbiguous; });
-    const Zone target = targetTimeZoneForPic(pic, folder, zones);
+    const Zone &target = targetTimeZoneForPic(pic, folder, zones);
     applyPatches(pic.singlePicAttributes, plan.patches);
     if (outcome.attributes)
         takeFileAttributes(pic, *outcome.attributes);
