@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "FakeSession.h"
+#include "UnchangedProof.h"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+namespace chronomender {
+namespace {
+
+using namespace little;
+using enum FileUnchangedState;
+
+class UnchangedProof : public testing::Test {
+protected:
+    void importPhoto(const PhotoFields &fields = fullPhotoFields()) {
+        built = session.photo("a.jpg", fields);
+        session.import();
+    }
+    /// Puts bytes into the file and gives it its old modification date back.
+    void overwrite(std::size_t offset, std::string_view bytes) {
+        const int descriptor = ::open(session.path("a.jpg").c_str(), O_WRONLY);
+        EXPECT_EQ(::pwrite(descriptor, bytes.data(), bytes.size(), static_cast<off_t>(offset)),
+                  static_cast<ssize_t>(bytes.size()));
+        ::close(descriptor);
+        setFileDate(session.path("a.jpg"), session.fileDate);
+    }
+    FileUnchangedState state() {
+        session.item("a.jpg").save.lastCheckedAt.reset();
+        return updatedUnchangedFileState(session.item("a.jpg"), session.folder(), session.files);
+    }
+
+    FakeSession session;
+    BuiltPhoto built;
+};
+
+TEST_F(UnchangedProof, HoldsForTheFileThatWasRead) {
+    importPhoto();
+    EXPECT_EQ(state(), Unchanged);
+}
+
+TEST_F(UnchangedProof, SeesEachByteOfEachRecordedValueAndNoOther) {
+    importPhoto();
+    const auto &attributes = session.item("a.jpg").singlePicAttributes;
+    std::vector<bool> isRecorded(built.bytes.size());
+    forEachRecordedValue(attributes, [&](std::string_view, const LocatedBytes &value) {
+        for (std::size_t i = 0; i < bytesInFile(attributes, value).size(); ++i)
+            isRecorded[value.offset + i] = true;
+    });
+    EXPECT_GT(std::count(isRecorded.begin(), isRecorded.end(), true), 3 * 19 + 3 * 7 + 24 + 11);
+    for (std::size_t i = 0; i < built.bytes.size(); ++i) {
+        overwrite(i, std::string(1, static_cast<char>(built.bytes[i] ^ 1)));
+        EXPECT_EQ(state(), isRecorded[i] ? BytesDiffer : Unchanged) << "byte " << i;
+        overwrite(i, built.bytes.substr(i, 1));
+    }
+}
+
+TEST_F(UnchangedProof, ReadsValuesThatLieFarApart) {
+    PhotoFields fields = fullPhotoFields();
+    Tiff tiff = photoEntries(fields);
+    tiff.value(Directory::Exif, 37500, 7, 200'000, std::string(200'000, 'm')); // a maker's note
+    const std::string bytes = tiff.build().bytes;
+    session.write("far.tif", bytes);
+    session.import();
+    MySinglePic &pic = session.item("far.tif");
+    EXPECT_EQ(updatedUnchangedFileState(pic, session.folder(), session.files), Unchanged);
+    EXPECT_GT(session.files.reads, 1);
+    pic.singlePicAttributes.gpsDateStamp->data[9] ^= 1;
+    pic.save.lastCheckedAt.reset();
+    EXPECT_EQ(updatedUnchangedFileState(pic, session.folder(), session.files), BytesDiffer);
+}
+
+TEST_F(UnchangedProof, AllowsFileDatesLessThanASecondAway) {
+    importPhoto();
+    const struct {
+        absl::Duration difference;
+        FileUnchangedState expected;
+    } cases[] = {{absl::Milliseconds(900), Unchanged},
+                 {absl::Milliseconds(-900), Unchanged},
+                 {absl::Seconds(1), AttributesDiffer},
+                 {absl::Seconds(-1), AttributesDiffer}};
+    for (const auto &each : cases) {
+        setFileDate(session.path("a.jpg"), session.fileDate + each.difference);
+        EXPECT_EQ(state(), each.expected) << each.difference;
+    }
+}
+
+TEST_F(UnchangedProof, TellsWhatBecameOfTheFile) {
+    importPhoto();
+    const std::string path = session.path("a.jpg");
+    std::filesystem::copy(path, session.disk.path("copy"));
+    std::filesystem::remove(path);
+    EXPECT_EQ(state(), NotFound);
+    std::filesystem::create_symlink(session.disk.path("copy"), path);
+    EXPECT_EQ(state(), CannotBeOpened);
+    std::filesystem::remove(path);
+    std::filesystem::copy(session.disk.path("copy"), path);
+    setFileDate(path, session.fileDate);
+    EXPECT_EQ(state(), AttributesDiffer) << "the same bytes and date, but another file";
+}
+
+TEST_F(UnchangedProof, MissesASidecarThatWasThere) {
+    importPhoto();
+    session.item("a.jpg").spSidecarExtensions = {"xmp"};
+    EXPECT_EQ(state(), BytesDiffer);
+    session.write("a.xmp", "sidecar");
+    EXPECT_EQ(state(), Unchanged);
+}
+
+TEST_F(UnchangedProof, ExcusesAFileSystemThatLosesDatesBefore1970) {
+    SinglePicAttributes recorded;
+    recorded.fileSize = 5;
+    recorded.fileModificationDate = utc(1965, 1, 1);
+    FileAttributes now{.size = 5, .modificationDate = absl::UnixEpoch(), .birthDate = {}};
+    EXPECT_TRUE(areTheFileAttributesUnchanged(recorded, now));
+    now.modificationDate += absl::Seconds(1);
+    EXPECT_FALSE(areTheFileAttributesUnchanged(recorded, now));
+    recorded.fileModificationDate = utc(1975, 1, 1);
+    now.modificationDate = absl::UnixEpoch();
+    EXPECT_FALSE(areTheFileAttributesUnchanged(recorded, now));
+}
+
+TEST_F(UnchangedProof, KeepsTheStateThatAsksForReadingAgain) {
+    importPhoto();
+    session.item("a.jpg").save.fileUnchangedState = MustBeReadAgain;
+    EXPECT_EQ(state(), MustBeReadAgain);
+    EXPECT_EQ(session.files.touches(), 0);
+}
+
+TEST_F(UnchangedProof, IsFreeWithinTheSameLocalChange) {
+    importPhoto();
+    MySinglePic &pic = session.item("a.jpg");
+    session.folder().lastLocalChange = absl::UnixEpoch();
+    pic.save.fileUnchangedState = updatedUnchangedFileState(pic, session.folder(), session.files);
+    const int touches = session.files.touches();
+    EXPECT_GT(touches, 0);
+    std::filesystem::remove(session.path("a.jpg"));
+    EXPECT_EQ(updatedUnchangedFileState(pic, session.folder(), session.files), Unchanged);
+    EXPECT_EQ(session.files.touches(), touches);
+    session.folder().lastLocalChange = *pic.save.lastCheckedAt + absl::Nanoseconds(1);
+    EXPECT_EQ(updatedUnchangedFileState(pic, session.folder(), session.files), NotFound);
+}
+
+TEST(BundleUnchangedState, LetsTheSideThatChangedDecide) {
+    const FakeSession session;
+    const auto folder = session.folders.front();
+    const auto master = MySinglePic::create("a.cr2", folder, SpTypeExifOriginal, session.now);
+    EXPECT_EQ(bundleUnchangedState(*master), Unchanged);
+    const auto dependent = MySinglePic::create("a.jpg", folder, SpTypeExifOriginal, session.now);
+    master->group.bundleDependentImage = dependent;
+    dependent->save.fileUnchangedState = NotFound;
+    EXPECT_EQ(bundleUnchangedState(*master), NotFound);
+    master->save.fileUnchangedState = BytesDiffer;
+    EXPECT_EQ(bundleUnchangedState(*master), BytesDiffer);
+}
+
+} // namespace
+} // namespace chronomender
