@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "DateModifications.h"
+#include "FakeSession.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace chronomender::little {
+
+/// What tests of a save say. The folder's one photo is "a.jpg" unless a test adds its own.
+class SaveTest : public testing::Test {
+protected:
+    BuiltPhoto importPhoto(const PhotoFields &fields = fullPhotoFields()) {
+        BuiltPhoto built = session.photo("a.jpg", fields);
+        session.import();
+        return built;
+    }
+    void shift(absl::Duration by, std::size_t folder = 0) {
+        setSfDateModificationsFromTimeInterval(session.folder(folder), by, false);
+    }
+    void target(ZoneChoice choice) {
+        session.folder().targetTimeZones.folderDefault = std::move(choice);
+    }
+    void targetZone(std::string_view name) {
+        target(ZoneChoice::named(*session.zones.zoneWithName(name)));
+    }
+    void keepOwnZones() { target(ZoneChoice::marker(ZoneChoice::Kind::Own)); }
+    /// All slots move alike.
+    void shiftAllSlotsAlike() {
+        for (const char *key : {"dateChangeEXIFEXIFDigiDate", "dateChangeEXIFEXIFModDate",
+                                "dateChangeNoEXIFButTIFFMetaModDate"})
+            EXPECT_EQ(session.defaults.setForThisRun(key, "3"), UserDefaults::Outcome::Done);
+    }
+
+    std::string content(const std::string &name = "a.jpg") const {
+        return fileContent(session.path(name));
+    }
+    /// What stands at a place of the file.
+    std::string at(const BuiltPhoto &built, const std::string &value, std::size_t length) const {
+        return content().substr(built.offsets.at(value), length);
+    }
+    std::string stampAt(const BuiltPhoto &built, const std::string &value) const {
+        return at(built, value, 19);
+    }
+    /// `before` with some values replaced.
+    static std::string replaced(const BuiltPhoto &before,
+                                std::map<std::string, std::string> values) {
+        std::string bytes = before.bytes;
+        for (const auto &[value, after] : values)
+            bytes.replace(before.offsets.at(value), after.size(), after);
+        return bytes;
+    }
+    static std::vector<PreSaveProblem> kinds(const std::vector<PreSaveFinding> &findings) {
+        std::vector<PreSaveProblem> result;
+        for (const PreSaveFinding &finding : findings)
+            result.push_back(finding.problem);
+        return result;
+    }
+    static std::vector<SaveErrorId> ids(const SaveRunResult &run) {
+        std::vector<SaveErrorId> result;
+        for (const SaveError &error : run.errors)
+            result.push_back(error.id);
+        return result;
+    }
+    static std::vector<ItemResult> results(const SaveRunResult &run) {
+        std::vector<ItemResult> list;
+        for (const ItemOutcome &item : run.items)
+            list.push_back(item.result);
+        return list;
+    }
+    static SlotResult slotResult(const ItemOutcome &item, std::string_view name) {
+        for (const SlotOutcome &slot : item.slots)
+            if (slot.slot == name)
+                return slot.result;
+        throw std::out_of_range(std::string(name));
+    }
+    /// The model says what a session that starts now would read from the files.
+    void expectModelIsWhatAFreshImportShows() {
+        const auto fresh = session.freshImport();
+        const auto &items = session.folder().sfPicDetails_fullArray;
+        ASSERT_EQ(fresh.size(), items.size());
+        for (std::size_t i = 0; i < fresh.size(); ++i) {
+            const std::string &name = items[i]->spName;
+            for (const SlotDescription &slot : slotDescriptions)
+                EXPECT_EQ(items[i]->slots.*slot.oldDate, fresh[i]->slots.*slot.oldDate)
+                    << name << ' ' << slot.name;
+            EXPECT_EQ(items[i]->spDateTimeOriginal, fresh[i]->spDateTimeOriginal) << name;
+            EXPECT_EQ(items[i]->spType, fresh[i]->spType) << name;
+            EXPECT_EQ(items[i]->location.spGpsUTCDate, fresh[i]->location.spGpsUTCDate) << name;
+            for (const RecordedValue &kind : recordedValues()) {
+                const LocatedBytes *mine = kind.find(items[i]->singlePicAttributes);
+                const LocatedBytes *its = kind.find(fresh[i]->singlePicAttributes);
+                ASSERT_EQ(mine != nullptr, its != nullptr) << name << ' ' << kind.key;
+                EXPECT_TRUE(!mine || *mine == *its) << name << ' ' << kind.key;
+            }
+        }
+    }
+
+    FakeSession session;
+};
+
+} // namespace chronomender::little
