@@ -43,8 +43,8 @@ struct SaveRunResult {
 
 struct SaveRequest {
     SaveProcessType type = SaveProcessType::Save;
-    MySingleFolderPtr onlyFolder; ///< none: every folder with unsaved items
-    bool savingAll = false;       ///< items without changes are written as well
+    MySingleFolderPtr onlyFolder = {}; ///< none: every folder with unsaved items
+    bool savingAll = false;            ///< items without changes are written as well
 };
 
 struct SaveServices {

@@ -63,12 +63,12 @@ TEST_F(PatchPlanTest, KeepsAColonBetweenDateAndTime) {
 }
 
 TEST_F(PatchPlanTest, ValueThatSaysTheWantedAlreadyStaysAsItIsWritten) {
+    session.zones.setSystemZone(Zones::utc());
     // The digitized date is kept, and its blanks in place of zeros stay.
     const BuiltPhoto built = importPhoto({.original = "2024:05:06 07:08:09",
                                           .digitized = "2024: 7: 6  7:08:09",
                                           .zoneOriginal = "-00:00"});
     targetZone("UTC");
-    session.zones.setSystemZone(Zones::utc());
     shift(absl::Hours(1));
     session.save();
     EXPECT_EQ(content(), replaced(built, {{"ExifDateTimeOriginal", "2024:05:06 08:08:09"}}));

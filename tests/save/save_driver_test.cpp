@@ -54,7 +54,7 @@ TEST_F(SaveDriverTest, ShiftAndShiftBackGiveTheSameFile) {
 }
 
 TEST_F(SaveDriverTest, WithoutACorrectionNothingIsTouched) {
-    importPhoto();
+    importPhoto({.original = "2024:05:06 07:08:09"});
     EXPECT_THAT(session.save().items, IsEmpty());
     EXPECT_EQ(session.files.touches(), 0);
     EXPECT_THAT(session.save({.savingAll = true}).items, SizeIs(1));

@@ -89,6 +89,7 @@ public:
     void import() {
         std::int64_t position = 0;
         for (const MySingleFolderPtr &each : folders) {
+            each->sfPicDetails_fullArray.clear(); // an import passes over names that are there
             each->sfPicDetails_fullArray =
                 updatePicData(*each, {}, {zones, defaults, *this, cancellation, {}}).items;
             for (const MySinglePicPtr &pic : each->sfPicDetails_fullArray)
