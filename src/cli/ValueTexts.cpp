@@ -38,9 +38,13 @@ std::uint32_t numberAt(const Bytes &bytes, std::size_t offset, bool isBigEndian)
 
 std::string rationalsText(const Bytes &bytes, bool isBigEndian) {
     std::string text;
-    for (std::size_t offset = 0; offset + 8 <= bytes.size(); offset += 8)
-        text += (offset ? " " : "") + std::to_string(numberAt(bytes, offset, isBigEndian)) + '/' +
-                std::to_string(numberAt(bytes, offset + 4, isBigEndian));
+    for (std::size_t offset = 0; offset + 8 <= bytes.size(); offset += 8) {
+        if (!text.empty())
+            text += ' ';
+        text += std::to_string(numberAt(bytes, offset, isBigEndian));
+        text += '/';
+        text += std::to_string(numberAt(bytes, offset + 4, isBigEndian));
+    }
     return text;
 }
 
