@@ -1,11 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Session.h"
 
+#include <QEventLoop>
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <optional>
+#include <utility>
 
 namespace chronomender::bench {
+
+namespace {
+
+/// Serves the main thread's events until the operation that `start` starts has called back.
+template<class Result, class Start>
+Result waitFor(Start start) {
+    std::optional<Result> result;
+    QEventLoop loop;
+    start([&](Result answer) {
+        result.emplace(std::move(answer));
+        loop.quit();
+    });
+    if (!result)
+        loop.exec();
+    return std::move(*result);
+}
+
+} // namespace
 
 Session::Session() {
     auto services = systemServices();
@@ -16,10 +38,12 @@ Session::Session() {
 
 std::size_t Session::import(const std::string &path) {
     MySingleFolderPtr folder;
-    if (m_controller->addFolder({.path = path, .names = {}, .sourceZone = {}, .targetZone = {}},
-                                &folder) != OpenFolderResult::Opened)
+    if (m_controller->addFolder({.path = path, .sourceZone = {}, .targetZone = {}}, &folder) !=
+        OpenFolderResult::Opened)
         return 0;
-    const auto outcome = m_controller->importFolder(folder);
+    const auto outcome = waitFor<ImportOutcome>([&](auto finished) {
+        m_controller->startImport({.folder = folder, .names = {}, .progress = {}}, finished);
+    });
     return static_cast<std::size_t>(
         std::count_if(outcome.items.begin(), outcome.items.end(), [](const MySinglePicPtr &pic) {
             return pic->slots.exifDateTimeOriginalOLD && pic->slots.fileModificationDateOLD;
@@ -31,12 +55,15 @@ void Session::shift(absl::Duration shift) {
 }
 
 std::size_t Session::preProcess() {
-    m_preProcess = m_controller->preProcess({});
+    m_preProcess = waitFor<PreProcessResult>(
+        [&](auto finished) { m_controller->startPreProcess({}, {}, finished); });
     return m_preProcess.problems.empty() ? m_preProcess.items.size() : 0;
 }
 
 std::size_t Session::save() {
-    const auto result = m_controller->continueProcess({}, m_preProcess);
+    const auto result = waitFor<SaveRunResult>([&](auto finished) {
+        m_controller->startContinueProcess({}, std::move(m_preProcess), {}, finished);
+    });
     return static_cast<std::size_t>(
         std::count_if(result.items.begin(), result.items.end(),
                       [](const ItemOutcome &item) { return item.result == ItemResult::Saved; }));

@@ -6,13 +6,12 @@
 // scripts/bench makes them. Every benchmark leaves the files as it found them or one hour away.
 
 #include "Limits.h"
-#include "MainThread.h"
 #include "Session.h"
 #include "Texts.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QtCore/QCoreApplication>
+#include <QCoreApplication>
 
 #include <chrono>
 #include <cstdlib>
@@ -121,7 +120,6 @@ void registerAll() {
 
 int main(int argc, char **argv) {
     QCoreApplication application(argc, argv);
-    chronomender::mainThread::initialise();
     chronomender::loadTexts("en");
     chronomender::bench::registerAll();
     benchmark::Initialize(&argc, argv);
