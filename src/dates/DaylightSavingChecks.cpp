@@ -22,11 +22,15 @@ bool isLocalStamp(const MySinglePic &pic, StampSlot slot) {
     return !pic.isSlotXmp(slot) && !pic.zoneStamp(slot);
 }
 
-/// The date no longer turns back into the wall clock that stands in the file.
-bool isDivergent(const MySinglePic &pic, StampSlot slot, Date date, const absl::TimeZone &zone) {
-    const LocatedBytes *stamp = pic.stamp(slot);
+struct Verdict {
+    bool isDivergent = false; ///< the date no longer turns back into the wall clock of the file
+    bool isAmbiguous = false;
+};
+
+Verdict verdictFor(const LocatedBytes *stamp, Date date, const absl::TimeZone &zone) {
     const auto text = stamp ? exifTimeStampFromData(stamp->data) : std::nullopt;
-    return text && civilFromExifTimeStamp(*text) != civilFromInstant(date, zone);
+    return {text && civilFromExifTimeStamp(*text) != civilFromInstant(date, zone),
+            isAmbiguousLocalTime(date, zone)};
 }
 
 StampSlot mainSlot(SpType type) {
@@ -97,14 +101,23 @@ DSTState checkDSTDivergence(const MySinglePic &pic, const absl::TimeZone &zone) 
     DSTState state;
     if (!isPhotoWithStamps(pic.spType))
         return state;
+    // The three stamps of a photo are mostly equal: such slots take the verdict of the one before.
+    OptionalDate judgedDate;
+    const LocatedBytes *judgedStamp = nullptr;
+    Verdict verdict;
     for (StampSlot slot : stampSlots) {
         const OptionalDate &date = pic.slots.*description(slot).oldDate;
         if (!isCleanDate(date) || !isLocalStamp(pic, slot))
             continue;
-        if (isDivergent(pic, slot, *date, zone))
-            state.divergence |= bit(slot);
-        if (isAmbiguousLocalTime(*date, zone))
-            state.ambiguity |= bit(slot);
+        const LocatedBytes *stamp = pic.stamp(slot);
+        const bool isEqualStamp =
+            stamp && judgedStamp ? stamp->data == judgedStamp->data : stamp == judgedStamp;
+        if (date != judgedDate || !isEqualStamp)
+            verdict = verdictFor(stamp, *date, zone);
+        judgedDate = date;
+        judgedStamp = stamp;
+        state.divergence |= verdict.isDivergent ? bit(slot) : 0U;
+        state.ambiguity |= verdict.isAmbiguous ? bit(slot) : 0U;
     }
     return state;
 }

@@ -111,6 +111,10 @@ TEST_F(TimezoneUpdate, AnAlternativeReadingStaysOnlyWhereTheStampIsAmbiguous) {
     assign("", "");
     update();
     EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 10, 27, 0, 30));
+    // The main date's own stamp decides, not one of the others.
+    attributes.exifOffsetTimeOriginal = located("+02:00");
+    update();
+    EXPECT_EQ(pic->slots.exifDateTimeDigitizedOLD, utc(2024, 10, 27, 1, 30));
 }
 
 } // namespace
