@@ -44,7 +44,7 @@ std::string textOf(const Exiv2::ExifData &exif, Find find) {
 /// A tag's text, or for files without the tag what the camera's maker note says.
 std::string textOf(const Exiv2::ExifData &exif, const char *key, Find otherwise) {
     const auto found = exif.findKey(Exiv2::ExifKey(key));
-    const std::string text = found == exif.end() ? std::string() : cameraText(found->toString());
+    std::string text = found == exif.end() ? std::string() : cameraText(found->toString());
     if (!text.empty())
         return text;
     const auto other = otherwise(exif);

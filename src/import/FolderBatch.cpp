@@ -71,8 +71,8 @@ void sortNaturally(std::vector<BatchEntry> &entries) {
     std::vector<Keyed> keyed;
     keyed.reserve(entries.size());
     for (BatchEntry &entry : entries) {
-        QCollatorSortKey key = order.sortKey(entry.name);
-        keyed.push_back({std::move(key), std::move(entry)});
+        const QCollatorSortKey key = order.sortKey(entry.name);
+        keyed.push_back({key, std::move(entry)});
     }
     std::ranges::sort(keyed, [](const Keyed &a, const Keyed &b) {
         const int compared = a.key.compare(b.key);
@@ -93,6 +93,7 @@ std::vector<FolderEntry> entriesOfNames(const FolderReference &folder,
     std::ranges::sort(names);
     names.erase(std::unique(names.begin(), names.end()), names.end());
     std::vector<FolderEntry> entries;
+    entries.reserve(names.size());
     for (const std::string &name : names)
         entries.push_back(entryOfName(folder, name));
     return entries;
