@@ -46,7 +46,8 @@ TEST_F(LateCompletionTest, CameraTakesTheBetterWords) {
         {"", "NIKON", "", ""},
     };
     for (const Case &c : cases) {
-        pic->camera = {.make = "", .model = "", .pivMakeModel = c.known};
+        pic->camera = {};
+        pic->camera.pivMakeModel = c.known;
         completeItem(*pic, camera(c.make, c.model));
         EXPECT_EQ(pic->camera.pivMakeModel, c.expected) << c.make << '/' << c.model;
     }
