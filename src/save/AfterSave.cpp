@@ -147,7 +147,8 @@ void clearDateValuesAfterSavingFolder(MySingleFolder &folder, const FolderSaveSu
         dropSingleShifts(folder, summary.saved);
     for (const MySinglePicPtr &pic : summary.needingFullUpdate)
         updateAllDatesAfterUpdatingTimezone(*pic, folder, zones, dateComparisonThresold);
-    sfUpdatePicsFromAndTill(folder);
+    if (folder.sfEditMode == EditMode::Single || !summary.needingFullUpdate.empty())
+        sfUpdatePicsFromAndTill(folder);
 }
 
 } // namespace chronomender

@@ -12,6 +12,8 @@
 namespace chronomender {
 namespace {
 
+constexpr std::size_t kSeparatorPosition = 10; ///< between date and time
+
 constexpr ExportDate exportDate(StampSlot slot) {
     return slot == StampSlot::Original    ? ExportDate::Original
            : slot == StampSlot::Digitized ? ExportDate::Digitized
@@ -24,22 +26,30 @@ struct BuiltStamp {
     std::optional<Bytes> offset;
 };
 
-std::optional<std::int32_t> secondsOf(const Bytes &offset) {
-    const auto text = exifOffsetFromData(offset);
-    return text ? secondsFromExifOffset(*text) : std::nullopt;
-}
-
 std::optional<CivilFields> civilOf(const Bytes &stamp) {
     const auto text = exifTimeStampFromData(stamp);
     return text ? civilFromExifTimeStamp(*text) : std::nullopt;
 }
 
-/// What says the wanted already stays as somebody wrote it: a blank for a leading zero, "-00:00".
-template<class Value>
-Bytes unlessSaidAlready(const Bytes &present, Bytes built,
-                        std::optional<Value> (*read)(const Bytes &)) {
-    const auto said = read(present);
-    return said && said == read(built) ? present : std::move(built);
+/// Most stamps have one way only to be written; these have two.
+bool hasBlankForZero(std::string_view stamp) {
+    const std::size_t blank = stamp.find(' ');
+    return blank != stamp.npos &&
+           (blank != kSeparatorPosition || stamp.find(' ', blank + 1) != stamp.npos);
+}
+bool isZeroOffset(std::string_view offset) {
+    return offset.substr(1, 5) == "00:00";
+}
+
+/// What says the wanted already stays as somebody wrote it: a blank for a leading zero.
+Bytes stampUnlessSaidAlready(const Bytes &present, Bytes built) {
+    const bool isSaid = hasBlankForZero(present) && civilOf(present) == civilOf(built);
+    return isSaid ? present : std::move(built);
+}
+
+/// The same for a zone stamp: "-00:00" is "+00:00".
+Bytes offsetUnlessSaidAlready(const Bytes &present, Bytes built) {
+    return isZeroOffset(present) && isZeroOffset(built) ? present : std::move(built);
 }
 
 std::optional<BuiltStamp> build(Date date, const LocatedBytes &stamp, const LocatedBytes *offset,
@@ -50,19 +60,23 @@ std::optional<BuiltStamp> build(Date date, const LocatedBytes &stamp, const Loca
         if (!both)
             return std::nullopt;
         built.stamp = std::move(both->stamp);
-        built.offset = unlessSaidAlready(offset->data, std::move(both->offset), secondsOf);
+        built.offset = offsetUnlessSaidAlready(offset->data, std::move(both->offset));
     } else if (auto alone = exifDataFromDate(date, zone)) {
         built.stamp = *std::move(alone);
     } else {
         return std::nullopt;
     }
-    built.stamp = keepingSeparator(unlessSaidAlready(stamp.data, std::move(built.stamp), civilOf),
-                                   stamp.data);
+    built.stamp =
+        keepingSeparator(stampUnlessSaidAlready(stamp.data, std::move(built.stamp)), stamp.data);
     return built;
 }
 
 std::string_view firstPart(std::string_view bytes, std::size_t length) {
     return bytes.substr(0, length);
+}
+
+bool differs(const LocatedBytes &value, const Bytes &built, std::size_t length) {
+    return firstPart(value.data, length) != firstPart(built, length);
 }
 
 /// Patches one value; false where its field has no room for what would change.
@@ -88,6 +102,8 @@ bool planValues(const LocatedBytes &stamp, const LocatedBytes *offset, const Bui
 }
 
 std::string zoneChange(const LocatedBytes &offset, const Bytes &built) {
+    if (!differs(offset, built, kZoneStampLength))
+        return {};
     const auto before = exifOffsetFromData(offset.data);
     const auto after = exifOffsetFromData(built);
     if (!before || !after || secondsFromExifOffset(*before) == secondsFromExifOffset(*after))
@@ -99,6 +115,12 @@ bool isToBeWritten(const MySinglePic &pic, StampSlot slot) {
     const auto &dates = description(slot);
     return pic.stamp(slot) && pic.slots.*dates.oldDate && !pic.isSlotXmp(slot) &&
            isCleanDate(pic.slots.*dates.newDate);
+}
+
+/// A slot with a date has it from its stamp, except that items whose tags are all empty, and tags
+/// that are to be added, get theirs from elsewhere.
+bool mayBeUnreadable(const MySinglePic &pic, StampSlot slot) {
+    return isNullerFile(pic.spType) || !isCleanDate(pic.slots.*description(slot).oldDate);
 }
 
 /// What keeps the stamp from being written, seen from what it would say and what was accepted.
@@ -120,7 +142,7 @@ bool describeStamp(const MySinglePic &pic, StampSlot slot, const BuiltStamp &bui
     plan.isAmbiguous = !readsBack && hasDSTAmbiguityForDate(pic, wanted, exportDate(slot), zone,
                                                             DSTPreFilter::Off);
     const std::string_view present = firstPart(pic.stamp(slot)->data, kStampLength);
-    if (isUnreadableStamp(present))
+    if (mayBeUnreadable(pic, slot) && isUnreadableStamp(present))
         plan.overwrittenUnreadable = present;
     return readsBack;
 }
@@ -150,8 +172,8 @@ StampPlan planStamp(const MySinglePic &pic, StampSlot slot, const PlanContext &c
     obstacle = obstacleOf(plan, readsBack, acceptance);
     if (obstacle == PlanObstacle::None && !planValues(stamp, offset, *built, patches))
         obstacle = PlanObstacle::NoRoom;
-    const bool isChange =
-        built->stamp != stamp.data || (offset && built->offset != std::optional(offset->data));
+    const bool isChange = differs(stamp, built->stamp, kStampLength) ||
+                          (offset && differs(*offset, *built->offset, kZoneStampLength));
     if (obstacle != PlanObstacle::None)
         plan.result = SlotResult::Refused;
     else if (isChange)
