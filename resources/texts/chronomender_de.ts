@@ -260,6 +260,9 @@
     <message id="cli_save_accepted">
         <translation>hingenommen</translation>
     </message>
+    <message id="cli_save_andMore">
+        <translation>und %1 weitere; --dry-run und --json nennen alle</translation>
+    </message>
     <message id="cli_save_dryRunNothingWritten">
         <translation>Probelauf: Es wurde nichts geschrieben.</translation>
     </message>

@@ -260,6 +260,9 @@
     <message id="cli_save_accepted">
         <translation>accepted</translation>
     </message>
+    <message id="cli_save_andMore">
+        <translation>and %1 more; --dry-run and --json name them all</translation>
+    </message>
     <message id="cli_save_dryRunNothingWritten">
         <translation>Dry run: nothing was written.</translation>
     </message>

@@ -181,19 +181,30 @@ std::string SaveReport::problemText() const {
         const std::string name(key(problem));
         buffer += name + ": " + problemTitle(problem) + '\n';
         buffer += "  " + text("preSaveSummary_" + name + "_details") + '\n';
-        buffer += "  " +
-                  (m_accepted.contains(problem)
-                       ? text("cli_save_accepted")
-                       : text("cli_save_acceptWith", {acceptingOption(problem)})) +
-                  '\n';
-        if (problem == PreSaveProblem::error_12_zoneStampRewritten)
-            buffer += "  " + text("cli_save_keepOwnZones") + '\n';
-        for (const ItemOutcome &outcome : m_items)
-            for (const PreSaveFinding &finding : outcome.problems)
-                if (finding.problem == problem)
-                    buffer += "    " + printable(path(*outcome.pic)) +
-                              (finding.detail.empty() ? "" : "  " + finding.detail) + '\n';
+        if (m_accepted.contains(problem)) {
+            buffer += "  " + text("cli_save_accepted") + '\n';
+        } else {
+            buffer += "  " + text("cli_save_acceptWith", {acceptingOption(problem)}) + '\n';
+            if (problem == PreSaveProblem::error_12_zoneStampRewritten)
+                buffer += "  " + text("cli_save_keepOwnZones") + '\n';
+        }
+        buffer += affectedText(problem);
     }
+    return buffer;
+}
+
+/// The files that have the problem, as many as a person would read.
+std::string SaveReport::affectedText(PreSaveProblem problem) const {
+    constexpr std::size_t mostListed = 20;
+    std::string buffer;
+    std::size_t count = 0;
+    for (const ItemOutcome &outcome : m_items)
+        for (const PreSaveFinding &finding : outcome.problems)
+            if (finding.problem == problem && ++count <= mostListed)
+                buffer += "    " + printable(path(*outcome.pic)) +
+                          (finding.detail.empty() ? "" : "  " + finding.detail) + '\n';
+    if (count > mostListed)
+        buffer += "    " + text("cli_save_andMore", {std::to_string(count - mostListed)}) + '\n';
     return buffer;
 }
 

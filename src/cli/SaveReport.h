@@ -57,6 +57,7 @@ private:
     void appendItem(std::string &buffer, const MySinglePic &pic,
                     const MySingleFolder &folder) const;
     void appendPlanned(std::string &buffer, const ItemOutcome &outcome) const;
+    std::string affectedText(PreSaveProblem problem) const;
     std::string path(const MySinglePic &pic) const;
 
     AppController &m_controller;

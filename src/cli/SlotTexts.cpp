@@ -25,6 +25,18 @@ OptionalDate readable(const OptionalDate &date) {
     return date && *date == InfinitePast() ? std::nullopt : date;
 }
 
+/// A slot whose new date cannot be stored shows none.
+SlotView slotView(std::string_view name, const OptionalDate &oldDate, const OptionalDate &newDate,
+                  bool isStorable) {
+    SlotView view;
+    view.name = name;
+    view.oldDate = oldDate;
+    view.newDate = isStorable ? newDate : std::nullopt;
+    view.stays = !isStorable || newDate == oldDate;
+    view.isStorable = isStorable;
+    return view;
+}
+
 } // namespace
 
 std::vector<SlotView> slotViews(const MySinglePic &pic, const MySingleFolder &folder,
@@ -32,14 +44,12 @@ std::vector<SlotView> slotViews(const MySinglePic &pic, const MySingleFolder &fo
     std::vector<SlotView> views;
     for (const SlotDescription &slot : slotDescriptions) {
         const OptionalDate oldDate = readable(pic.slots.*slot.oldDate);
-        OptionalDate newDate = readable(pic.slots.*slot.newDate);
+        const OptionalDate newDate = readable(pic.slots.*slot.newDate);
         if (!oldDate && !newDate)
             continue;
         const bool isStorable = slot.name != creationSlot || newDate == oldDate;
-        if (newDate == oldDate || !isStorable)
-            newDate.reset();
-        views.push_back(
-            {slot.name, oldDate, newDate, isStorable, zoneOfSlot(slot.name, pic, folder, zones)});
+        views.push_back(slotView(slot.name, oldDate, newDate, isStorable));
+        views.back().zone = zoneOfSlot(slot.name, pic, folder, zones);
     }
     return views;
 }
@@ -49,13 +59,14 @@ std::vector<SlotView> slotViews(const ItemOutcome &outcome, const MySingleFolder
     std::vector<SlotView> views;
     for (const SlotOutcome &slot : outcome.slots) {
         const OptionalDate oldDate = readable(slot.oldDate);
-        const bool stays = slot.result == SlotResult::Unchanged ||
-                           slot.result == SlotResult::NotStorable || !readable(slot.newDate);
-        if (!oldDate && stays)
+        const OptionalDate wanted = readable(slot.newDate);
+        const OptionalDate newDate =
+            slot.result == SlotResult::Unchanged || !wanted ? oldDate : wanted;
+        if (!oldDate && !newDate)
             continue;
-        views.push_back({slot.slot, oldDate, stays ? std::nullopt : slot.newDate,
-                         slot.result != SlotResult::NotStorable,
-                         zoneOfSlot(slot.slot, *outcome.pic, folder, zones)});
+        const bool isStorable = slot.result != SlotResult::NotStorable;
+        views.push_back(slotView(slot.slot, oldDate, newDate, isStorable));
+        views.back().zone = zoneOfSlot(slot.slot, *outcome.pic, folder, zones);
     }
     return views;
 }
@@ -69,7 +80,7 @@ void appendSlots(JsonLine &line, const std::vector<SlotView> &slots) {
         if (slot.newDate)
             line.field("new",
                        *slot.newDate == InfiniteFuture() ? "at save" : utcText(*slot.newDate));
-        line.flag("stays", slot.stays()).end();
+        line.flag("stays", slot.stays).end();
     }
     line.end();
 }
@@ -80,7 +91,7 @@ void addSlotRows(Table &table, const std::vector<SlotView> &slots) {
         row.push_back(slot.oldDate ? readableText(*slot.oldDate, slot.zone) : "-");
         if (!slot.isStorable)
             row.push_back(text("cli_slot_notStorable"));
-        else if (slot.stays())
+        else if (slot.stays)
             row.push_back(text("cli_slot_stays"));
         else
             row.push_back("→ " + (*slot.newDate == InfiniteFuture()

@@ -16,10 +16,10 @@ namespace chronomender {
 struct SlotView {
     std::string_view name;
     OptionalDate oldDate;
-    OptionalDate newDate;   ///< none when it stays; the distant future: at the moment of saving
-    bool isStorable = true; ///< this system has no place for the slot's new date
+    OptionalDate newDate;   ///< what a save leaves there; the distant future: the moment of saving
+    bool stays = true;      ///< a save writes nothing there
+    bool isStorable = true; ///< false: there is a new date, and this system has no place for it
     absl::TimeZone zone;    ///< for people
-    bool stays() const { return !newDate; }
 };
 
 /// The slots of an item whose NEW dates are calculated; slots that neither exist nor will are left

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MendRun.h"
+
+#include <gmock/gmock.h>
+
+namespace chronomender {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+/// Three cameras: canon is an hour fast, nikon still on the time of New York, phone is right and
+/// writes its zone.
+class Trip : public MendTest {
+protected:
+    Trip() {
+        writePhoto("canon/IMG_2.jpg", "2024:05:06 13:00:00");  // 12:00 in Berlin
+        writePhoto("canon/IMG_10.jpg", "2024:05:06 13:00:00"); // the same instant
+        writePhoto("nikon/DSC_1.jpg", "2024:05:06 05:30:00");  // 11:30 in Berlin
+        writeZonedPhoto("phone/P_1.jpg", "2024:05:06 12:30:00", "+02:00");
+    }
+
+    Arguments corrected(const std::string &command) const {
+        return {command,         "--json",        "--system-zone", "Europe/Berlin",
+                "--folder",      path("canon"),   "--shift",       "-1:00:00",
+                "--folder",      path("nikon"),   "--source-zone", "America/New_York",
+                "--target-zone", "Europe/Berlin", path("phone")};
+    }
+};
+
+TEST_F(Trip, IsListedInOneOrder) {
+    const auto lines = mend(corrected("list")).lines();
+    EXPECT_THAT(namesOf(lines), ElementsAre("DSC_1.jpg", "IMG_2.jpg", "IMG_10.jpg", "P_1.jpg"));
+    EXPECT_EQ(lines[0].at("date"), "2024-05-06T09:30:00Z");
+    EXPECT_EQ(lines[0].at("local"), "2024-05-06T11:30:00+02:00");
+    EXPECT_EQ(lines[0].at("unsaved"), true); // its zone is to be written
+    EXPECT_EQ(lines[1].at("date"), "2024-05-06T10:00:00Z");
+    EXPECT_EQ(lines[1].at("unsaved"), true);
+    EXPECT_EQ(lines[3].at("unsaved"), false); // nothing was said about the phone
+}
+
+TEST_F(Trip, WithoutCorrectionsIsInTheOrderOfTheClocks) {
+    const auto lines = mend({"list", "--json", "--system-zone", "Europe/Berlin", path("canon"),
+                             path("nikon"), path("phone")})
+                           .lines();
+    EXPECT_THAT(namesOf(lines), ElementsAre("DSC_1.jpg", "P_1.jpg", "IMG_2.jpg", "IMG_10.jpg"));
+}
+
+TEST_F(Trip, TextHasLocalTimeOffsetAndNotes) {
+    const RunResult run = mend({"list", "--system-zone", "Europe/Berlin", "--folder", path("canon"),
+                                "--shift", "-1:00:00"});
+    EXPECT_THAT(run.output,
+                HasSubstr("2024-05-06 12:00:00 +02:00  canon  IMG_2.jpg   Little One  unsaved\n"));
+    EXPECT_THAT(run.output, HasSubstr("items: 2, folders: 1, unsaved: 2"));
+}
+
+TEST_F(Trip, OwnTargetShowsTheFilesOwnZone) {
+    const auto lines = mend({"list", "--json", "--system-zone", "UTC", "--folder", path("phone"),
+                             "--target-zone", "own"})
+                           .lines();
+    EXPECT_EQ(lines.at(0).at("local"), "2024-05-06T12:30:00+02:00");
+    EXPECT_EQ(lines.at(0).at("unsaved"), false);
+}
+
+TEST_F(Trip, PicShiftIsAddedToItsFoldersShift) {
+    const auto lines = mend({"list", "--json", "--folder", path("canon"), "--shift", "-1:00:00",
+                             "--pic", "IMG_2.jpg", "--shift", "+0:05"})
+                           .lines();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].at("name"), "IMG_10.jpg");
+    EXPECT_EQ(lines[0].at("date"), "2024-05-06T12:00:00Z");
+    EXPECT_EQ(lines[1].at("date"), "2024-05-06T12:05:00Z");
+}
+
+class EmptyTags : public MendTest {
+protected:
+    EmptyTags() {
+        writePhoto("scans/1.jpg", "0000:00:00 00:00:00");
+        writePhoto("scans/2.jpg", "    :  :     :  :  ");
+        writePhoto("scans/3.jpg", "2024:05:06 07:08:09");
+    }
+    std::vector<Json> listed(const std::string &choice) const {
+        return mend({"list", "--json", "--system-zone", "Europe/Berlin", "--folder", path("scans"),
+                     "--empty-tags", choice})
+            .lines();
+    }
+};
+
+TEST_F(EmptyTags, AreLeftAloneUnlessTold) {
+    const RunResult run = mend({"list", path("scans")});
+    EXPECT_THAT(run.output, HasSubstr("date tags are empty, left alone"));
+    EXPECT_THAT(run.errors, HasSubstr("2 files have empty date tags and are left alone"));
+    const auto saved = mend({"save", "--json", "--folder", path("scans"), "--shift", "60"}).lines();
+    EXPECT_EQ(saved.back().at("summary").at("saved"), 1);
+    EXPECT_EQ(saved.back().at("summary").at("unchanged"), 2);
+}
+
+TEST_F(EmptyTags, TakeADateWithAStepInTheFoldersZone) {
+    const auto lines = listed("2024-05-01T10:00+60");
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_EQ(lines[0].at("local"), "2024-05-01T10:00:00+02:00");
+    EXPECT_EQ(lines[1].at("local"), "2024-05-01T10:01:00+02:00");
+    EXPECT_EQ(lines[0].at("spType"), 8);
+    EXPECT_EQ(lines[0].at("unsaved"), true);
+    EXPECT_EQ(lines[2].at("unsaved"), false);
+}
+
+TEST_F(EmptyTags, AreFilledByASave) {
+    const RunResult run =
+        mend({"save", "--folder", path("scans"), "--empty-tags", "2024-05-01T10:00+0:00:30"});
+    EXPECT_EQ(run.exitCode, 0) << run.errors;
+    EXPECT_THAT(little::fileContent(path("scans/2.jpg")), HasSubstr("2024:05:01 10:00:30"));
+}
+
+} // namespace
+} // namespace chronomender
