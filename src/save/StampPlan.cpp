@@ -42,14 +42,15 @@ bool isZeroOffset(std::string_view offset) {
 }
 
 /// What says the wanted already stays as somebody wrote it: a blank for a leading zero.
-Bytes stampUnlessSaidAlready(const Bytes &present, Bytes built) {
-    const bool isSaid = hasBlankForZero(present) && civilOf(present) == civilOf(built);
-    return isSaid ? present : std::move(built);
+void keepStampSaidAlready(const Bytes &present, Bytes &built) {
+    if (hasBlankForZero(present) && civilOf(present) == civilOf(built))
+        built = present;
 }
 
 /// The same for a zone stamp: "-00:00" is "+00:00".
-Bytes offsetUnlessSaidAlready(const Bytes &present, Bytes built) {
-    return isZeroOffset(present) && isZeroOffset(built) ? present : std::move(built);
+void keepOffsetSaidAlready(const Bytes &present, Bytes &built) {
+    if (isZeroOffset(present) && isZeroOffset(built))
+        built = present;
 }
 
 std::optional<BuiltStamp> build(Date date, const LocatedBytes &stamp, const LocatedBytes *offset,
@@ -60,14 +61,15 @@ std::optional<BuiltStamp> build(Date date, const LocatedBytes &stamp, const Loca
         if (!both)
             return std::nullopt;
         built.stamp = std::move(both->stamp);
-        built.offset = offsetUnlessSaidAlready(offset->data, std::move(both->offset));
+        keepOffsetSaidAlready(offset->data, both->offset);
+        built.offset = std::move(both->offset);
     } else if (auto alone = exifDataFromDate(date, zone)) {
         built.stamp = *std::move(alone);
     } else {
         return std::nullopt;
     }
-    built.stamp =
-        keepingSeparator(stampUnlessSaidAlready(stamp.data, std::move(built.stamp)), stamp.data);
+    keepStampSaidAlready(stamp.data, built.stamp);
+    built.stamp = keepingSeparator(std::move(built.stamp), stamp.data);
     return built;
 }
 
