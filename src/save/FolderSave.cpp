@@ -23,21 +23,11 @@ bool isSuccess(const PatchOutcome &outcome) {
     return !outcome.error;
 }
 
-bool wasUnreachable(const ItemOutcome &item) {
-    return std::any_of(item.problems.begin(), item.problems.end(), [](const auto &finding) {
-        return finding.problem == PreSaveProblem::error_10_disconnected;
-    });
-}
-
 } // namespace
 
 FolderSave::FolderSave(const MySingleFolderPtr &folder, std::span<const ItemOutcome> items,
                        const SaveRequest &request, const SaveServices &services)
-    : m_folder(folder),
-      m_items(items),
-      m_request(request),
-      m_services(services),
-      m_plans(*folder, services.zones, services.defaults) {}
+    : m_folder(folder), m_items(items), m_request(request), m_services(services) {}
 
 void FolderSave::run(ProgressCounter &progress, SaveRunResult &result) {
     const auto path = m_folder->unlockedSecUrl();
@@ -46,10 +36,9 @@ void FolderSave::run(ProgressCounter &progress, SaveRunResult &result) {
     const std::size_t done = parallelFor(
         m_items.size(),
         [&](std::size_t i) {
-            // What stage one could not reach has no calculated dates.
-            steps[i] =
-                path && !wasUnreachable(m_items[i]) ? save(m_items[i]) : unreachable(m_items[i]);
-            report(m_items[i].pic, steps[i]);
+            // What stage one could not reach has no plan.
+            steps[i] = path && m_items[i].plan ? save(m_items[i]) : unreachable();
+            report(m_items[i], steps[i]);
             progress.oneDone();
         },
         [&] { return m_services.cancellation.isRequested(); });
@@ -71,37 +60,40 @@ void FolderSave::run(ProgressCounter &progress, SaveRunResult &result) {
 }
 
 FolderSave::Step FolderSave::save(const ItemOutcome &item) const {
-    Step step;
-    step.plan = planForPic(*item.pic, m_plans, Acceptance::of(item.problems));
-    if (step.plan.obstacle != PlanObstacle::None)
-        step.outcome.error = SaveErrorId::NotWrittenUnreadableBack;
-    else
+    Step step{item.plan.get(), {}, {}};
+    const PatchPlan &plan = *item.plan;
+    const PlanObstacle obstacle = plan.obstacle != PlanObstacle::None ? plan.obstacle
+                                  : !isAccepted(plan, item.problems)  ? PlanObstacle::NotAccepted
+                                                                      : PlanObstacle::None;
+    if (obstacle == PlanObstacle::None) {
         step.outcome =
-            patchFile(*item.pic, m_path + '/' + item.pic->spName, step.plan, m_services.files);
-    if (step.plan.obstacle != PlanObstacle::None)
-        step.outcome.systemText = text(textKey(step.plan.obstacle));
+            patchFile(*item.pic, m_path + '/' + item.pic->spName, plan, m_services.files);
+        return step;
+    }
+    step.outcome.error = SaveErrorId::NotWrittenUnreadableBack;
+    step.outcome.systemText = text(textKey(obstacle));
     return step;
 }
 
-FolderSave::Step FolderSave::unreachable(const ItemOutcome &) const {
+FolderSave::Step FolderSave::unreachable() {
     Step step;
     step.outcome.error = SaveErrorId::NotReachable;
     step.outcome.state = FileUnchangedState::NotFound;
     return step;
 }
 
-void FolderSave::report(const MySinglePicPtr &pic, Step &step) const {
+void FolderSave::report(const ItemOutcome &item, Step &step) const {
     ItemOutcome &report = step.report;
-    report.pic = pic;
+    report.pic = item.pic;
     report.result = resultOf(step.outcome);
-    report.slots = slotOutcomes(*pic, step.plan);
+    report.slots = item.slots;
     if (isSuccess(step.outcome))
         return;
     // Of an item that was not written, no slot is.
     for (SlotOutcome &slot : report.slots)
         slot.result = slot.result == SlotResult::WrittenInPlace ? SlotResult::Refused : slot.result;
     report.errors.push_back(
-        {*step.outcome.error, m_path + '/' + pic->spName, step.outcome.systemText});
+        {*step.outcome.error, m_path + '/' + item.pic->spName, step.outcome.systemText});
 }
 
 void FolderSave::applyToModel(std::vector<Step> &steps) const {
@@ -118,9 +110,9 @@ void FolderSave::applyToModel(std::vector<Step> &steps) const {
         summary.saved.push_back(step.report.pic);
         if (!pic.hasCorrectableDate())
             continue;
-        if (needsFullUpdate(pic, step.plan))
+        if (needsFullUpdate(pic, *step.plan))
             summary.needingFullUpdate.push_back(step.report.pic);
-        applySavedPlan(pic, step.plan, step.outcome, *m_folder, m_services.zones);
+        applySavedPlan(pic, *step.plan, step.outcome, *m_folder, m_services.zones);
     }
     clearDateValuesAfterSavingFolder(*m_folder, summary, m_services.undo, m_services.zones,
                                      m_services.defaults.integerForKey("dateComparisonThresold"));

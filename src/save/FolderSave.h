@@ -24,21 +24,20 @@ public:
 private:
     /// One item's plan and what became of it.
     struct Step {
-        PatchPlan plan;
+        const PatchPlan *plan = nullptr; ///< stage one's; none for an unreachable file
         PatchOutcome outcome;
         ItemOutcome report;
     };
 
     Step save(const ItemOutcome &item) const;
-    Step unreachable(const ItemOutcome &item) const;
-    void report(const MySinglePicPtr &pic, Step &step) const;
+    static Step unreachable();
+    void report(const ItemOutcome &item, Step &step) const;
     void applyToModel(std::vector<Step> &steps) const;
 
     MySingleFolderPtr m_folder;
     std::span<const ItemOutcome> m_items;
     const SaveRequest &m_request;
     const SaveServices &m_services;
-    PlanContext m_plans;
     std::string m_path;
 };
 

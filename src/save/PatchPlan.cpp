@@ -71,10 +71,14 @@ bool hasProblem(std::span<const PreSaveFinding> problems, PreSaveProblem problem
 
 } // namespace
 
-Acceptance Acceptance::of(std::span<const PreSaveFinding> problems) {
-    return {hasProblem(problems, PreSaveProblem::error_01_ambiguousStamp),
-            hasProblem(problems, PreSaveProblem::error_12_zoneStampRewritten),
-            hasProblem(problems, PreSaveProblem::error_13_unreadableStamp)};
+bool isAccepted(const PatchPlan &plan, std::span<const PreSaveFinding> problems) {
+    return std::all_of(plan.stamps.begin(), plan.stamps.end(), [&](const StampPlan &stamp) {
+        const auto may = [&](PreSaveProblem problem) { return hasProblem(problems, problem); };
+        return (!stamp.isAmbiguous || may(PreSaveProblem::error_01_ambiguousStamp)) &&
+               (stamp.zoneChange.empty() || may(PreSaveProblem::error_12_zoneStampRewritten)) &&
+               (stamp.overwrittenUnreadable.empty() ||
+                may(PreSaveProblem::error_13_unreadableStamp));
+    });
 }
 
 std::string_view textKey(PlanObstacle obstacle) {
@@ -100,8 +104,7 @@ PlanContext::PlanContext(const MySingleFolder &theFolder, const Zones &theZones,
       syncGPSDataOnSave(defaults.boolForKey("syncGPSDataOnSave")),
       syncGPSDataOnSaveType(defaults.boolForKey("syncGPSDataOnSaveType")) {}
 
-PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context,
-                     const Acceptance &acceptance) {
+PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context) {
     PatchPlan plan;
     if (!pic.hasCorrectableDate())
         return plan;
@@ -109,7 +112,7 @@ PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context,
     patches.reserve(2 * stampSlots.size() + 2);
     for (std::size_t i = 0; i < stampSlots.size(); ++i) {
         PlanObstacle obstacle{};
-        plan.stamps[i] = planStamp(pic, stampSlots[i], context, acceptance, patches, obstacle);
+        plan.stamps[i] = planStamp(pic, stampSlots[i], context, patches, obstacle);
         if (isInTheWay(obstacle, stampSlots[i], pic.spType))
             plan.obstacle = obstacle;
     }

@@ -15,14 +15,6 @@
 
 namespace chronomender {
 
-/// What a person accepted for one item before the save.
-struct Acceptance {
-    bool ambiguousStamp = false, zoneStampRewritten = false, unreadableStamp = false;
-
-    static Acceptance everything() { return {true, true, true}; }
-    static Acceptance of(std::span<const PreSaveFinding> problems);
-};
-
 /// Why an item cannot be written.
 enum class PlanObstacle : std::uint8_t {
     None,
@@ -67,8 +59,10 @@ struct PlanContext {
 
 /// Builds every stamp from the item's NEW slots and reads it back by the reader's own parser. The
 /// item is only read.
-PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context,
-                     const Acceptance &acceptance);
+PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context);
+
+/// Every problem that the plan brings along stands among those that a person accepted.
+bool isAccepted(const PatchPlan &plan, std::span<const PreSaveFinding> problems);
 
 /// The five slots of the item, OLD and NEW, with what the plan makes of them.
 std::vector<SlotOutcome> slotOutcomes(const MySinglePic &pic, const PatchPlan &plan);

@@ -91,7 +91,9 @@ void FolderPreProcess::examine(const MySinglePicPtr &pic, Finding &finding) cons
     if (const auto problem = checkFileUnchangedStateForSaveRenameErrors(work))
         outcome.problems.push_back({pic, *problem, {}});
     calculateNewDates(work, m_dates);
-    const PatchPlan plan = planForPic(work, m_plans, Acceptance::everything());
+    const auto planned = std::make_shared<PatchPlan>(planForPic(work, m_plans));
+    const PatchPlan &plan = *planned;
+    outcome.plan = planned;
     if (m_request.savingAll || work.isUnsavedIgnoringSaveError() ||
         work.isBundleMasterAffectedByHarmonization())
         checkCalculatedValuesForSaveErrors(pic, work, plan, outcome.problems);

@@ -3,10 +3,13 @@
 
 #include "SaveErrors.h"
 
+#include <memory>
 #include <string_view>
 #include <vector>
 
 namespace chronomender {
+
+struct PatchPlan;
 
 enum class SlotResult : std::uint8_t { Unchanged, WrittenInPlace, Refused, NotStorable };
 struct SlotOutcome {
@@ -30,6 +33,8 @@ struct ItemOutcome {
     std::vector<SlotOutcome> slots;
     std::vector<PreSaveFinding> problems;
     std::vector<SaveError> errors;
+    /// What stage two carries out: the plan that the problems and slots above were told from.
+    std::shared_ptr<const PatchPlan> plan = {};
 };
 
 } // namespace chronomender

@@ -125,16 +125,6 @@ bool mayBeUnreadable(const MySinglePic &pic, StampSlot slot) {
     return isNullerFile(pic.spType) || !isCleanDate(pic.slots.*description(slot).oldDate);
 }
 
-/// What keeps the stamp from being written, seen from what it would say and what was accepted.
-PlanObstacle obstacleOf(const StampPlan &plan, bool readsBack, const Acceptance &acceptance) {
-    if (!readsBack && !plan.isAmbiguous)
-        return PlanObstacle::UnreadableBack;
-    const bool isAccepted = (!plan.isAmbiguous || acceptance.ambiguousStamp) &&
-                            (plan.overwrittenUnreadable.empty() || acceptance.unreadableStamp) &&
-                            (plan.zoneChange.empty() || acceptance.zoneStampRewritten);
-    return isAccepted ? PlanObstacle::None : PlanObstacle::NotAccepted;
-}
-
 /// The part of the plan that tells what the built stamp would say and do.
 bool describeStamp(const MySinglePic &pic, StampSlot slot, const BuiltStamp &built,
                    const absl::TimeZone &zone, StampPlan &plan) {
@@ -152,8 +142,7 @@ bool describeStamp(const MySinglePic &pic, StampSlot slot, const BuiltStamp &bui
 } // namespace
 
 StampPlan planStamp(const MySinglePic &pic, StampSlot slot, const PlanContext &context,
-                    const Acceptance &acceptance, std::vector<ValuePatch> &patches,
-                    PlanObstacle &obstacle) {
+                    std::vector<ValuePatch> &patches, PlanObstacle &obstacle) {
     StampPlan plan;
     obstacle = PlanObstacle::None;
     if (!isToBeWritten(pic, slot))
@@ -171,7 +160,8 @@ StampPlan planStamp(const MySinglePic &pic, StampSlot slot, const PlanContext &c
     const bool readsBack = describeStamp(pic, slot, *built, zone.rules, plan);
     if (offset && !hasAssignedTargetZone(pic, context.folder))
         plan.zoneChange = zoneChange(*offset, *built->offset);
-    obstacle = obstacleOf(plan, readsBack, acceptance);
+    if (!readsBack && !plan.isAmbiguous)
+        obstacle = PlanObstacle::UnreadableBack;
     if (obstacle == PlanObstacle::None && !planValues(stamp, offset, *built, patches))
         obstacle = PlanObstacle::NoRoom;
     const bool isChange = differs(stamp, built->stamp, kStampLength) ||

@@ -8,7 +8,6 @@ namespace chronomender {
 /// Plans one stamp with its zone stamp and appends its patches (also those that change no byte, so
 /// that collisions are seen). `obstacle` says what keeps the slot from being written.
 StampPlan planStamp(const MySinglePic &pic, StampSlot slot, const PlanContext &context,
-                    const Acceptance &acceptance, std::vector<ValuePatch> &patches,
-                    PlanObstacle &obstacle);
+                    std::vector<ValuePatch> &patches, PlanObstacle &obstacle);
 
 } // namespace chronomender
