@@ -115,7 +115,7 @@ void AppController::startImport(ImportRequest request,
                                       m_cancellation,    request.progress,     &m_sessionFiles};
         return updatePicData(*request.folder, request.names, services);
     };
-    auto publishAndComplete = [this, request,
+    auto publishAndComplete = [this, request = std::move(request),
                                finished = std::move(finished)](ImportOutcome outcome) {
         publish(*request.folder, outcome);
         completeLate(request, std::move(outcome), finished);

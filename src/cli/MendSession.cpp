@@ -104,7 +104,7 @@ std::optional<Complaint> MendSession::applySettings(AppServices &services) const
     return std::nullopt;
 }
 
-void MendSession::failPath(std::string message) {
+void MendSession::failPath(const std::string &message) {
     m_hasFailedPaths = true;
     tell(message);
 }

@@ -51,7 +51,7 @@ private:
     std::optional<Complaint> shift(const FolderBlock &block, MySingleFolder &folder);
     std::optional<Complaint> shiftSingly(const FolderBlock &block, MySingleFolder &folder);
     void tellLeftAlone() const;
-    void failPath(std::string message);
+    void failPath(const std::string &message);
 
     const CommandLine &m_line;
     std::unique_ptr<AppController> m_controller;

@@ -4,6 +4,7 @@
 #include "Output.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <unistd.h>
 
@@ -15,7 +16,7 @@ constexpr std::chrono::milliseconds redrawInterval{100};
 constexpr const char *clearLine = "\r\x1B[K";
 
 std::string remainingText(double seconds) {
-    const auto whole = static_cast<long long>(seconds + 0.5);
+    const long long whole = std::llround(seconds);
     char buffer[48];
     if (whole >= 3600)
         std::snprintf(buffer, sizeof buffer, "%lld:%02lld:%02lld", whole / 3600, whole / 60 % 60,
