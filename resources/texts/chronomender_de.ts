@@ -198,7 +198,7 @@
         <translation>Größe</translation>
     </message>
     <message id="cli_info_source">
-        <translation>Quelltyp</translation>
+        <translation>Datum aus</translation>
     </message>
     <message id="cli_info_sourceZone">
         <translation>Quellzone</translation>
@@ -298,6 +298,45 @@
     </message>
     <message id="cli_slot_stays">
         <translation>bleibt</translation>
+    </message>
+    <message id="dateSource_1">
+        <translation>Exif, Aufnahmedatum</translation>
+    </message>
+    <message id="dateSource_2">
+        <translation>Exif, Digitalisierungsdatum</translation>
+    </message>
+    <message id="dateSource_3">
+        <translation>TIFF, Änderungsdatum</translation>
+    </message>
+    <message id="dateSource_4">
+        <translation>Dateidatum, da das Änderungsdatum nach der Datei liegt</translation>
+    </message>
+    <message id="dateSource_5">
+        <translation>Dateidatum, da das Aufnahmedatum leer ist</translation>
+    </message>
+    <message id="dateSource_6">
+        <translation>Dateidatum, da das Digitalisierungsdatum leer ist</translation>
+    </message>
+    <message id="dateSource_7">
+        <translation>Dateidatum, da das Änderungsdatum leer ist</translation>
+    </message>
+    <message id="dateSource_8">
+        <translation>beim Einlesen vorgegeben, da das Aufnahmedatum leer ist</translation>
+    </message>
+    <message id="dateSource_9">
+        <translation>beim Einlesen vorgegeben, da das Digitalisierungsdatum leer ist</translation>
+    </message>
+    <message id="dateSource_10">
+        <translation>beim Einlesen vorgegeben, da das Änderungsdatum leer ist</translation>
+    </message>
+    <message id="dateSource_11">
+        <translation>Dateidatum, da kein Datum in der Datei steht</translation>
+    </message>
+    <message id="dateSource_12">
+        <translation>beim Einlesen vorgegeben, da kein Datum in der Datei steht</translation>
+    </message>
+    <message id="dateSource_13">
+        <translation>keine, da die Daten dieser Datei nicht gelesen werden</translation>
     </message>
     <message id="dragInSingleMode">
         <translation>Aufnahmen zeitlich verschieben</translation>

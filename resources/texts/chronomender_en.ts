@@ -198,7 +198,7 @@
         <translation>size</translation>
     </message>
     <message id="cli_info_source">
-        <translation>source type</translation>
+        <translation>date from</translation>
     </message>
     <message id="cli_info_sourceZone">
         <translation>source zone</translation>
@@ -298,6 +298,45 @@
     </message>
     <message id="cli_slot_stays">
         <translation>stays</translation>
+    </message>
+    <message id="dateSource_1">
+        <translation>Exif, date taken</translation>
+    </message>
+    <message id="dateSource_2">
+        <translation>Exif, date digitised</translation>
+    </message>
+    <message id="dateSource_3">
+        <translation>TIFF, date modified</translation>
+    </message>
+    <message id="dateSource_4">
+        <translation>file date, as the date modified is later than the file</translation>
+    </message>
+    <message id="dateSource_5">
+        <translation>file date, as the date taken is empty</translation>
+    </message>
+    <message id="dateSource_6">
+        <translation>file date, as the date digitised is empty</translation>
+    </message>
+    <message id="dateSource_7">
+        <translation>file date, as the date modified is empty</translation>
+    </message>
+    <message id="dateSource_8">
+        <translation>given at import, as the date taken is empty</translation>
+    </message>
+    <message id="dateSource_9">
+        <translation>given at import, as the date digitised is empty</translation>
+    </message>
+    <message id="dateSource_10">
+        <translation>given at import, as the date modified is empty</translation>
+    </message>
+    <message id="dateSource_11">
+        <translation>file date, as there is no date tag</translation>
+    </message>
+    <message id="dateSource_12">
+        <translation>given at import, as there is no date tag</translation>
+    </message>
+    <message id="dateSource_13">
+        <translation>none, as dates of this file are not read</translation>
     </message>
     <message id="dragInSingleMode">
         <translation>Move Items in Time</translation>

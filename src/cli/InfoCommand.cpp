@@ -107,7 +107,7 @@ private:
                                            std::to_string(camera.pivImageHeight)
                                      : std::string();
         return {{"cli_info_date", readableText(m_pic.spDateTimeModified(), m_displayZone)},
-                {"cli_info_source", std::to_string(static_cast<int>(m_pic.spType))},
+                {"cli_info_source", sourceText(m_pic.spType)},
                 {"cli_info_format", std::string(formatName(m_pic.fileFormatType))},
                 {"cli_info_camera", camera.pivMakeModel},
                 {"cli_info_lens", camera.lens},

@@ -65,6 +65,10 @@ std::string noteText(const MySinglePic &pic) {
     return joined;
 }
 
+std::string sourceText(SpType type) {
+    return text("dateSource_" + std::to_string(static_cast<int>(type)));
+}
+
 std::string locationText(const MySinglePic &pic) {
     if (!pic.location.gpsLat || !pic.location.gpsLong)
         return {};

@@ -22,6 +22,9 @@ bool isUnsaved(const MySinglePic &pic);
 /// file…
 std::string noteText(const MySinglePic &pic);
 
+/// Where an item's date comes from, in words.
+std::string sourceText(SpType type);
+
 /// "48.8584, 2.2945", or "" without a location.
 std::string locationText(const MySinglePic &pic);
 

@@ -28,9 +28,12 @@ public:
             return finish(m_plan.items, Stage::Plan, exitDone);
         const bool needsConsent = hasUnacceptedProblem();
         if (m_session.line().isDryRun || needsConsent)
-            return finish(m_plan.items, Stage::Plan, needsConsent ? exitProblems : exitDone);
+            return finish(m_plan.items, Stage::Plan,
+                          needsConsent ? exitProblems : exitCodeOf(m_plan.items), plannedErrors());
         const SaveRunResult result = continueProcess();
-        return finish(result.items, Stage::Run, exitCodeOf(result), result.errors);
+        return finish(result.items, Stage::Run,
+                      result.wasCancelled ? exitInterrupted : exitCodeOf(result.items),
+                      result.errors);
     }
 
 private:
@@ -67,14 +70,20 @@ private:
         });
     }
 
-    static int exitCodeOf(const SaveRunResult &result) {
-        const bool isWhole =
-            std::none_of(result.items.begin(), result.items.end(), [](const auto &item) {
-                return item.result == ItemResult::Refused || item.result == ItemResult::Failed;
-            });
-        return result.wasCancelled                ? exitInterrupted
-               : isWhole && result.errors.empty() ? exitDone
-                                                  : exitItemFailed;
+    static int exitCodeOf(const std::vector<ItemOutcome> &items) {
+        const bool isWhole = std::none_of(items.begin(), items.end(), [](const auto &item) {
+            return item.result == ItemResult::Refused || item.result == ItemResult::Failed ||
+                   !item.errors.empty();
+        });
+        return isWhole ? exitDone : exitItemFailed;
+    }
+
+    /// What a save would fail with, known without writing.
+    std::vector<SaveError> plannedErrors() const {
+        std::vector<SaveError> errors;
+        for (const ItemOutcome &item : m_plan.items)
+            errors.insert(errors.end(), item.errors.begin(), item.errors.end());
+        return errors;
     }
 
     int finish(const std::vector<ItemOutcome> &items, Stage stage, int code,

@@ -74,11 +74,12 @@ bool SaveReport::isAccepted(const ItemOutcome &outcome) const {
 }
 
 ReportedResult SaveReport::resultOf(const ItemOutcome &outcome) const {
-    if (m_stage == Stage::Plan) // a plan tells of problems only; nothing else has happened yet
-        return isAccepted(outcome) ? ReportedResult::Planned : ReportedResult::Refused;
+    const bool isPlan = m_stage == Stage::Plan;
+    if (isPlan && !isAccepted(outcome))
+        return ReportedResult::Refused;
     switch (outcome.result) {
     case ItemResult::Saved:
-        return ReportedResult::Saved;
+        return isPlan ? ReportedResult::Planned : ReportedResult::Saved;
     case ItemResult::Refused:
         return ReportedResult::Refused;
     case ItemResult::Failed:

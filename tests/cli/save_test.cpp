@@ -147,6 +147,20 @@ TEST_F(Save, OtherWordsInADateFieldStay) {
     }
 }
 
+TEST_F(Save, DryRunForetellsAnItemThatCannotBeWritten) {
+    const std::string tooShort = writePhoto("canon/a.jpg", "2024:05:06 07:08:");
+    writePhoto("canon/b.jpg", "2024:05:06 07:08:09");
+    const std::string before = little::fileContent(tooShort);
+    for (const char *dryRun : {"--dry-run", "--all"}) {
+        const RunResult run =
+            mend({"save", "--json", "--folder", path("canon"), "--shift", "60", dryRun});
+        EXPECT_EQ(run.exitCode, 1) << dryRun;
+        EXPECT_EQ(run.lines().at(0).at("result"), "failed") << dryRun;
+        EXPECT_EQ(summaryOf(run).at("failed"), 1) << dryRun;
+        EXPECT_EQ(little::fileContent(tooShort), before) << dryRun;
+    }
+}
+
 TEST_F(Save, SettingsReachTheCalculation) {
     little::PhotoFields fields;
     fields.original = "2024:05:06 07:08:09";
