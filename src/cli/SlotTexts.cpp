@@ -12,12 +12,15 @@ namespace {
 
 constexpr std::string_view creationSlot = "fileCreationDate";
 
-absl::TimeZone zoneOfSlot(std::string_view name, const MySinglePic &pic,
-                          const MySingleFolder &folder, const Zones &zones) {
+/// Stamps are told as the file tells them; file dates, which have no zone, as the item's date.
+void takeZones(SlotView &view, const MySinglePic &pic, const MySingleFolder &folder,
+               const Zones &zones) {
+    view.oldZone = view.newZone = targetTimeZoneForPic(pic, folder, zones).rules;
     for (const StampSlot slot : stampSlots)
-        if (description(slot).name == name)
-            return targetZoneForSlot(pic, slot, folder, zones).rules;
-    return targetTimeZoneForPic(pic, folder, zones).rules;
+        if (description(slot).name == view.name) {
+            view.oldZone = sourceZoneForSlot(pic, slot, folder, zones).rules;
+            view.newZone = targetZoneForSlot(pic, slot, folder, zones).rules;
+        }
 }
 
 /// The distant past marks a tag that is to be added: nothing that a person could read.
@@ -49,7 +52,7 @@ std::vector<SlotView> slotViews(const MySinglePic &pic, const MySingleFolder &fo
             continue;
         const bool isStorable = slot.name != creationSlot || newDate == oldDate;
         views.push_back(slotView(slot.name, oldDate, newDate, isStorable));
-        views.back().zone = zoneOfSlot(slot.name, pic, folder, zones);
+        takeZones(views.back(), pic, folder, zones);
     }
     return views;
 }
@@ -66,7 +69,9 @@ std::vector<SlotView> slotViews(const ItemOutcome &outcome, const MySingleFolder
             continue;
         const bool isStorable = slot.result != SlotResult::NotStorable;
         views.push_back(slotView(slot.slot, oldDate, newDate, isStorable));
-        views.back().zone = zoneOfSlot(slot.slot, *outcome.pic, folder, zones);
+        // The same instant told in another zone is other bytes in the file.
+        views.back().stays = views.back().stays && slot.result != SlotResult::WrittenInPlace;
+        takeZones(views.back(), *outcome.pic, folder, zones);
     }
     return views;
 }
@@ -88,7 +93,7 @@ void appendSlots(JsonLine &line, const std::vector<SlotView> &slots) {
 void addSlotRows(Table &table, const std::vector<SlotView> &slots) {
     for (const SlotView &slot : slots) {
         std::vector<std::string> row{std::string(slot.name)};
-        row.push_back(slot.oldDate ? readableText(*slot.oldDate, slot.zone) : "-");
+        row.push_back(slot.oldDate ? readableText(*slot.oldDate, slot.oldZone) : "-");
         if (!slot.isStorable)
             row.push_back(text("cli_slot_notStorable"));
         else if (slot.stays)
@@ -96,7 +101,7 @@ void addSlotRows(Table &table, const std::vector<SlotView> &slots) {
         else
             row.push_back("→ " + (*slot.newDate == InfiniteFuture()
                                       ? text("cli_slot_atSave")
-                                      : readableText(*slot.newDate, slot.zone)));
+                                      : readableText(*slot.newDate, slot.newZone)));
         table.add(std::move(row));
     }
 }

@@ -19,7 +19,8 @@ struct SlotView {
     OptionalDate newDate;   ///< what a save leaves there; the distant future: the moment of saving
     bool stays = true;      ///< a save writes nothing there
     bool isStorable = true; ///< false: there is a new date, and this system has no place for it
-    absl::TimeZone zone;    ///< for people
+    absl::TimeZone oldZone; ///< for people: in which the file tells the old date
+    absl::TimeZone newZone; ///< for people: in which a save would tell the new one
 };
 
 /// The slots of an item whose NEW dates are calculated; slots that neither exist nor will are left

@@ -25,6 +25,14 @@ const ZoneChoice *targetChoiceForPic(const MySinglePic &pic, const MySingleFolde
     return sourceDefault ? &*sourceDefault : nullptr;
 }
 
+/// The fixed offset that a slot's own zone stamp tells.
+std::optional<Zone> ownZoneOfSlot(const MySinglePic &pic, StampSlot slot) {
+    const LocatedBytes *zoneStamp = pic.zoneStamp(slot);
+    const auto text = zoneStamp ? exifOffsetFromData(zoneStamp->data) : std::nullopt;
+    const auto seconds = text ? secondsFromExifOffset(*text) : std::nullopt;
+    return seconds ? std::optional(Zone{*text, absl::FixedTimeZone(*seconds)}) : std::nullopt;
+}
+
 } // namespace
 
 const ZoneChoice *choiceForPicIgnoringDefault(const MySinglePic &pic,
@@ -55,15 +63,17 @@ const Zone &targetTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &f
     return choice->zone() ? *choice->zone() : sourceTimeZoneForPic(pic, folder, zones);
 }
 
+Zone sourceZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFolder &folder,
+                       const Zones &zones) {
+    auto own = ownZoneOfSlot(pic, slot);
+    return own ? *std::move(own) : sourceTimeZoneForPic(pic, folder, zones);
+}
+
 Zone targetZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFolder &folder,
                        const Zones &zones) {
     const ZoneChoice *choice = targetChoiceForPic(pic, folder);
-    const LocatedBytes *zoneStamp = pic.zoneStamp(slot);
-    if (choice && choice->is(Kind::Own) && zoneStamp) {
-        const auto text = exifOffsetFromData(zoneStamp->data);
-        if (const auto seconds = text ? secondsFromExifOffset(*text) : std::nullopt)
-            return {*text, absl::FixedTimeZone(*seconds)};
-    }
+    if (choice && choice->is(Kind::Own))
+        return sourceZoneForSlot(pic, slot, folder, zones);
     return targetTimeZoneForPic(pic, folder, zones);
 }
 

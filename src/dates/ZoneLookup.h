@@ -27,6 +27,10 @@ const Zone &sourceTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &f
 const Zone &targetTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &folder,
                                  const Zones &zones);
 
+/// The zone in which one slot was read: its zone stamp's fixed offset, else the item's source zone.
+Zone sourceZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFolder &folder,
+                       const Zones &zones);
+
 /// The zone in which one slot is to be written: with `_OWN` and a zone stamp, that stamp's fixed
 /// offset.
 Zone targetZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFolder &folder,

@@ -46,6 +46,19 @@ TEST_F(Save, DryRunShowsEverySlotAndWritesNothing) {
     EXPECT_EQ(tracesOf(disk().path()), before);
 }
 
+TEST_F(Save, DryRunTellsOldDatesAsTheFileDoes) {
+    writePhoto("nikon/a.jpg", "2024:05:06 02:00:00");
+    writeZonedPhoto("nikon/b.jpg", "2024:05:06 02:00:00", "-05:00");
+    const Arguments arguments{"save",        "--system-zone", "UTC",        "--folder",
+                              path("nikon"), "--target-zone", "Asia/Tokyo", "--dry-run"};
+    EXPECT_THAT(mend(arguments).output,
+                AllOf(HasSubstr("2024-05-06 02:00:00 +00:00      → 2024-05-06 11:00:00 +09:00"),
+                      HasSubstr("2024-05-06 02:00:00 -05:00      → 2024-05-06 16:00:00 +09:00")));
+    Arguments json = arguments;
+    json.push_back("--json");
+    EXPECT_FALSE(mend(json).lines().at(0).at("slots").at("exifDateTimeOriginal").at("stays"));
+}
+
 TEST_F(Save, NowIsAConcreteDateInADryRun) {
     writePhoto("canon/a.jpg", "2024:05:06 07:08:09");
     const auto lines = mend({"save", "--json", "--dry-run", "--folder", path("canon"), "--shift",
