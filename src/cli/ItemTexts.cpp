@@ -1,29 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ItemTexts.h"
 
+#include "SourceSlot.h"
 #include "Texts.h"
 #include "ZoneLookup.h"
 
 #include <array>
 #include <cstdio>
-#include <optional>
 
 namespace chronomender {
 namespace {
-
-/// The slot that an item's main date was read from; none when it comes from elsewhere.
-std::optional<StampSlot> sourceSlot(SpType type) {
-    switch (typeAfterFillingEmptyTags(type)) {
-    case SpTypeExifOriginal:
-        return StampSlot::Original;
-    case SpTypeExifDigitized:
-        return StampSlot::Digitized;
-    case SpTypeTiffDateTime:
-        return StampSlot::Modification;
-    default:
-        return std::nullopt;
-    }
-}
 
 struct Note {
     bool (*applies)(const MySinglePic &);

@@ -2,6 +2,7 @@
 #include "PatchPlan.h"
 
 #include "GpsTimePlan.h"
+#include "SourceSlot.h"
 #include "StampPlan.h"
 
 #include <algorithm>
@@ -9,24 +10,10 @@
 namespace chronomender {
 namespace {
 
-/// The slot that holds the item's main date once the save is through; none for file dates.
-std::optional<StampSlot> mainSlotAfterSaving(SpType type) {
-    switch (typeAfterFillingEmptyTags(type)) {
-    case SpTypeExifOriginal:
-        return StampSlot::Original;
-    case SpTypeExifDigitized:
-        return StampSlot::Digitized;
-    case SpTypeTiffDateTime:
-        return StampSlot::Modification;
-    default:
-        return std::nullopt;
-    }
-}
-
 /// A stamp without room is left as it is, unless it is the one that holds the item's date.
 bool isInTheWay(PlanObstacle obstacle, StampSlot slot, SpType type) {
     return obstacle != PlanObstacle::None &&
-           (obstacle != PlanObstacle::NoRoom || mainSlotAfterSaving(type) == slot);
+           (obstacle != PlanObstacle::NoRoom || sourceSlot(type) == slot);
 }
 
 OptionalDate wantedGpsDate(const MySinglePic &pic, const PlanContext &context) {

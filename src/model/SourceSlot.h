@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "DateSlots.h"
+#include "SpType.h"
+
+#include <optional>
+
+namespace chronomender {
+
+/// The slot whose stamp holds an item's main date, or will once its empty tags are filled; none
+/// when the date comes from elsewhere.
+constexpr std::optional<StampSlot> sourceSlot(SpType type) {
+    switch (typeAfterFillingEmptyTags(type)) {
+    case SpTypeExifOriginal:
+        return StampSlot::Original;
+    case SpTypeExifDigitized:
+        return StampSlot::Digitized;
+    case SpTypeTiffDateTime:
+        return StampSlot::Modification;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace chronomender
