@@ -12,6 +12,7 @@ namespace chronomender::bench {
 /// The command line's answer to an empty date tag; the files of the benchmarks have none.
 class NoQuestions : public ImportQuestions {
 public:
+    MovieOptions movieOptions(const MySingleFolder &) override { return {}; }
     PerFolderImportOptions emptyTagOptions(const MySingleFolder &) override { return {}; }
 };
 

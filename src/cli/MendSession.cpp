@@ -207,6 +207,10 @@ std::optional<Complaint> MendSession::shiftSingly(const FolderBlock &block,
     return std::nullopt;
 }
 
+MovieOptions MendSession::movieOptions(const MySingleFolder & /*folder*/) {
+    return {};
+}
+
 PerFolderImportOptions MendSession::emptyTagOptions(const MySingleFolder &folder) {
     return m_importOptions.at(&folder);
 }

@@ -41,6 +41,7 @@ public:
 
 private:
     PerFolderImportOptions emptyTagOptions(const MySingleFolder &folder) override;
+    MovieOptions movieOptions(const MySingleFolder &folder) override;
 
     std::optional<Complaint> applySettings(AppServices &services) const;
     std::optional<Complaint> addFolders(const FolderPlans &plans);

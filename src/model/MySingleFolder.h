@@ -72,9 +72,12 @@ public:
     std::int64_t folderSortGeneral = 0; ///< rank in order of creation
     int importDepth = 0;
     MediaTypesState mediaTypesState = MediaTypesState::Nothing;
-    OptionalDate lastLocalChange; ///< proofs older than this are out of date
-    bool isQuicktimeMVHDTimezoneCorrectionEnabled = false;
-    int harmonizingRawJpgsType = -1; ///< -1 until the folder first has a raw with its JPEG
+    OptionalDate lastLocalChange;           ///< proofs older than this are out of date
+    bool isQuicktimeMDTADateEnabled = true; ///< a movie's metadata date wins over its header's
+    bool isQuicktimeMVHDTimezoneCorrectionEnabled = false; ///< header times are local time
+    bool areMovieOptionsSettled = false; ///< the two above were asked for or given
+    int sortLPsByMovModifier = -1;       ///< -1 until first asked; 0 as the program, 1 no, 2 yes
+    int harmonizingRawJpgsType = -1;     ///< -1 until the folder first has a raw with its JPEG
     std::int64_t hasDSTJumperType = 0;
     ZoneAssignments sourceTimeZones, targetTimeZones;
 

@@ -44,6 +44,23 @@ struct ZoneFlags {
     bool hasMinorDateDifference = false;
 };
 
+/// What a movie says of itself.
+struct MovieInfo {
+    double movDuration = -1; ///< seconds; -1 until known
+    /// Seconds from the movie's start to the still of a live photo; none until read.
+    std::optional<double> livePhotoStillImageTime;
+    int seemsRealLivePhotoType = 0; ///< 0 not looked at, 1 no mark, 2 marked as a live photo
+};
+
+/// Live photos: on the still unless told otherwise.
+struct LivePhotoState {
+    std::string UUID; ///< content identifier, on still and movie; "" without one
+    std::optional<int> subsecTimeOriginal, customRendered;
+    OptionalDate livePhotoExactTimeCached; ///< cleared by every full read
+    int usesSimplerLPExactTime_cached = 0; ///< 1 yes, -1 no, 0 unknown
+    std::weak_ptr<MySinglePic> compoundLivePhotoPrev, compoundLivePhotoNext;
+};
+
 /// Membership in a group of two (raw and JPEG, still and movie).
 struct GroupLink {
     MySinglePicPtr bundleDependentImage;          ///< the dependent half, on the master
@@ -85,6 +102,7 @@ struct SaveState {
 
 struct ImportState {
     int importedState = 8;
+    bool isPossibleBundlePic = false; ///< raw files and QuickTime movies not yet in a group
     bool wasLocationDataSearched = false;
     /// The empty-tag question was answered with "leave alone": shown, and never part of a save.
     bool isLeftAlone = false;
@@ -142,6 +160,8 @@ public:
     ListPositions positions;
     Marks marks;
     CameraInfo camera;
+    MovieInfo movie;
+    LivePhotoState livePhoto;
     std::vector<std::string> spSidecarExtensions; ///< as spelled on disk
     bool isMovedToTrash = false;
     bool isExtensionHidden = false;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SinglePicAttributes.h"
 
+#include <algorithm>
+
 namespace chronomender {
 namespace {
 
@@ -20,11 +22,17 @@ const LocatedBytes *location(const Attributes &attributes) {
     return value ? &*value : nullptr;
 }
 
+template<std::optional<LocatedBytes> XmpLocation::*member>
+const LocatedBytes *xmpLocation(const Attributes &attributes) {
+    const auto &value = attributes.xmpLocation.*member;
+    return value ? &*value : nullptr;
+}
+
 const LocatedBytes *gpsTime(const Attributes &attributes) {
     return attributes.gpsTimeStamp ? &attributes.gpsTimeStamp->value : nullptr;
 }
 
-constexpr std::array<RecordedValue, 15> kinds{{
+constexpr std::array<RecordedValue, 24> kinds{{
     {"TIFFDateTime", plain<&Attributes::tiffDateTime>},
     {"TIFFOffsetTime", plain<&Attributes::tiffOffsetTime>},
     {"ExifDateTimeOriginal", plain<&Attributes::exifDateTimeOriginal>},
@@ -40,12 +48,56 @@ constexpr std::array<RecordedValue, 15> kinds{{
     {"altitudeRef", location<&GpsLocation::altitudeRef>},
     {"altitude", location<&GpsLocation::altitude>},
     {"hPositioningError", location<&GpsLocation::hPositioningError>},
+    {"QTMetaDate", plain<&Attributes::qtMetaDate>},
+    {"QTMvhdCreaDate", plain<&Attributes::qtMvhdCreaDate>},
+    {"QTMvhdModDate", plain<&Attributes::qtMvhdModDate>},
+    {"riffCreaDate", plain<&Attributes::riffCreaDate>},
+    {"exif:GPSLatitudeRef", xmpLocation<&XmpLocation::gpsLatRef>},
+    {"exif:GPSLatitude", xmpLocation<&XmpLocation::gpsLat>},
+    {"exif:GPSLongitudeRef", xmpLocation<&XmpLocation::gpsLonRef>},
+    {"exif:GPSLongitude", xmpLocation<&XmpLocation::gpsLon>},
+    {"exif:GPSHPositioningError", xmpLocation<&XmpLocation::gpsPosError>},
 }};
+
+struct XmpKey {
+    XmpProperty property;
+    std::string_view key;
+};
+
+constexpr std::array xmpKeys{
+    XmpKey{XmpProperty::ExifDateTimeOriginal, "exif:DateTimeOriginal"},
+    XmpKey{XmpProperty::ExifDateTimeDigitized, "exif:DateTimeDigitized"},
+    XmpKey{XmpProperty::XmpCreateDate, "xmp:CreateDate"},
+    XmpKey{XmpProperty::XmpModifyDate, "xmp:ModifyDate"},
+    XmpKey{XmpProperty::XmpMetadataDate, "xmp:MetadataDate"},
+    XmpKey{XmpProperty::TiffDateTime, "tiff:DateTime"},
+    XmpKey{XmpProperty::PhotoshopDateCreated, "photoshop:DateCreated"},
+    XmpKey{XmpProperty::GpsTimeStamp, "exif:GPSTimeStamp"},
+};
+
+struct PlaceKey {
+    QtLocation::Place place;
+    std::string_view key;
+};
+
+constexpr std::array placeKeys{
+    PlaceKey{QtLocation::Place::MetadataKeys, "locationISO6709"},
+    PlaceKey{QtLocation::Place::UserData, "locationISO6709_2"},
+    PlaceKey{QtLocation::Place::UserDataItems, "locationISO6709_3"},
+};
 
 } // namespace
 
-const std::array<RecordedValue, 15> &recordedValues() {
+const std::array<RecordedValue, 24> &recordedValues() {
     return kinds;
+}
+
+std::string_view key(XmpProperty property) {
+    return std::ranges::find(xmpKeys, property, &XmpKey::property)->key;
+}
+
+std::string_view key(QtLocation::Place place) {
+    return std::ranges::find(placeKeys, place, &PlaceKey::place)->key;
 }
 
 } // namespace chronomender

@@ -3,6 +3,8 @@
 
 #include "Date.h"
 #include "DatesData.h"
+#include "MovieData.h"
+#include "XmpData.h"
 
 #include <array>
 #include <cstdint>
@@ -27,6 +29,13 @@ struct SinglePicAttributes {
     std::optional<GpsTimeStamp> gpsTimeStamp;
     std::optional<LocatedBytes> gpsDateStamp;
     std::optional<GpsLocation> gpsLocation;
+    XmpDateInfos xmpDateInfos;
+    XmpLocation xmpLocation; ///< read late, where the file's tags gave no location
+
+    // Movies
+    std::optional<LocatedBytes> qtMvhdCreaDate, qtMvhdModDate, qtMetaDate, riffCreaDate;
+    std::vector<QtLocation> qtLocations;
+
     std::optional<std::uint64_t> tiffHeaderStartOffset, xmpHeaderStartOffset, cr3XmpOffset;
 };
 
@@ -37,8 +46,12 @@ struct RecordedValue {
         const SinglePicAttributes &); ///< null when the file has no such value
 };
 
-/// Every kind of recorded value, in the order in which a proof compares them.
-const std::array<RecordedValue, 15> &recordedValues();
+/// Every kind of value that is recorded once, in the order in which a proof compares them.
+const std::array<RecordedValue, 24> &recordedValues();
+
+/// The key of an XMP date, for example "xmp:CreateDate", and of a movie's location.
+std::string_view key(XmpProperty property);
+std::string_view key(QtLocation::Place place);
 
 /// Calls `visit(key, value)` for each value that is present.
 template<class Visit>
@@ -46,6 +59,13 @@ void forEachRecordedValue(const SinglePicAttributes &attributes, Visit visit) {
     for (const RecordedValue &kind : recordedValues())
         if (const LocatedBytes *value = kind.find(attributes))
             visit(kind.key, *value);
+    for (const XmpStamp &stamp : attributes.xmpDateInfos.stamps)
+        visit(key(stamp.property), stamp.value);
+    for (const QtLocation &each : attributes.qtLocations) {
+        visit(key(each.place), each.value);
+        if (each.hAccuracy)
+            visit(std::string_view("locationHAccuracy"), *each.hAccuracy);
+    }
 }
 
 } // namespace chronomender

@@ -28,4 +28,10 @@ constexpr std::uint32_t number32(std::string_view bytes, ByteOrder order) {
     return numberFrom(bytes, 4, order);
 }
 
+constexpr std::uint64_t number64(std::string_view bytes, ByteOrder order) {
+    const std::uint64_t first = number32(bytes, order);
+    const std::uint64_t second = number32(bytes.substr(4), order);
+    return order == ByteOrder::Motorola ? first << 32 | second : second << 32 | first;
+}
+
 } // namespace chronomender

@@ -4,6 +4,8 @@
 #include "ByteOrder.h"
 #include "FileWindow.h"
 
+#include <algorithm>
+
 namespace chronomender {
 
 /// A part of a file, addressed from its own beginning. A range made inside another never reaches
@@ -28,6 +30,14 @@ public:
         rest.m_begin += offset;
         rest.m_length -= offset;
         return rest;
+    }
+
+    /// At most `length` bytes from `offset` on, as far as they are there; empty outside.
+    ByteRange part(std::uint64_t offset, std::uint64_t length) const {
+        ByteRange inside = *this;
+        inside.m_begin += std::min(offset, m_length);
+        inside.m_length = std::min(length, left(offset));
+        return inside;
     }
 
     /// Bytes still there behind `offset`; 0 outside.

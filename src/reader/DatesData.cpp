@@ -23,6 +23,14 @@ const char *findingText(FindingReason reason) {
         return "the directory was already read";
     case FindingReason::ScanLimit:
         return "no header in the part of the file that is searched";
+    case FindingReason::BrokenStructure:
+        return "boxes, atoms or chunks that contradict themselves";
+    case FindingReason::PacketNotUtf8:
+        return "the XMP packet is not in UTF-8";
+    case FindingReason::DateWithoutTime:
+        return "a date without a time of day";
+    case FindingReason::Compressed:
+        return "a compressed block, which cannot be written in place";
     }
     return "";
 }

@@ -21,6 +21,10 @@ enum class FindingReason : std::uint8_t {
     CoordinateMissing, ///< the GPS directory has some of the four coordinate tags only
     DirectoryLoop,     ///< a directory is reached a second time
     ScanLimit,         ///< no header within the part of the file that is searched
+    BrokenStructure,   ///< boxes, atoms or chunks that contradict themselves
+    PacketNotUtf8,     ///< an XMP packet in UTF-16 or UTF-32
+    DateWithoutTime,   ///< an XMP date of a day, a month or a year only
+    Compressed,        ///< a compressed block, which cannot be written in place
 };
 
 /// Something the reader refused or tolerated; shown by `mend info`, never fatal.
@@ -54,6 +58,15 @@ struct GpsLocation {
     bool operator==(const GpsLocation &) const = default;
 };
 
+/// What joins the still of a live photo with its movie, from the Exif and maker note tags of Apple
+/// cameras.
+struct LivePhotoMarks {
+    std::string contentIdentifier; ///< "" if absent
+    std::optional<int> subsecTimeOriginal, customRendered;
+
+    bool operator==(const LivePhotoMarks &) const = default;
+};
+
 /// What one read of a still image found. Everything is optional, and nothing found is a valid
 /// result. Stamps hold 20 bytes: the 19 of the file and a zero byte. A stamp of 17 or 18 characters
 /// whose field ends before byte 19 holds exactly that field, without a zero byte added. Zone stamps
@@ -70,6 +83,7 @@ struct DatesData {
     std::optional<std::uint64_t> jpgXmpOffset, cr3XmpOffset, xmpHeaderStartOffset;
     std::string make,
         model; ///< as in IFD0, up to the first zero byte, at most 128 bytes; "" if absent
+    std::optional<LivePhotoMarks> livePhoto; ///< files of Apple cameras only
     std::vector<Finding> findings;
 };
 

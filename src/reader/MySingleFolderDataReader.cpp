@@ -5,6 +5,8 @@
 #include "FileWindow.h"
 #include "HeaderSearch.h"
 #include "JpegWalk.h"
+#include "MovieWalk.h"
+#include "XmpScan.h"
 
 #include <algorithm>
 #include <array>
@@ -170,6 +172,47 @@ DatesData MySingleFolderDataReader::readDates(FileFormatType format, std::string
     if (header)
         readExif(file, *header, dates);
     return dates;
+}
+
+std::optional<XmpDateInfos> MySingleFolderDataReader::readXmpDates(FileFormatType format,
+                                                                   std::string_view extension,
+                                                                   DatesData &known) {
+    const auto packet =
+        m_file ? findXmpPacket(m_file->window, format, extension, known) : std::nullopt;
+    if (!packet)
+        return std::nullopt;
+    XmpDateInfos infos = scanXmpDates(m_file->window, *packet, known.findings);
+    return infos.isEmpty() ? std::nullopt : std::optional(std::move(infos));
+}
+
+XmpLocation MySingleFolderDataReader::readXmpLocation(FileFormatType format,
+                                                      std::string_view extension,
+                                                      const DatesData &known) {
+    const auto packet =
+        m_file ? findXmpPacket(m_file->window, format, extension, known) : std::nullopt;
+    return packet ? scanXmpLocation(m_file->window, *packet) : XmpLocation();
+}
+
+XmpSidecar MySingleFolderDataReader::readXmpSidecar(std::vector<Finding> &findings) {
+    return m_file ? scanXmpSidecar(m_file->window, findings) : XmpSidecar();
+}
+
+std::optional<MovieHeader> MySingleFolderDataReader::readMovieHeader(FileFormatType format) {
+    if (!m_file)
+        return std::nullopt;
+    // An older QuickTime movie may begin with any atom.
+    return format == FileFormatOtherMovie
+               ? readRiffHeader(m_file->window)
+               : readQuicktimeHeader(m_file->window, format != FileFormatQuickTime);
+}
+
+MovieDetails MySingleFolderDataReader::readMovieDetails(FileFormatType format) {
+    return m_file && format != FileFormatOtherMovie ? chronomender::readMovieDetails(m_file->window)
+                                                    : MovieDetails();
+}
+
+std::optional<InternalPreview> MySingleFolderDataReader::readInternalPreview() {
+    return m_file ? savereadInternalJPGs(m_file->window) : std::nullopt;
 }
 
 std::optional<DatesData> MySingleFolderDataReader::savereadDatesAtPath(const std::string &path,

@@ -3,6 +3,9 @@
 
 #include "DatesData.h"
 #include "FileFormatType.h"
+#include "InternalPreviews.h"
+#include "MovieData.h"
+#include "XmpData.h"
 
 #include <cstdint>
 #include <memory>
@@ -48,6 +51,22 @@ public:
     /// raw files only. `startOffset` is a place where a TIFF header is known to stand, or 0.
     DatesData readDates(FileFormatType format, std::string_view extension,
                         std::uint64_t startOffset = 0);
+
+    /// XMP dates of the opened file; `known` is what `readDates` gave for it. None without any.
+    std::optional<XmpDateInfos> readXmpDates(FileFormatType format, std::string_view extension,
+                                             DatesData &known);
+    XmpLocation readXmpLocation(FileFormatType format, std::string_view extension,
+                                const DatesData &known);
+    /// Everything an XMP sidecar says.
+    XmpSidecar readXmpSidecar(std::vector<Finding> &findings);
+
+    /// Dates and places of a movie, by format: atoms for QuickTime and MPEG-4, RIFF for the others.
+    /// None when the file has none that could be read.
+    std::optional<MovieHeader> readMovieHeader(FileFormatType format);
+    MovieDetails readMovieDetails(FileFormatType format);
+
+    /// The preview inside a raw file; none without one.
+    std::optional<InternalPreview> readInternalPreview();
 
     /// Opens, reads and closes; none when the file cannot be opened.
     std::optional<DatesData> savereadDatesAtPath(const std::string &path, FileFormatType format,

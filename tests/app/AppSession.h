@@ -21,6 +21,7 @@ namespace chronomender {
 /// Leaves files with empty date tags alone.
 class LeaveAlone : public ImportQuestions {
 public:
+    MovieOptions movieOptions(const MySingleFolder &) override { return {}; }
     PerFolderImportOptions emptyTagOptions(const MySingleFolder &) override {
         PerFolderImportOptions options;
         options.withEmptyExifFixDate = PerFolderImportOptions::EmptyTags::LeaveAlone;

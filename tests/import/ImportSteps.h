@@ -25,6 +25,7 @@ inline Date utc(const std::string &text) {
 /// Answers the empty-tag question and counts how often it was asked.
 class ReadyAnswers : public ImportQuestions {
 public:
+    MovieOptions movieOptions(const MySingleFolder &) override { return {}; }
     PerFolderImportOptions emptyTagOptions(const MySingleFolder &) override {
         ++asked;
         if (whenAsked)

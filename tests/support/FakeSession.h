@@ -68,6 +68,8 @@ public:
     SaveDriver driver{folders,
                       {files, zones, defaults, undo, cancellation, [this] { return now; }, {}}};
 
+    MovieOptions movieOptions(const MySingleFolder &) override { return movieAnswer; }
+    MovieOptions movieAnswer;
     PerFolderImportOptions emptyTagOptions(const MySingleFolder &) override { return emptyTags; }
 
     MySingleFolder &folder(std::size_t index = 0) { return *folders.at(index); }
