@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BoxCursor.h"
 
+#include "BmffFormat.h"
+
+#include <algorithm>
+
 namespace chronomender {
 
 namespace {
@@ -21,11 +25,9 @@ std::optional<Extent> extentAt(const ByteRange &range, std::uint64_t at, std::ui
                                            : std::nullopt;
     if (size != kSizeFollows)
         return size >= kShortHeader ? std::optional(Extent{kShortHeader, size}) : std::nullopt;
-    const auto bytes = range.bytes(at + kShortHeader, 8);
-    if (!bytes)
-        return std::nullopt;
-    const std::uint64_t length = number64(*bytes, ByteOrder::Motorola);
-    return length >= kLongHeader ? std::optional(Extent{kLongHeader, length}) : std::nullopt;
+    const auto length = range.number(at + kShortHeader, 8);
+    return length && *length >= kLongHeader ? std::optional(Extent{kLongHeader, *length})
+                                            : std::nullopt;
 }
 
 } // namespace
@@ -34,7 +36,7 @@ std::optional<Box> BoxCursor::next() {
     if (m_boxesLeft == 0)
         return std::nullopt;
     --m_boxesLeft;
-    const auto header = m_range.bytes(m_at, kShortHeader);
+    const auto header = m_range.header(m_at, kShortHeader);
     if (!header)
         return std::nullopt;
     const std::uint32_t size = number32(*header, ByteOrder::Motorola);
@@ -57,6 +59,15 @@ std::optional<Box> findBox(const ByteRange &range, std::uint32_t type) {
         if (box->type == type)
             return box;
     return std::nullopt;
+}
+
+ByteRange metaChildren(const Box &meta) {
+    const auto isKnownAt = [&](std::uint64_t at) {
+        const auto type = meta.body.number(at + 4, 4);
+        return type && std::ranges::find(kMetaChildren, *type) != std::end(kMetaChildren);
+    };
+    const std::uint64_t begin = isKnownAt(0) && !isKnownAt(kFullBoxHeader) ? 0 : kFullBoxHeader;
+    return meta.body.part(begin, meta.body.length());
 }
 
 } // namespace chronomender

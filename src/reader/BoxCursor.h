@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "BmffFormat.h"
 #include "ByteRange.h"
 
 #include <cstdint>
 #include <optional>
 
 namespace chronomender {
-
-/// The four letters of a box type as the number they are in the file.
-constexpr std::uint32_t boxType(const char (&letters)[5]) {
-    std::uint32_t type = 0;
-    for (int i = 0; i < 4; ++i)
-        type = type << 8 | static_cast<unsigned char>(letters[i]);
-    return type;
-}
 
 /// One box of ISO/IEC 14496-12, or atom of a QuickTime file. `whole` and `body` (what lies behind
 /// the header) are cut to the range in which the box was found.
@@ -45,6 +38,9 @@ public:
     /// The next box; none at the end. An incomplete box is the last one.
     std::optional<Box> next();
 
+    /// True when all boxes were seen and nothing is left over.
+    bool isAtEnd() const { return m_range.left(m_at) == 0; }
+
 private:
     ByteRange m_range;
     BoxLevel m_level;
@@ -54,5 +50,9 @@ private:
 
 /// The first box of a type inside a range; none without one.
 std::optional<Box> findBox(const ByteRange &range, std::uint32_t type);
+
+/// Where the children of a `meta` box stand: behind version and flags (ISO/IEC 14496-12, 8.11.1),
+/// or at once, as QuickTime writes it. What begins with a known child is right.
+ByteRange metaChildren(const Box &meta);
 
 } // namespace chronomender

@@ -46,11 +46,27 @@ public:
     }
 
     /// Exactly `length` bytes at `offset`, or none. The view holds until the next read.
-    std::optional<std::string_view> bytes(std::uint64_t offset, std::size_t length) const {
+    std::optional<std::string_view> bytes(std::uint64_t offset, std::size_t length,
+                                          Reading reading = Reading::Values) const {
         if (left(offset) < length)
             return std::nullopt;
-        return m_window->bytes(m_begin + offset, length);
+        return m_window->bytes(m_begin + offset, length, reading);
     }
+    /// The same for what only leads to the next header, which may be far away.
+    std::optional<std::string_view> header(std::uint64_t offset, std::size_t length) const {
+        return bytes(offset, length, Reading::Headers);
+    }
+    /// A big-endian number of 2, 4 or 8 bytes at `offset`, or none; read like a header.
+    std::optional<std::uint64_t> number(std::uint64_t offset, std::size_t width) const {
+        const auto view = header(offset, width);
+        if (!view)
+            return std::nullopt;
+        return width == 8 ? number64(*view, ByteOrder::Motorola)
+                          : numberFrom(*view, width, ByteOrder::Motorola);
+    }
+
+    /// A budget for a walk through this range's file, counted from now.
+    ReadBudget budget() const { return ReadBudget(*m_window); }
 
 private:
     FileWindow *m_window;

@@ -22,9 +22,10 @@ bool holds(std::uint64_t heldOffset, std::size_t heldLength, std::uint64_t offse
 FileWindow::FileWindow(int descriptor, std::uint64_t length, bool hasHoles)
     : m_descriptor(descriptor), m_length(length), m_hasHoles(hasHoles) {}
 
-std::size_t FileWindow::readInto(char *target, std::uint64_t offset, std::size_t length) const {
+std::size_t FileWindow::readInto(char *target, std::uint64_t offset, std::size_t length) {
     std::size_t got = 0;
     while (got < length) {
+        ++m_count.reads;
         const ssize_t count =
             ::pread(m_descriptor, target + got, length - got, static_cast<off_t>(offset + got));
         if (count > 0)
@@ -32,6 +33,7 @@ std::size_t FileWindow::readInto(char *target, std::uint64_t offset, std::size_t
         else if (count == 0 || errno != EINTR)
             break;
     }
+    m_count.bytes += got;
     return got;
 }
 
@@ -56,14 +58,31 @@ void FileWindow::fetch(std::uint64_t offset, std::size_t length) {
     m_heldLength = readInto(m_buffer.get(), offset, wanted);
 }
 
-std::optional<std::string_view> FileWindow::bytes(std::uint64_t offset, std::size_t length) {
+/// Fetches around a place that is not held. Headers that follow each other closely get blocks that
+/// double; and who asks for values in ever new places gets smaller blocks in the end.
+void FileWindow::fetchFor(Reading reading, std::uint64_t offset, std::size_t length) {
+    constexpr std::uint32_t kGenerousReads = 12;
+    const bool isBehind = m_heldLength > 0 && offset >= m_heldOffset &&
+                          offset - m_heldOffset <= m_heldLength + m_heldLength / 2;
+    if (reading == Reading::Headers) {
+        const std::size_t block = isBehind ? std::min(m_heldLength * 2, kBlock) : kHeaderBlock;
+        fetch(offset, std::max(block, length));
+        return;
+    }
+    const std::uint64_t page = offset - offset % kPage;
+    const bool isGenerous = isBehind || m_count.reads < kGenerousReads;
+    fetch(page, isGenerous ? kBlock : std::size_t{2} * kPage);
+}
+
+std::optional<std::string_view> FileWindow::bytes(std::uint64_t offset, std::size_t length,
+                                                  Reading reading) {
     if (length > kLongestView || length > m_length || offset > m_length - length)
         return std::nullopt;
     const std::string_view first = head();
     if (holds(0, first.size(), offset, length))
         return first.substr(static_cast<std::size_t>(offset), length);
     if (!holds(m_heldOffset, m_heldLength, offset, length))
-        fetch(offset - offset % kPage, kBlock);
+        fetchFor(reading, offset, length);
     if (!holds(m_heldOffset, m_heldLength, offset, length))
         return std::nullopt;
     return std::string_view(m_buffer.get() + (offset - m_heldOffset), length);
