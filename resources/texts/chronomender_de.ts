@@ -6,8 +6,17 @@
     <message id="cli_emptyTagsLeftAlone">
         <translation>%1 Dateien haben leere Zeitfelder und bleiben, wie sie sind. --empty-tags sagt, was sie bedeuten sollen.</translation>
     </message>
+    <message id="cli_error_badDepth">
+        <translation>%1 ist keine Anzahl von Ordnerebenen. Angegeben werden kann 0 bis 100.</translation>
+    </message>
     <message id="cli_error_badEmptyTags">
         <translation>%1 sagt nichts über leere Zeitfelder. Möglich sind leave, file oder eine Zeit wie 2024-05-01T10:00+60.</translation>
+    </message>
+    <message id="cli_error_badMovieClock">
+        <translation>%1 ist keine Filmuhr. Angegeben werden kann utc, oder local, wenn der Filmkopf die Uhr der Kamera enthält.</translation>
+    </message>
+    <message id="cli_error_badMovieDate">
+        <translation>%1 ist kein Filmdatum. Angegeben werden kann mdta (das der Metadaten) oder mvhd (das des Filmkopfs).</translation>
     </message>
     <message id="cli_error_badSetting">
         <translation>--set erwartet KEY=VALUE, nicht %1.</translation>
@@ -66,6 +75,9 @@
     <message id="cli_error_shiftOutOfBounds">
         <translation>Die Verschiebung würde %1 aus den Jahren 1 bis 4999 hinausführen.</translation>
     </message>
+    <message id="cli_error_twoFilters">
+        <translation>%1 hat --filter-ext und --filter-ext-not. Nur eines davon kann angegeben werden.</translation>
+    </message>
     <message id="cli_error_unknownProblem">
         <translation>Ein Bedenken %1 gibt es nicht. Bedenken werden genannt, wenn sie auftreten.</translation>
     </message>
@@ -92,6 +104,12 @@
     </message>
     <message id="cli_help_file">
         <translation>Dateien, die gezeigt werden; ein Ordner steht für alle darin</translation>
+    </message>
+    <message id="cli_help_filterExt">
+        <translation>Liest nur Dateien mit diesen Endungen, etwa jpg,cr3; Begleitdateien kommen immer mit</translation>
+    </message>
+    <message id="cli_help_filterExtNot">
+        <translation>Lässt Dateien mit diesen Endungen weg, etwa mov,mp4</translation>
     </message>
     <message id="cli_help_folder">
         <translation>Ein Ordner; die Angaben dahinter gelten für ihn</translation>
@@ -128,6 +146,12 @@
     <message id="cli_help_mend">
         <translation>Bringt Fotos mehrerer Kameras in eine Reihenfolge und korrigiert ihre Zeiten in den Dateien.</translation>
     </message>
+    <message id="cli_help_movieClock">
+        <translation>Was die Zeiten im Filmkopf bedeuten: utc, wie es das Format verlangt (Voreinstellung), oder local, die Uhr der Kamera</translation>
+    </message>
+    <message id="cli_help_movieDate">
+        <translation>Welches Datum eines Films zählt: mdta, das seiner Metadaten, wo es eines gibt (Voreinstellung), oder mvhd, das seines Kopfs</translation>
+    </message>
     <message id="cli_help_path">
         <translation>Ordner oder Dateien ohne eigene Angaben</translation>
     </message>
@@ -155,6 +179,9 @@
     <message id="cli_help_sourceZone">
         <translation>Zeitzone, in der die Uhr der Kamera ging</translation>
     </message>
+    <message id="cli_help_subfolders">
+        <translation>Liest auch die Ordner darin, so viele Ebenen tief</translation>
+    </message>
     <message id="cli_help_systemZone">
         <translation>Steht anstelle der Zeitzone des Systems</translation>
     </message>
@@ -170,14 +197,29 @@
     <message id="cli_info_camera">
         <translation>Kamera</translation>
     </message>
+    <message id="cli_info_contentIdentifier">
+        <translation>Inhaltskennung</translation>
+    </message>
     <message id="cli_info_date">
         <translation>Zeit</translation>
     </message>
     <message id="cli_info_dates">
         <translation>Zeiten</translation>
     </message>
+    <message id="cli_info_duration">
+        <translation>Dauer</translation>
+    </message>
+    <message id="cli_info_follows">
+        <translation>folgt %1</translation>
+    </message>
     <message id="cli_info_format">
         <translation>Format</translation>
+    </message>
+    <message id="cli_info_group">
+        <translation>Gruppe</translation>
+    </message>
+    <message id="cli_info_leads">
+        <translation>führt %1 an</translation>
     </message>
     <message id="cli_info_lens">
         <translation>Objektiv</translation>
@@ -193,6 +235,12 @@
     </message>
     <message id="cli_info_room">
         <translation>%1 Bytes</translation>
+    </message>
+    <message id="cli_info_seconds">
+        <translation>%1 s</translation>
+    </message>
+    <message id="cli_info_sidecars">
+        <translation>Begleitdateien</translation>
     </message>
     <message id="cli_info_size">
         <translation>Größe</translation>

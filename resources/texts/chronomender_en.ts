@@ -6,8 +6,17 @@
     <message id="cli_emptyTagsLeftAlone">
         <translation>%1 files have empty date tags and are left alone. --empty-tags says what they are to mean.</translation>
     </message>
+    <message id="cli_error_badDepth">
+        <translation>%1 is no number of folder levels. Give 0 to 100.</translation>
+    </message>
     <message id="cli_error_badEmptyTags">
         <translation>%1 says nothing about empty tags. Give leave, file, or a date such as 2024-05-01T10:00+60.</translation>
+    </message>
+    <message id="cli_error_badMovieClock">
+        <translation>%1 is no movie clock. Give utc, or local for header times that hold the camera’s own clock.</translation>
+    </message>
+    <message id="cli_error_badMovieDate">
+        <translation>%1 is no movie date. Give mdta (the metadata’s) or mvhd (the header’s).</translation>
     </message>
     <message id="cli_error_badSetting">
         <translation>--set takes KEY=VALUE, not %1.</translation>
@@ -66,6 +75,9 @@
     <message id="cli_error_shiftOutOfBounds">
         <translation>The shift would move %1 out of the years 1 to 4999.</translation>
     </message>
+    <message id="cli_error_twoFilters">
+        <translation>%1 has --filter-ext and --filter-ext-not. Give one of them.</translation>
+    </message>
     <message id="cli_error_unknownProblem">
         <translation>There is no problem %1 that could be accepted. Problems are named when they are found.</translation>
     </message>
@@ -92,6 +104,12 @@
     </message>
     <message id="cli_help_file">
         <translation>Files to tell about; a folder stands for all in it</translation>
+    </message>
+    <message id="cli_help_filterExt">
+        <translation>Reads only files with these extensions, such as jpg,cr3; sidecars always come along</translation>
+    </message>
+    <message id="cli_help_filterExtNot">
+        <translation>Leaves out files with these extensions, such as mov,mp4</translation>
     </message>
     <message id="cli_help_folder">
         <translation>A folder; the options behind it are about it</translation>
@@ -128,6 +146,12 @@
     <message id="cli_help_mend">
         <translation>Puts photos of several cameras in one order and corrects their dates inside the files.</translation>
     </message>
+    <message id="cli_help_movieClock">
+        <translation>What the times in a movie’s header tell: utc, as the format says (default), or local, the clock of the camera</translation>
+    </message>
+    <message id="cli_help_movieDate">
+        <translation>Which of a movie’s dates counts: mdta, that of its metadata where there is one (default), or mvhd, that of its header</translation>
+    </message>
     <message id="cli_help_path">
         <translation>Folders or files without options of their own</translation>
     </message>
@@ -155,6 +179,9 @@
     <message id="cli_help_sourceZone">
         <translation>Time zone in which the camera’s clock was meant</translation>
     </message>
+    <message id="cli_help_subfolders">
+        <translation>Reads the folders inside as well, this many levels down</translation>
+    </message>
     <message id="cli_help_systemZone">
         <translation>Stands in for the system’s time zone</translation>
     </message>
@@ -170,14 +197,29 @@
     <message id="cli_info_camera">
         <translation>camera</translation>
     </message>
+    <message id="cli_info_contentIdentifier">
+        <translation>Content identifier</translation>
+    </message>
     <message id="cli_info_date">
         <translation>date</translation>
     </message>
     <message id="cli_info_dates">
         <translation>dates</translation>
     </message>
+    <message id="cli_info_duration">
+        <translation>Duration</translation>
+    </message>
+    <message id="cli_info_follows">
+        <translation>follows %1</translation>
+    </message>
     <message id="cli_info_format">
         <translation>format</translation>
+    </message>
+    <message id="cli_info_group">
+        <translation>Group</translation>
+    </message>
+    <message id="cli_info_leads">
+        <translation>leads %1</translation>
     </message>
     <message id="cli_info_lens">
         <translation>lens</translation>
@@ -193,6 +235,12 @@
     </message>
     <message id="cli_info_room">
         <translation>%1 bytes</translation>
+    </message>
+    <message id="cli_info_seconds">
+        <translation>%1 s</translation>
+    </message>
+    <message id="cli_info_sidecars">
+        <translation>Sidecars</translation>
     </message>
     <message id="cli_info_size">
         <translation>size</translation>

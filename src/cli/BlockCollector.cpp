@@ -5,8 +5,37 @@
 #include "Utf8Text.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <string_view>
 
 namespace chronomender {
+namespace {
+
+template<class Value>
+struct Word {
+    std::string_view word;
+    Value value;
+};
+constexpr std::array movieDates{Word{"mdta", MovieDate::Mdta}, Word{"mvhd", MovieDate::Mvhd}};
+constexpr std::array movieClocks{Word{"utc", MovieClock::Utc}, Word{"local", MovieClock::Local}};
+
+template<class Value, std::size_t count>
+std::optional<Value> wordIn(const std::array<Word<Value>, count> &words, std::string_view typed) {
+    const auto found = std::ranges::find(words, typed, &Word<Value>::word);
+    return found == words.end() ? std::nullopt : std::optional(found->value);
+}
+
+/// Levels of folders inside a folder, 0 to 100.
+std::optional<int> parseDepth(std::string_view typed) {
+    constexpr int deepest = 100;
+    int depth = 0;
+    const auto [end, error] = std::from_chars(typed.data(), typed.data() + typed.size(), depth);
+    const bool isNumber = error == std::errc() && end == typed.data() + typed.size();
+    return isNumber && depth >= 0 && depth <= deepest ? std::optional(depth) : std::nullopt;
+}
+
+} // namespace
 
 void BlockCollector::fail(std::string message) {
     if (!m_error)
@@ -31,6 +60,11 @@ void BlockCollector::add(OptionId id, const char *name, const std::string &value
     case OptionId::SourceZone:
     case OptionId::TargetZone:
     case OptionId::EmptyTags:
+    case OptionId::MovieDate:
+    case OptionId::MovieClock:
+    case OptionId::FilterExt:
+    case OptionId::FilterExtNot:
+    case OptionId::Subfolders:
         addToBlock(id, name, value);
         return;
     default:
@@ -115,9 +149,34 @@ void BlockCollector::addToBlock(OptionId id, const char *name, const std::string
     case OptionId::EmptyTags:
         setOnce(block.emptyTags, name, parseEmptyTags(value), "cli_error_badEmptyTags", value);
         break;
+    case OptionId::MovieDate:
+        setOnce(block.movieDate, name, wordIn(movieDates, value), "cli_error_badMovieDate", value);
+        break;
+    case OptionId::MovieClock:
+        setOnce(block.movieClock, name, wordIn(movieClocks, value), "cli_error_badMovieClock",
+                value);
+        break;
+    case OptionId::FilterExt:
+        addFilter(block.filterExt, block.filterExtNot, name, value);
+        break;
+    case OptionId::FilterExtNot:
+        addFilter(block.filterExtNot, block.filterExt, name, value);
+        break;
+    case OptionId::Subfolders:
+        setOnce(block.subfolderDepth, name, parseDepth(value), "cli_error_badDepth", value);
+        break;
     default:
         break;
     }
+}
+
+void BlockCollector::addFilter(std::optional<std::string> &filter,
+                               const std::optional<std::string> &opposite, const char *name,
+                               const std::string &value) {
+    if (opposite)
+        fail(text("cli_error_twoFilters", {printable(m_line.blocks.back().path)}));
+    else
+        setOnce(filter, name, std::optional(value), "", value);
 }
 
 void BlockCollector::addShift(FolderBlock &block, const char *name, const std::string &value) {

@@ -26,6 +26,8 @@ private:
     void addToRun(OptionId id, const std::string &value);
     void addToBlock(OptionId id, const char *name, const std::string &value);
     void addShift(FolderBlock &block, const char *name, const std::string &value);
+    void addFilter(std::optional<std::string> &filter, const std::optional<std::string> &opposite,
+                   const char *name, const std::string &value);
     void addSetting(const std::string &value);
     void addAccepted(const std::string &value);
     template<class Value>

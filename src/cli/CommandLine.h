@@ -16,6 +16,11 @@
 
 namespace chronomender {
 
+/// Which of a movie's dates is its date: the metadata's, or the header's.
+enum class MovieDate : std::uint8_t { Mdta, Mvhd };
+/// What a movie's header times tell: UTC as the format says, or the camera's own clock.
+enum class MovieClock : std::uint8_t { Utc, Local };
+
 /// `--folder PATH` with the options behind it, or a plain PATH, which has none.
 struct FolderBlock {
     std::string path;
@@ -24,6 +29,10 @@ struct FolderBlock {
     std::vector<std::pair<std::string, absl::Duration>> picShifts; ///< by file name
     std::optional<std::string> sourceZone, targetZone;             ///< names, not yet looked up
     std::optional<EmptyTagsSpec> emptyTags;
+    std::optional<MovieDate> movieDate;
+    std::optional<MovieClock> movieClock;
+    std::optional<std::string> filterExt, filterExtNot; ///< as typed; never both
+    std::optional<int> subfolderDepth;                  ///< 0: no folders inside the folder
 };
 
 enum class Command : std::uint8_t { List, Info, Save };

@@ -16,6 +16,9 @@
 
 #include <absl/time/clock.h>
 
+#include <array>
+#include <cstdio>
+
 namespace chronomender {
 namespace {
 
@@ -26,6 +29,26 @@ NewDateContext liveContext(const UserDefaults &defaults) {
     context.dateChangeTypeAtLocationOnlyChanges =
         defaults.integerForKey("dateChangeTypeAtLocationOnlyChanges");
     return context;
+}
+
+/// "12.5 s", or "" for an item without a duration.
+std::string durationText(double seconds) {
+    if (seconds < 0)
+        return {};
+    std::array<char, 32> buffer{};
+    std::snprintf(buffer.data(), buffer.size(), "%.1f", seconds);
+    return text("cli_info_seconds", {buffer.data()});
+}
+
+/// Every item of a folder, each master with its other half behind it.
+std::vector<MySinglePicPtr> itemsWithDependents(const MySingleFolder &folder) {
+    std::vector<MySinglePicPtr> items;
+    for (const MySinglePicPtr &pic : folder.sfPicDetails_fullArray) {
+        items.push_back(pic);
+        if (pic->group.bundleDependentImage)
+            items.push_back(pic->group.bundleDependentImage);
+    }
+    return items;
 }
 
 /// One item and what is said about it.
@@ -55,6 +78,10 @@ public:
                 .field("lat", *m_pic.location.gpsLat)
                 .field("lon", *m_pic.location.gpsLong)
                 .end();
+        appendMovie(line);
+        appendCompanions(line, m_pic);
+        if (const MySinglePicPtr master = m_pic.bundleMasterImage())
+            line.field("master", master->spName);
         line.beginObject("zones").field("source", m_sourceZone).field("target", m_targetZone).end();
         line.finish();
     }
@@ -100,6 +127,28 @@ private:
         line.end();
     }
 
+    void appendMovie(JsonLine &line) const {
+        if (m_pic.movie.movDuration >= 0)
+            line.field("duration", m_pic.movie.movDuration);
+        if (m_pic.movie.livePhotoStillImageTime)
+            line.field("stillImageTime", *m_pic.movie.livePhotoStillImageTime);
+        line.fieldIfAny("contentIdentifier", m_pic.livePhoto.UUID);
+    }
+
+    std::string groupText() const {
+        if (const MySinglePicPtr master = m_pic.bundleMasterImage())
+            return text("cli_info_follows", {printable(master->spName)});
+        const MySinglePicPtr &dependent = m_pic.group.bundleDependentImage;
+        return dependent ? text("cli_info_leads", {printable(dependent->spName)}) : std::string();
+    }
+
+    std::string sidecarText() const {
+        std::string joined;
+        for (const std::string &name : sidecarNames(m_pic))
+            joined += (joined.empty() ? "" : ", ") + name;
+        return joined;
+    }
+
     std::vector<std::pair<const char *, std::string>> factRows() const {
         const CameraInfo &camera = m_pic.camera;
         const std::string size = camera.pivImageWidth > 0
@@ -112,7 +161,11 @@ private:
                 {"cli_info_camera", camera.pivMakeModel},
                 {"cli_info_lens", camera.lens},
                 {"cli_info_size", size},
+                {"cli_info_duration", durationText(m_pic.movie.movDuration)},
                 {"cli_info_location", locationText(m_pic)},
+                {"cli_info_group", groupText()},
+                {"cli_info_contentIdentifier", m_pic.livePhoto.UUID},
+                {"cli_info_sidecars", sidecarText()},
                 {"cli_info_sourceZone", m_sourceZone},
                 {"cli_info_targetZone", m_targetZone},
                 {"cli_info_note", noteText(m_pic)}};
@@ -160,8 +213,9 @@ int runInfo(const CommandLine &line) {
     const FolderPaths paths(session.folders());
     std::string buffer;
     for (const MySingleFolderPtr &folder : session.folders())
-        for (const MySinglePicPtr &pic : folder->sfPicDetails_fullArray) {
-            calculateNewDates(*pic, context);
+        for (const MySinglePicPtr &pic : itemsWithDependents(*folder)) {
+            if (!pic->bundleMasterImage())
+                calculateNewDates(*pic, context);
             const Info info(*pic, *folder, paths, session.controller().zones());
             if (line.isJson)
                 info.appendJson(buffer);

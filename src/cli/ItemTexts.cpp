@@ -64,6 +64,38 @@ std::string locationText(const MySinglePic &pic) {
     return buffer.data();
 }
 
+std::vector<std::string> sidecarNames(const MySinglePic &pic) {
+    std::vector<std::string> names;
+    const MySinglePicPtr &dependent = pic.group.bundleDependentImage;
+    for (const std::string &sidecarExtension : pic.spSidecarExtensions) {
+        const bool isOtherHalf = dependent && sidecarExtension == dependent->extension();
+        if (!isOtherHalf)
+            names.push_back(pic.spBaseName() + '.' + sidecarExtension);
+    }
+    return names;
+}
+
+std::string spNameComplete(const MySinglePic &pic) {
+    const MySinglePicPtr &dependent = pic.group.bundleDependentImage;
+    std::string companions = dependent ? dependent->extension() : std::string();
+    const std::size_t stem = pic.spBaseName().size() + 1;
+    for (const std::string &name : sidecarNames(pic))
+        companions += (companions.empty() ? "" : ", ") + name.substr(stem);
+    return companions.empty() ? pic.spName : pic.spName + " + " + companions;
+}
+
+void appendCompanions(JsonLine &line, const MySinglePic &pic) {
+    if (const MySinglePicPtr &dependent = pic.group.bundleDependentImage)
+        line.field("dependent", dependent->spName);
+    const std::vector<std::string> sidecars = sidecarNames(pic);
+    if (sidecars.empty())
+        return;
+    line.beginArray("sidecars");
+    for (const std::string &name : sidecars)
+        line.element(name);
+    line.end();
+}
+
 FolderPaths::FolderPaths(const std::vector<MySingleFolderPtr> &folders) {
     for (const MySingleFolderPtr &folder : folders)
         m_paths.emplace(folder.get(), folder->sfFolderPath());

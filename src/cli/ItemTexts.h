@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "JsonLine.h"
 #include "MySingleFolder.h"
 #include "Zones.h"
 
@@ -27,6 +28,15 @@ std::string sourceText(SpType type);
 
 /// "48.8584, 2.2945", or "" without a location.
 std::string locationText(const MySinglePic &pic);
+
+/// Names of the files that go with an item and are no media of their own: XMP, AAE.
+std::vector<std::string> sidecarNames(const MySinglePic &pic);
+
+/// "IMG_1.CR3 + JPG, xmp": the name with the extensions of its other half and its sidecars.
+std::string spNameComplete(const MySinglePic &pic);
+
+/// "dependent" with the name of the other half, and "sidecars"; each only where there is one.
+void appendCompanions(JsonLine &line, const MySinglePic &pic);
 
 /// The paths of a session's folders, asked for once.
 class FolderPaths {

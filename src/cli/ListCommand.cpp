@@ -35,7 +35,7 @@ public:
             if (const MySingleFolderPtr folder = pic->spSingleRealFolder())
                 table.add(
                     {readableText(pic->spDateTimeModified(), displayZone(*pic, *folder, m_zones)),
-                     printable(folder->sfFolder), printable(pic->spName),
+                     printable(folder->sfFolder), printable(spNameComplete(*pic)),
                      printable(pic->camera.pivMakeModel), noteText(*pic)});
         const auto unsaved = std::count_if(m_items.begin(), m_items.end(),
                                            [](const auto &pic) { return isUnsaved(*pic); });
@@ -65,6 +65,7 @@ private:
                 .field("lat", *pic.location.gpsLat)
                 .field("lon", *pic.location.gpsLong)
                 .end();
+        appendCompanions(line, pic);
         line.flag("unsaved", isUnsaved(pic)).finish();
     }
 

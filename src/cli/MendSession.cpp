@@ -135,6 +135,7 @@ std::optional<Complaint> MendSession::addFolder(const FolderPlan &plan) {
         failPath(message);
         return std::nullopt;
     }
+    settleMovieOptions(plan.block, *folder);
     m_importOptions[folder.get()] = plan.importOptions;
     m_folders.push_back(std::move(folder));
     m_plans.push_back(plan);
@@ -207,8 +208,21 @@ std::optional<Complaint> MendSession::shiftSingly(const FolderBlock &block,
     return std::nullopt;
 }
 
-MovieOptions MendSession::movieOptions(const MySingleFolder & /*folder*/) {
-    return {};
+/// Never asked for: every folder says so before its import.
+MovieOptions MendSession::movieOptions(const MySingleFolder &folder) {
+    return {folder.isQuicktimeMDTADateEnabled, folder.isQuicktimeMVHDTimezoneCorrectionEnabled};
+}
+
+/// What the block says about movies; where it says nothing, the preferences.
+void MendSession::settleMovieOptions(const FolderBlock &block, MySingleFolder &folder) const {
+    const UserDefaults &defaults = m_controller->defaults();
+    folder.isQuicktimeMDTADateEnabled = block.movieDate
+                                            ? *block.movieDate == MovieDate::Mdta
+                                            : defaults.boolForKey("isMDTADateEnabled");
+    folder.isQuicktimeMVHDTimezoneCorrectionEnabled =
+        block.movieClock ? *block.movieClock == MovieClock::Local
+                         : defaults.boolForKey("isMVHDTimezoneCorrectionEnabled");
+    folder.areMovieOptionsSettled = true;
 }
 
 PerFolderImportOptions MendSession::emptyTagOptions(const MySingleFolder &folder) {

@@ -46,6 +46,7 @@ private:
     std::optional<Complaint> applySettings(AppServices &services) const;
     std::optional<Complaint> addFolders(const FolderPlans &plans);
     std::optional<Complaint> addFolder(const FolderPlan &plan);
+    void settleMovieOptions(const FolderBlock &block, MySingleFolder &folder) const;
     void import(const FolderPlan &plan, const MySingleFolderPtr &folder,
                 CompletionScope completion);
     void tellSkipped(const FolderPlan &plan, const std::vector<SkippedEntry> &skipped);

@@ -16,6 +16,11 @@ enum class OptionId : std::uint8_t {
     SourceZone,
     TargetZone,
     EmptyTags,
+    MovieDate,
+    MovieClock,
+    FilterExt,
+    FilterExtNot,
+    Subfolders,
     Set,
     SystemZone,
     All,
@@ -39,9 +44,9 @@ constexpr unsigned commandBit(Command command) {
 }
 inline constexpr unsigned ofInfo = commandBit(Command::Info);
 inline constexpr unsigned ofSave = commandBit(Command::Save);
-inline constexpr unsigned ofFolders = commandBit(Command::List) | ofSave;
+inline constexpr unsigned ofFolders = commandBit(Command::List) | ofInfo | ofSave;
 
-inline constexpr std::array<OptionDescription, 12> optionTable{{
+inline constexpr std::array<OptionDescription, 17> optionTable{{
     {OptionId::Folder, "--folder", "PATH", "cli_help_folder", true, ofFolders},
     {OptionId::Shift, "--shift", "SPEC", "cli_help_shift", true, ofFolders},
     {OptionId::Pic, "--pic", "NAME", "cli_help_pic", true, ofFolders},
@@ -49,13 +54,17 @@ inline constexpr std::array<OptionDescription, 12> optionTable{{
     {OptionId::TargetZone, "--target-zone", "NAME|own", "cli_help_targetZone", true, ofFolders},
     {OptionId::EmptyTags, "--empty-tags", "leave|file|DATE[+STEP]", "cli_help_emptyTags", true,
      ofFolders},
+    {OptionId::MovieDate, "--movie-date", "mdta|mvhd", "cli_help_movieDate", true, ofFolders},
+    {OptionId::MovieClock, "--movie-clock", "utc|local", "cli_help_movieClock", true, ofFolders},
+    {OptionId::FilterExt, "--filter-ext", "LIST", "cli_help_filterExt", true, ofFolders},
+    {OptionId::FilterExtNot, "--filter-ext-not", "LIST", "cli_help_filterExtNot", true, ofFolders},
+    {OptionId::Subfolders, "--subfolders", "DEPTH", "cli_help_subfolders", true, ofFolders},
     {OptionId::DryRun, "--dry-run", "", "cli_help_dryRun", false, ofSave},
     {OptionId::Accept, "--accept", "KEY|all", "cli_help_accept", false, ofSave},
     {OptionId::All, "--all", "", "cli_help_all", false, ofSave},
-    {OptionId::Json, "--json", "", "cli_help_json", false, ofFolders | ofInfo},
-    {OptionId::Set, "--set", "KEY=VALUE", "cli_help_set", false, ofFolders | ofInfo},
-    {OptionId::SystemZone, "--system-zone", "NAME", "cli_help_systemZone", false,
-     ofFolders | ofInfo},
+    {OptionId::Json, "--json", "", "cli_help_json", false, ofFolders},
+    {OptionId::Set, "--set", "KEY=VALUE", "cli_help_set", false, ofFolders},
+    {OptionId::SystemZone, "--system-zone", "NAME", "cli_help_systemZone", false, ofFolders},
 }};
 
 } // namespace chronomender

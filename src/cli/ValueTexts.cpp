@@ -1,25 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ValueTexts.h"
 
+#include "DateTexts.h"
+
 #include <array>
 #include <cstdint>
 
 namespace chronomender {
 namespace {
 
-enum class ValueKind : std::uint8_t { Text, Rationals, Number };
+enum class ValueKind : std::uint8_t { Text, Rationals, Number, SecondsSince1904 };
 struct KeyKind {
     std::string_view key;
     ValueKind kind;
 };
-// Values that are no texts (Exif 2.32, 4.6.6 "GPS Attribute Information").
-constexpr std::array<KeyKind, 6> kinds{{
+// Values that are no texts (Exif 2.32, 4.6.6 "GPS Attribute Information"; ISO/IEC 14496-12, 8.2.2).
+constexpr std::array<KeyKind, 8> kinds{{
     {"GPSTimeStamp", ValueKind::Rationals},
     {"latitude", ValueKind::Rationals},
     {"longitude", ValueKind::Rationals},
     {"altitude", ValueKind::Rationals},
     {"hPositioningError", ValueKind::Rationals},
     {"altitudeRef", ValueKind::Number},
+    {"QTMvhdCreaDate", ValueKind::SecondsSince1904},
+    {"QTMvhdModDate", ValueKind::SecondsSince1904},
 }};
 
 ValueKind kindOf(std::string_view key) {
@@ -34,6 +38,15 @@ std::uint32_t numberAt(const Bytes &bytes, std::size_t offset, bool isBigEndian)
     for (std::size_t i = 0; i < 4; ++i)
         value = value << 8 | static_cast<unsigned char>(bytes[offset + (isBigEndian ? i : 3 - i)]);
     return value;
+}
+
+/// "3797491200 (2024-05-01T08:00:00Z)"; the number alone where it stands for no date.
+std::string movieTimeText(std::uint32_t seconds) {
+    const absl::Time start = absl::FromCivil(absl::CivilDay(1904, 1, 1), absl::UTCTimeZone());
+    const std::string number = std::to_string(seconds);
+    if (seconds == 0)
+        return number;
+    return number + " (" + utcText(start + absl::Seconds(seconds)) + ')';
 }
 
 std::string rationalsText(const Bytes &bytes, bool isBigEndian) {
@@ -74,6 +87,8 @@ std::string valueText(std::string_view key, const Bytes &bytes,
         return rationalsText(bytes, hasBigEndianRationals(key, attributes));
     case ValueKind::Number:
         return bytes.empty() ? "" : std::to_string(static_cast<unsigned char>(bytes[0]));
+    case ValueKind::SecondsSince1904:
+        return bytes.size() < 4 ? "" : movieTimeText(numberAt(bytes, 0, true));
     case ValueKind::Text:
         break;
     }
