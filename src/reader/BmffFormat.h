@@ -27,11 +27,34 @@ inline constexpr std::uint32_t kMetaChildren[]{
     boxType("keys"), boxType("ilst"), boxType("mhdr"), boxType("free"), boxType("xml "),
 };
 
-/// An entry of the item list (8.11.6), from its body: version 2 has 16-bit item numbers, version 3
-/// has 32 bits. Behind the number stand a 16-bit protection index, the type and the name.
+/// The item list (8.11.6): a count of 16 bits in version 0, else of 32, and boxes `infe`.
+inline constexpr std::uint64_t kItemCountAt = kFullBoxHeader;
+/// An entry of it: item numbers have 16 bits in version 2, 32 in version 3; older ones have no
+/// type. Then a protection index, the type and the item's name, and where the type is `mime` the
+/// content type and its encoding. Texts end with a zero byte.
 inline constexpr std::uint64_t kItemNumberAt = kFullBoxHeader;
 inline constexpr std::uint64_t kItemProtectionLength = 2;
 inline constexpr std::uint64_t kItemTypeLength = 4;
+inline constexpr unsigned kItemVersionShort = 2, kItemVersionLong = 3;
 inline constexpr std::string_view kXmpContentType = "application/rdf+xml";
+
+/// The item locations (8.11.3): version and flags, then the widths of the numbers in its records.
+inline constexpr std::uint64_t kLocationWidthsAt = kFullBoxHeader;
+inline constexpr std::uint64_t kLocationCountAt = kLocationWidthsAt + 2;
+inline constexpr unsigned kLocationVersionMethods = 1; ///< from here on with construction methods
+inline constexpr unsigned kLocationVersionLong = 2;    ///< with 32-bit item numbers
+inline constexpr unsigned kLocationVersionMost = 2;
+enum class LocationMethod : std::uint8_t { File = 0, ItemData = 1 };
+
+/// An Exif item (ISO/IEC 23008-12, A.2.1) begins with the distance from behind this number to the
+/// TIFF header.
+inline constexpr std::uint64_t kExifItemDistanceLength = 4;
+
+/// Canon CR3: boxes `uuid`, told apart by the 16 bytes behind their header.
+inline constexpr std::size_t kUuidLength = 16;
+inline constexpr std::string_view kCanonUuid{
+    "\x85\xc0\xb6\x87\x82\x0f\x11\xe0\x81\x11\xf4\xce\x46\x2b\x6a\x48", kUuidLength};
+inline constexpr std::string_view kXmpUuid{
+    "\xbe\x7a\xcf\xcb\x97\xa9\x42\xe8\x9c\x71\x99\x94\x91\xe3\xaf\xac", kUuidLength};
 
 } // namespace chronomender

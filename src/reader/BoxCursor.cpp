@@ -61,6 +61,11 @@ std::optional<Box> findBox(const ByteRange &range, std::uint32_t type) {
     return std::nullopt;
 }
 
+bool isBoxFile(const ByteRange &file) {
+    const auto type = file.number(4, 4);
+    return type && *type == boxType("ftyp");
+}
+
 ByteRange metaChildren(const Box &meta) {
     const auto isKnownAt = [&](std::uint64_t at) {
         const auto type = meta.body.number(at + 4, 4);

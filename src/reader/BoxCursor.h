@@ -51,6 +51,9 @@ private:
 /// The first box of a type inside a range; none without one.
 std::optional<Box> findBox(const ByteRange &range, std::uint32_t type);
 
+/// True for a file that begins with a file type box.
+bool isBoxFile(const ByteRange &file);
+
 /// Where the children of a `meta` box stand: behind version and flags (ISO/IEC 14496-12, 8.11.1),
 /// or at once, as QuickTime writes it. What begins with a known child is right.
 ByteRange metaChildren(const Box &meta);

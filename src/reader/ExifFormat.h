@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace chronomender {
 
@@ -20,6 +21,9 @@ inline constexpr std::uint16_t kTagDateTimeDigitized = 36868;
 inline constexpr std::uint16_t kTagOffsetTime = 36880;
 inline constexpr std::uint16_t kTagOffsetTimeOriginal = 36881;
 inline constexpr std::uint16_t kTagOffsetTimeDigitized = 36882;
+inline constexpr std::uint16_t kTagMakerNote = 37500;
+inline constexpr std::uint16_t kTagSubSecTimeOriginal = 37521;
+inline constexpr std::uint16_t kTagCustomRendered = 41985;
 inline constexpr std::uint16_t kTagDngVersion = 50706;
 
 inline constexpr std::size_t kStampLength = 19;         ///< "2024:05:06 07:08:09"
@@ -28,5 +32,13 @@ inline constexpr std::size_t kStoredStampLength = 20;   ///< with the zero byte 
 inline constexpr std::size_t kZoneStampLength = 6;      ///< "+02:00"
 inline constexpr std::size_t kStoredZoneStampLength = 7;
 inline constexpr std::size_t kLongestCameraText = 128;
+
+// The maker note of Apple cameras: a header, "MM", and a directory of TIFF's form. Its offsets are
+// relative to the note's first byte.
+inline constexpr std::string_view kAppleMake = "Apple";
+inline constexpr std::string_view kAppleNoteHeader{"Apple iOS\0", 10};
+inline constexpr std::uint32_t kAppleNoteDirectoryAt = 14;
+inline constexpr std::uint16_t kAppleTagContentIdentifier = 17;
+inline constexpr std::size_t kLongestContentIdentifier = 64;
 
 } // namespace chronomender

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ExifWalk.h"
 
+#include "AppleNote.h"
 #include "ExifFormat.h"
 #include "ExifValues.h"
 #include "GpsWalk.h"
@@ -68,14 +69,13 @@ constexpr std::array kZoneSlots{
 
 /// A Panasonic raw file keeps a JPEG with an Exif block of its own; that block's first directory
 /// gives the modification stamp when the outer one has none.
-void readEmbeddedStamp(const ByteRange &file, const TiffBlock &outer, const TiffEntry &jpeg,
-                       DatesData &dates) {
+void readEmbeddedStamp(const TiffBlock &outer, const TiffEntry &jpeg, DatesData &dates) {
     constexpr std::uint64_t kHeaderInJpeg = 12; // SOI, APP1 marker, length, "Exif" and two zeros
-    const std::uint64_t at = outer.range().absolute(jpeg.value + kHeaderInJpeg);
-    const auto header = headerAt(file, at);
-    if (!header || header->offset != at || header->order != outer.order())
+    const auto inner = outer.range().from(jpeg.value + kHeaderInJpeg);
+    const auto header = inner ? headerAt(*inner, 0) : std::nullopt;
+    if (!header || header->offset != 0 || header->order != outer.order())
         return;
-    const auto block = TiffBlock::at(file, *header);
+    const auto block = TiffBlock::at(*inner, *header);
     if (!block)
         return;
     Entries entries;
@@ -121,12 +121,33 @@ void readValues(const TiffBlock &block, const Entries &entries, DatesData &dates
         dates.model = readText(block, *entries[Model], kLongestCameraText);
 }
 
+/// A block of a CR3 file and what its first directory has of the wanted tags.
+struct Cr3Directory {
+    std::optional<TiffBlock> block;
+    Entries entries;
+};
+
+std::optional<TiffBlock> tiffBlock(const ByteRange &file, const std::optional<ByteBlock> &place) {
+    if (!place)
+        return std::nullopt;
+    const ByteRange range = file.part(place->offset, place->length);
+    const auto header = headerAt(range, 0);
+    return header ? TiffBlock::at(range, *header) : std::nullopt;
+}
+
+Cr3Directory cr3Directory(const ByteRange &file, const std::optional<ByteBlock> &place) {
+    Cr3Directory directory{tiffBlock(file, place), {}};
+    if (const auto &block = directory.block)
+        block->findEntries(block->firstDirectory(), std::span(kTags), std::span(directory.entries));
+    return directory;
+}
+
 } // namespace
 
-void readExif(const ByteRange &file, const TiffHeader &header, DatesData &dates) {
-    dates.tiffHeaderStartOffset = header.offset;
+void readExif(const ByteRange &range, const TiffHeader &header, DatesData &dates) {
+    dates.tiffHeaderStartOffset = range.absolute(header.offset);
     dates.isHeaderIntel = header.order == ByteOrder::Intel;
-    const auto block = TiffBlock::at(file, header);
+    const auto block = TiffBlock::at(range, header);
     if (!block)
         return;
     Entries entries;
@@ -138,10 +159,27 @@ void readExif(const ByteRange &file, const TiffHeader &header, DatesData &dates)
         takeExifEntries(*block, visited[1], entries);
     }
     readValues(*block, entries, dates);
+    if (dates.make == kAppleMake && visited[1] != visited[0])
+        dates.livePhoto = readLivePhotoMarks(*block, visited[1]);
     if (isNewDirectory(*block, entries[GpsPointer], visited, "GPSDirectory", dates))
         readGps(*block, entries[GpsPointer]->value, dates);
     if (!entries[Modified] && entries[EmbeddedJpeg])
-        readEmbeddedStamp(file, *block, *entries[EmbeddedJpeg], dates);
+        readEmbeddedStamp(*block, *entries[EmbeddedJpeg], dates);
+}
+
+void readCr3Exif(const ByteRange &file, const Cr3Blocks &blocks, DatesData &dates) {
+    Cr3Directory first = cr3Directory(file, blocks.cmt1);
+    const Cr3Directory exif = cr3Directory(file, blocks.cmt2);
+    for (std::size_t tag = 0; tag < kAllTags; ++tag) {
+        if (exif.entries[tag]) // the block that is read last wins
+            first.entries[tag].reset();
+    }
+    if (first.block)
+        readValues(*first.block, first.entries, dates);
+    if (exif.block)
+        readValues(*exif.block, exif.entries, dates);
+    if (const auto gps = tiffBlock(file, blocks.cmt4))
+        readGps(*gps, gps->firstDirectory(), dates);
 }
 
 } // namespace chronomender

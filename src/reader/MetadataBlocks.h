@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "DatesData.h"
+
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace chronomender {
 
@@ -19,6 +22,8 @@ struct ByteBlock {
 /// container has none, or when its structure is broken before it.
 struct MetadataBlocks {
     std::optional<ByteBlock> exif, xmp;
+    bool isBroken = false; ///< the walk did not come to its end, so that more may be there
+    std::vector<Finding> findings;
 
     bool operator==(const MetadataBlocks &) const = default;
 };

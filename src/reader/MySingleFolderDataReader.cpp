@@ -1,82 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MySingleFolderDataReader.h"
 
-#include "ExifWalk.h"
-#include "FileWindow.h"
+#include "FormatWalks.h"
 #include "HeaderSearch.h"
-#include "JpegWalk.h"
 #include "MovieWalk.h"
 #include "XmpScan.h"
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <string_view>
-#include <strings.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace chronomender {
 
 namespace {
-
-/// How the TIFF header of a format is found.
-enum class Walk : std::uint8_t {
-    None,        ///< the format has no walk, or keeps no Exif dates
-    JpegMarkers, ///< by marker segments; nothing found is final
-    FileStart,   ///< only at the start of the file
-    Scan,        ///< at the start, else anywhere
-};
-
-struct FormatWalk {
-    FileFormatType format;
-    Walk walk;
-};
-
-// The scan is for raw and unknown formats only: in others a header found by chance would be wrong.
-constexpr std::array kFormatWalks{
-    FormatWalk{FileFormatJpeg, Walk::JpegMarkers},
-    FormatWalk{FileFormatTiff, Walk::FileStart},
-    FormatWalk{FileFormatRaw, Walk::Scan},
-    FormatWalk{FileFormatNone, Walk::Scan},
-};
-
-/// A raw file that is a box structure and has no TIFF header to be scanned for.
-bool isBoxedRaw(FileFormatType format, std::string_view extension) {
-    constexpr std::string_view kBoxedRawExtension = "cr3";
-    return format == FileFormatRaw && extension.size() == kBoxedRawExtension.size() &&
-           ::strncasecmp(extension.data(), kBoxedRawExtension.data(), extension.size()) == 0;
-}
-
-Walk walkFor(FileFormatType format, std::string_view extension) {
-    if (isBoxedRaw(format, extension))
-        return Walk::None;
-    const auto found = std::ranges::find(kFormatWalks, format, &FormatWalk::format);
-    return found == kFormatWalks.end() ? Walk::None : found->walk;
-}
-
-std::optional<TiffHeader> findHeader(FileWindow &window, Walk walk, DatesData &dates) {
-    const ByteRange file(window);
-    switch (walk) {
-    case Walk::None:
-        return std::nullopt;
-    case Walk::JpegMarkers: {
-        const JpgOffsets offsets = readJpgHeader(file);
-        dates.jpgXmpOffset = offsets.xmp;
-        return offsets.tiff;
-    }
-    case Walk::FileStart:
-        return headerAtFileStart(file);
-    case Walk::Scan: {
-        const HeaderScan scan = scanForHeader(window);
-        if (scan.hasReachedLimit)
-            dates.findings.push_back({"TIFFHeader", kMostScannedBytes, FindingReason::ScanLimit});
-        return scan.header;
-    }
-    }
-    return std::nullopt;
-}
 
 std::string_view extensionOf(std::string_view path) {
     const std::string_view name = path.substr(path.find_last_of('/') + 1);
@@ -156,21 +94,24 @@ std::uint64_t MySingleFolderDataReader::fileLength() const {
     return m_file ? m_file->window.length() : 0;
 }
 
+ReadCount MySingleFolderDataReader::readCount() const {
+    return m_file ? m_file->window.readCount() : ReadCount();
+}
+
 std::string_view MySingleFolderDataReader::firstBytes() {
     return m_file ? m_file->window.head() : std::string_view();
 }
 
-DatesData MySingleFolderDataReader::readDates(FileFormatType format, std::string_view extension,
+DatesData MySingleFolderDataReader::readDates(FileFormatType format, std::string_view /*extension*/,
                                               std::uint64_t startOffset) {
     DatesData dates;
     if (!m_file)
         return dates;
     const ByteRange file(m_file->window);
-    const auto header = startOffset > 0
-                            ? headerAt(file, startOffset)
-                            : findHeader(m_file->window, walkFor(format, extension), dates);
-    if (header)
-        readExif(file, *header, dates);
+    if (startOffset > 0)
+        readExifAt(file, headerAt(file, startOffset), dates);
+    else
+        readDatesByFormat(m_file->window, format, dates);
     return dates;
 }
 

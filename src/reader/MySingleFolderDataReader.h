@@ -3,6 +3,7 @@
 
 #include "DatesData.h"
 #include "FileFormatType.h"
+#include "FileWindow.h"
 #include "InternalPreviews.h"
 #include "MovieData.h"
 #include "XmpData.h"
@@ -43,6 +44,8 @@ public:
     /// The open descriptor, or -1.
     int descriptor() const;
     std::uint64_t fileLength() const;
+    /// What was read from the file since it was opened.
+    ReadCount readCount() const;
     /// The first bytes of the file, at most 16 KiB; empty for an empty file. The view holds until
     /// the file is closed.
     std::string_view firstBytes();
