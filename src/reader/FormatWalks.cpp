@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <strings.h>
 
 namespace chronomender {
 
@@ -22,7 +23,7 @@ enum class Walk : std::uint8_t {
     JpegMarkers, ///< by marker segments; nothing found is final
     FileStart,   ///< only at the start of the file
     Scan,        ///< at the start of the file, else anywhere
-    Raw,         ///< in the boxes of CR3 where the file consists of such; else by the scan
+    Cr3Boxes,    ///< by boxes, in several blocks
     HeifBoxes,   ///< by boxes; anywhere when their structure is broken
     PngChunks,   ///< by chunks; anywhere when their structure is broken
     WebpChunks,  ///< by chunks; nothing found is final
@@ -39,10 +40,21 @@ constexpr std::array kFormatWalks{
     FormatWalk{FileFormatJpeg, Walk::JpegMarkers}, FormatWalk{FileFormatHeif, Walk::HeifBoxes},
     FormatWalk{FileFormatAvif, Walk::HeifBoxes},   FormatWalk{FileFormatPng, Walk::PngChunks},
     FormatWalk{FileFormatWebp, Walk::WebpChunks},  FormatWalk{FileFormatTiff, Walk::FileStart},
-    FormatWalk{FileFormatRaw, Walk::Raw},          FormatWalk{FileFormatNone, Walk::Scan},
+    FormatWalk{FileFormatRaw, Walk::Scan},         FormatWalk{FileFormatNone, Walk::Scan},
 };
 
-Walk walkFor(FileFormatType format) {
+/// A raw file whose name promises boxes has no TIFF header to be searched for, but may be one.
+bool isBoxedRawExtension(std::string_view extension) {
+    constexpr std::string_view kBoxedRaw = "cr3";
+    return extension.size() == kBoxedRaw.size() &&
+           ::strncasecmp(extension.data(), kBoxedRaw.data(), extension.size()) == 0;
+}
+
+Walk walkFor(const ByteRange &file, FileFormatType format, std::string_view extension) {
+    if (format == FileFormatRaw && isBoxFile(file))
+        return Walk::Cr3Boxes;
+    if (format == FileFormatRaw && isBoxedRawExtension(extension))
+        return Walk::FileStart;
     const auto found = std::ranges::find(kFormatWalks, format, &FormatWalk::format);
     return found == kFormatWalks.end() ? Walk::None : found->walk;
 }
@@ -93,8 +105,8 @@ void readByWalk(FileWindow &window, Walk walk, DatesData &dates) {
         return readExifAt(file, headerAtFileStart(file), dates);
     case Walk::Scan:
         return readScanned(window, dates);
-    case Walk::Raw:
-        return isBoxFile(file) ? readCr3(file, dates) : readScanned(window, dates);
+    case Walk::Cr3Boxes:
+        return readCr3(file, dates);
     case Walk::HeifBoxes:
         if (!readBlocks(file, findHeifBlocks(file), dates))
             readScanned(window, dates);
@@ -119,8 +131,9 @@ void readExifAt(const ByteRange &range, const std::optional<TiffHeader> &header,
         readExif(range, *header, dates);
 }
 
-void readDatesByFormat(FileWindow &window, FileFormatType format, DatesData &dates) {
-    readByWalk(window, walkFor(format), dates);
+void readDatesByFormat(FileWindow &window, FileFormatType format, std::string_view extension,
+                       DatesData &dates) {
+    readByWalk(window, walkFor(ByteRange(window), format, extension), dates);
 }
 
 } // namespace chronomender

@@ -102,7 +102,7 @@ std::string_view MySingleFolderDataReader::firstBytes() {
     return m_file ? m_file->window.head() : std::string_view();
 }
 
-DatesData MySingleFolderDataReader::readDates(FileFormatType format, std::string_view /*extension*/,
+DatesData MySingleFolderDataReader::readDates(FileFormatType format, std::string_view extension,
                                               std::uint64_t startOffset) {
     DatesData dates;
     if (!m_file)
@@ -111,7 +111,7 @@ DatesData MySingleFolderDataReader::readDates(FileFormatType format, std::string
     if (startOffset > 0)
         readExifAt(file, headerAt(file, startOffset), dates);
     else
-        readDatesByFormat(m_file->window, format, dates);
+        readDatesByFormat(m_file->window, format, extension, dates);
     return dates;
 }
 

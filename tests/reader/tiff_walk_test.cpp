@@ -174,7 +174,9 @@ TEST(HeaderSearch, DependsOnTheFormat) {
         {behind, FileFormatNone, "xyz", true},  {behind, FileFormatTiff, "tif", false},
         {behind, FileFormatJpeg, "jpg", false}, {behind, FileFormatRaw, "CR3", false},
         {tiff, FileFormatPict, "pct", false},   {tiff, FileFormatGif, "gif", false},
-        {tiff, FileFormatPng, "png", false},    {tiff, FileFormatMpeg4, "mp4", false},
+        {behind, FileFormatPng, "png", true},   {tiff, FileFormatMpeg4, "mp4", false},
+        {behind, FileFormatHeif, "hif", true},  {tiff, FileFormatRaw, "CR3", true},
+        {tiff, FileFormatWebp, "webp", false},
     };
     for (const auto &[bytes, format, extension, isFound] : cases)
         EXPECT_EQ(text(readBytes(bytes, format, extension).exifDateTimeOriginal),
