@@ -14,6 +14,10 @@ const ZoneChoice *choiceForPicIgnoringDefault(const MySinglePic &pic,
 /// Gives the item (for a dependent: its master) a choice of its own, or takes it away.
 void addPicWithZone(const MySinglePic &pic, ZoneChoice choice, ZoneAssignments &assignments);
 void removePic(const MySinglePic &pic, ZoneAssignments &assignments);
+/// Carries the choices of a new dependent over to its master, unless the master has its own. True
+/// when one of the two has a source zone of its own, so that the other's stamps must be read again.
+bool moveTimeZoneInfosFromDependentToMaster(const MySinglePic &dependent, const MySinglePic &master,
+                                            MySingleFolder &folder);
 
 // The zones below are references into the folder's choices or into `zones`: good until either
 // changes.

@@ -74,6 +74,17 @@ void pinToPresentChoice(const MySinglePic &pic, ZoneAssignments &assignments) {
     addPicWithZone(pic, assignments.folderDefault.value_or(ZoneChoice::system()), assignments);
 }
 
+/// True when the master has a choice of its own afterwards.
+bool moveChoice(const MySinglePic &dependent, const MySinglePic &master,
+                ZoneAssignments &assignments) {
+    auto &choices = assignments.ofItems;
+    if (auto moved = choices.extract(dependent.sessionUniqueId)) {
+        moved.key() = master.sessionUniqueId;
+        choices.insert(std::move(moved));
+    }
+    return choices.contains(master.sessionUniqueId);
+}
+
 } // namespace
 
 void addPicWithZone(const MySinglePic &pic, ZoneChoice choice, ZoneAssignments &assignments) {
@@ -89,6 +100,12 @@ void removePic(const MySinglePic &pic, ZoneAssignments &assignments) {
     assignments.ofItems.erase(first.sessionUniqueId);
     if (const MySinglePicPtr &second = first.group.bundleDependentImage)
         assignments.ofItems.erase(second->sessionUniqueId);
+}
+
+bool moveTimeZoneInfosFromDependentToMaster(const MySinglePic &dependent, const MySinglePic &master,
+                                            MySingleFolder &folder) {
+    moveChoice(dependent, master, folder.targetTimeZones);
+    return moveChoice(dependent, master, folder.sourceTimeZones);
 }
 
 void setTZDefaultsSource(MySingleFolder &folder, ZoneChoice source, bool targetFollows) {

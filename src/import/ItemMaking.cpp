@@ -53,6 +53,8 @@ MySinglePicPtr makeItem(std::string name, const MySingleFolderPtr &folder, const
     MySinglePicPtr pic = MySinglePic::create(std::move(name), folder, decision.type, decision.date);
     pic->fileFormatType = record.format;
     pic->importState.isLeftAlone = decision.isLeftAlone;
+    pic->importState.isPossibleBundlePic =
+        record.format == FileFormatRaw || record.format == FileFormatQuickTime;
     return pic;
 }
 

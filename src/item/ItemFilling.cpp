@@ -101,6 +101,15 @@ void cleanupBeforeRefreshInternalData(MySinglePic &pic) {
     attributes.cr3XmpOffset.reset();
 }
 
+void takeLivePhotoMarks(LivePhotoState &livePhoto, std::optional<LivePhotoMarks> &&marks) {
+    livePhoto.livePhotoExactTimeCached.reset();
+    if (!marks)
+        return;
+    livePhoto.UUID = std::move(marks->contentIdentifier);
+    livePhoto.subsecTimeOriginal = marks->subsecTimeOriginal;
+    livePhoto.customRendered = marks->customRendered;
+}
+
 } // namespace
 
 void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
@@ -123,6 +132,7 @@ void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
     attributes.tiffHeaderStartOffset = dates.tiffHeaderStartOffset;
     pic.isHeaderIntel = dates.isHeaderIntel;
     pic.findings = std::move(dates.findings);
+    takeLivePhotoMarks(pic.livePhoto, std::move(dates.livePhoto));
     validateMetaNormalization(pic);
     setGPXAttributesFromTheDatesData(pic, dates);
     setLocationFromData(pic);

@@ -108,4 +108,11 @@ int MySingleFolder::takeHarmonizingRawJpgsType(const UserDefaults &defaults) {
     return std::max(harmonizingRawJpgsType, 0);
 }
 
+void MySingleFolder::settleSortFolderLPsByMov(const UserDefaults &defaults) {
+    if (sortLPsByMovModifier < 0 && !bundleDependentsLivePhotos.empty())
+        sortLPsByMovModifier = defaults.integerForKey("sortLPsByMovModifierDefault");
+    sortFolderLPsByMov =
+        sortLPsByMovModifier > 0 ? sortLPsByMovModifier == 2 : defaults.boolForKey("sortLPsByMov");
+}
+
 } // namespace chronomender

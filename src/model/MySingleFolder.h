@@ -77,6 +77,7 @@ public:
     bool isQuicktimeMVHDTimezoneCorrectionEnabled = false; ///< header times are local time
     bool areMovieOptionsSettled = false; ///< the two above were asked for or given
     int sortLPsByMovModifier = -1;       ///< -1 until first asked; 0 as the program, 1 no, 2 yes
+    bool sortFolderLPsByMov = false;     ///< live photos stand at the time of their movie
     int harmonizingRawJpgsType = -1;     ///< -1 until the folder first has a raw with its JPEG
     std::int64_t hasDSTJumperType = 0;
     ZoneAssignments sourceTimeZones, targetTimeZones;
@@ -107,6 +108,10 @@ public:
     /// The folder's kind of harmonising. Without a raw that has its JPEG it is 0 and stays open;
     /// the first answer with one takes the user's default and keeps it.
     int takeHarmonizingRawJpgsType(const UserDefaults &defaults);
+    /// The same for `sortLPsByMovModifier` and live photos; settles `sortFolderLPsByMov` by it, or
+    /// by the program's preference where the folder has none of its own. To be called again when
+    /// either changes.
+    void settleSortFolderLPsByMov(const UserDefaults &defaults);
 
 private:
     MySingleFolder() = default;

@@ -34,14 +34,19 @@ std::string trimmed(const std::string &text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/// "xmp", and "CR2.xmp" of a sidecar that repeats the whole name of its item.
-bool isXmpExtension(std::string_view extension) {
+bool isXmp(std::string_view extension) {
     constexpr std::string_view xmp = "xmp";
     const auto isSameLetter = [](char a, char b) { return (a | 0x20) == b; };
-    const bool isWhole = extension.size() == xmp.size();
-    const bool isLast = extension.size() > xmp.size() && extension.rbegin()[3] == '.';
-    return (isWhole || isLast) &&
-           std::equal(extension.end() - 3, extension.end(), xmp.begin(), isSameLetter);
+    return std::equal(extension.begin(), extension.end(), xmp.begin(), xmp.end(), isSameLetter);
+}
+
+std::vector<std::string>::const_iterator xmpSidecarOf(const MySinglePic &pic) {
+    const std::vector<std::string> &all = pic.spSidecarExtensions;
+    if (all.empty())
+        return all.end();
+    return std::find_if(all.begin(), all.end(), [own = pic.extension()](const std::string &each) {
+        return isXmpSidecarExtension(each, own);
+    });
 }
 
 } // namespace
@@ -90,15 +95,14 @@ std::vector<std::string> MySinglePic::spSidecarPaths() const {
 }
 
 std::string MySinglePic::spXMPPath() const {
-    const auto found =
-        std::find_if(spSidecarExtensions.begin(), spSidecarExtensions.end(), isXmpExtension);
+    const auto found = xmpSidecarOf(*this);
     if (found == spSidecarExtensions.end())
         return {};
     return spSidecarPaths()[static_cast<std::size_t>(found - spSidecarExtensions.begin())];
 }
 
 bool MySinglePic::hasXMPSidecar() const {
-    return std::any_of(spSidecarExtensions.begin(), spSidecarExtensions.end(), isXmpExtension);
+    return xmpSidecarOf(*this) != spSidecarExtensions.end();
 }
 
 const LocatedBytes *MySinglePic::stamp(StampSlot slot) const {
@@ -113,6 +117,21 @@ const LocatedBytes *MySinglePic::zoneStamp(StampSlot slot) const {
                         : slot == StampSlot::Digitized ? singlePicAttributes.exifOffsetTimeDigitized
                                                        : singlePicAttributes.tiffOffsetTime;
     return value ? &*value : nullptr;
+}
+
+bool isXmpSidecarExtension(std::string_view sidecarExtension, std::string_view ownExtension) {
+    if (isXmp(sidecarExtension))
+        return true;
+    const std::size_t length = ownExtension.size();
+    return sidecarExtension.starts_with(ownExtension) &&
+           sidecarExtension.substr(length).starts_with('.') &&
+           isXmp(sidecarExtension.substr(length + 1));
+}
+
+void addSidecarExtension(MySinglePic &pic, const std::string &sidecarExtension) {
+    std::vector<std::string> &all = pic.spSidecarExtensions;
+    if (std::find(all.begin(), all.end(), sidecarExtension) == all.end())
+        all.push_back(sidecarExtension);
 }
 
 std::string completeMakerModelString(const std::string &make, const std::string &model) {

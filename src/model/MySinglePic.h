@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace chronomender {
@@ -102,7 +103,8 @@ struct SaveState {
 
 struct ImportState {
     int importedState = 8;
-    bool isPossibleBundlePic = false; ///< raw files and QuickTime movies not yet in a group
+    bool isPossibleBundlePic = false;     ///< raw files and QuickTime movies not yet in a group
+    bool isPossibleBundlePicTemp = false; ///< the same for the time of a move into the folder
     bool wasLocationDataSearched = false;
     /// The empty-tag question was answered with "leave alone": shown, and never part of a save.
     bool isLeftAlone = false;
@@ -162,7 +164,8 @@ public:
     CameraInfo camera;
     MovieInfo movie;
     LivePhotoState livePhoto;
-    std::vector<std::string> spSidecarExtensions; ///< as spelled on disk
+    /// As spelled on disk. For a master also those of its dependent, and the dependent's own file.
+    std::vector<std::string> spSidecarExtensions;
     bool isMovedToTrash = false;
     bool isExtensionHidden = false;
     bool isHeaderIntel = false;
@@ -196,7 +199,9 @@ public:
     Date spDateTimeModified() const;
     /// Place on the timeline: the date of the item's `sortPic`.
     Date spDateTimeModified_sort() const { return sortPic().spDateTimeModified(); }
-    const MySinglePic &sortPic() const { return *this; }
+    /// The item that stands for this one on the timeline: the master of a group, or its movie where
+    /// the folder sorts live photos by movie.
+    const MySinglePic &sortPic() const;
     /// Main date plus the item's own shift; none when that shift is 0.
     OptionalDate singlePicModeDate() const;
 
@@ -236,6 +241,13 @@ private:
     bool isThisUnsaved() const;
     std::weak_ptr<MySingleFolder> m_folder;
 };
+
+/// "xmp" in any letter case, or "<own extension>.xmp" of a sidecar that repeats the whole name of
+/// its item. `ownExtension` is the item's.
+bool isXmpSidecarExtension(std::string_view sidecarExtension, std::string_view ownExtension);
+/// Makes the file of the item's base name with this extension, as spelled on disk, one of its
+/// sidecars, once.
+void addSidecarExtension(MySinglePic &pic, const std::string &sidecarExtension);
 
 /// "Canon EOS R5" of "Canon" and "Canon EOS R5"; "NIKON CORPORATION NIKON D5000" where the model
 /// does not repeat the make: trimmed make, blank, model, the make left out when the model begins

@@ -37,6 +37,16 @@ MySinglePicPtr MySinglePic::bundleMasterImage() const {
     return group.bundleMasterImage.expired() ? nullptr : group.bundleMasterImage.lock();
 }
 
+const MySinglePic &MySinglePic::sortPic() const {
+    if (const MySinglePicPtr master = bundleMasterImage())
+        return master->sortPic();
+    const MySinglePicPtr &dependent = group.bundleDependentImage;
+    if (!dependent || !dependent->isMovie())
+        return *this;
+    const MySingleFolderPtr folder = spSingleRealFolder();
+    return folder && folder->sortFolderLPsByMov ? *dependent : *this;
+}
+
 OptionalDate MySinglePic::singlePicModeDate() const {
     if (shift.singlePicModification == absl::ZeroDuration())
         return std::nullopt;
