@@ -113,6 +113,12 @@ void TiffWriter::writeDirectory(std::string &out, const std::vector<Field> &fiel
     out += encoded(nextOffset, 4) + values;
 }
 
+std::string TiffWriter::buildAlone(Directory which) const {
+    TiffWriter alone(m_order);
+    alone.m_directories[Image] = m_directories[which];
+    return alone.build();
+}
+
 std::string TiffWriter::build() const {
     const std::string header =
         (m_order == ByteOrder::Intel ? "II" : "MM") + encoded(42, 2) + encoded(HeaderSize, 4);

@@ -39,6 +39,8 @@ public:
 
     /// The whole structure from its byte-order mark on. Directories without entries are left out.
     std::string build() const;
+    /// A structure of its own whose first directory is the given one, as CR3 files keep them.
+    std::string buildAlone(Directory which) const;
 
 private:
     struct Field {

@@ -1,14 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// make_trip FOLDER: a sample trip of three cameras whose clocks disagree.
+// make_trip FOLDER: a sample trip of five cameras whose clocks disagree.
 //
-//   canon/  a camera on local time, but one hour fast; half of its files carry zone stamps
-//   nikon/  a camera that was never switched from home time; some files carry zone stamps
-//   phone/  right, with zone stamps and positions
+//   canon/   a camera on local time, but one hour fast; half of its files carry zone stamps, some
+//            shots lie in a raw file and a JPEG, and one raw file has an XMP sidecar
+//   nikon/   a camera that was never switched from home time; some files carry zone stamps
+//   phone/   right, with zone stamps and positions; HEIC, a live photo, a screenshot, a received
+//            picture without any date, an AAE sidecar
+//   gopro/   movies whose header holds the camera's own clock, two hours slow
+//   oldcam/  AVI movies on home time
 //   walk.gpx   the phone's track
-//   plan.json  for every file, the stamps that it should hold after mending
+//   plan.json  for every file, the stamps that it should hold after mending, and which encoder is
+//              still to make it: scripts/trip/encode.py does that
 
 #include "CameraExif.h"
+#include "Containers.h"
 #include "Picture.h"
 
 #include <absl/time/time.h>
@@ -35,7 +41,18 @@ constexpr const char *HomeZone = "Europe/Berlin", *TripZone = "Asia/Tokyo";
 constexpr std::string_view HomeStamp = "+02:00", TripStamp = "+09:00"; // in April
 constexpr int Width = 480, Height = 320;
 
-enum class Kind : std::uint8_t { Jpeg, Tiff };
+enum class Kind : std::uint8_t {
+    Jpeg,
+    Tiff,
+    RawWithJpeg,    ///< a CR3 and a JPEG
+    RawWithSidecar, ///< a CR3 and an XMP file
+    Heic,           ///< with an AAE file
+    LivePhoto,      ///< a HEIC and a movie
+    Screenshot,     ///< a PNG whose date stands in XMP
+    Received,       ///< a WebP without any date
+    Movie,          ///< an MP4 whose header holds the camera's clock
+    OldMovie,       ///< an AVI
+};
 
 struct Camera {
     const char *folder, *make, *model, *lens, *namePattern;
@@ -51,8 +68,10 @@ constexpr std::array cameras{
            ByteOrder::Motorola, true, 0, 231},
     Camera{"phone", "Google", "Pixel 7", "Pixel 7 back camera", "PXL_%04d", ByteOrder::Intel, false,
            0, 1},
+    Camera{"gopro", "GoPro", "HERO9 Black", "", "GOPR%04d", ByteOrder::Motorola, false, -7200, 12},
+    Camera{"oldcam", "PENTAX", "Optio S", "", "IMGP%04d", ByteOrder::Intel, true, 0, 77},
 };
-enum : std::size_t { Canon, Nikon, Phone };
+enum : std::size_t { Canon, Nikon, Phone, GoPro, OldCam };
 
 struct Shot {
     std::size_t camera;
@@ -63,23 +82,29 @@ struct Shot {
 };
 constexpr std::array shots{
     Shot{Phone, 11, 8, 57, 12, Kind::Jpeg, true},
-    Shot{Canon, 11, 9, 2, 40},
+    Shot{GoPro, 11, 8, 59, 30, Kind::Movie},
+    Shot{Canon, 11, 9, 2, 40, Kind::RawWithJpeg},
     Shot{Nikon, 11, 9, 4, 5},
     Shot{Canon, 11, 9, 12, 31, Kind::Tiff},
-    Shot{Phone, 11, 9, 20, 48, Kind::Jpeg, true},
+    Shot{Phone, 11, 9, 20, 48, Kind::LivePhoto, true},
+    Shot{OldCam, 11, 9, 21, 30, Kind::OldMovie},
+    Shot{Phone, 11, 9, 25, 0, Kind::Screenshot, true},
     Shot{Nikon, 11, 9, 33, 59},
     Shot{Canon, 11, 10, 1, 7, Kind::Jpeg, true},
     Shot{Nikon, 11, 10, 1, 9, Kind::Jpeg, true},
-    Shot{Phone, 11, 10, 1, 30, Kind::Jpeg, true},
+    Shot{Phone, 11, 10, 1, 30, Kind::Heic, true},
+    Shot{Phone, 11, 12, 10, 0, Kind::Received},
     Shot{Canon, 11, 13, 45, 0, Kind::Jpeg, true, 9},
     Shot{Nikon, 11, 18, 22, 16},
     Shot{Phone, 11, 18, 25, 2, Kind::Jpeg, true},
-    Shot{Canon, 12, 0, 20, 55},
+    Shot{Canon, 12, 0, 20, 55, Kind::RawWithSidecar},
+    Shot{GoPro, 12, 5, 30, 1, Kind::Movie},
     Shot{Nikon, 12, 5, 48, 3, Kind::Tiff},
     Shot{Canon, 12, 5, 49, 44, Kind::Jpeg, true},
     Shot{Phone, 12, 5, 52, 10, Kind::Jpeg, true},
     Shot{Nikon, 12, 11, 30, 30},
-    Shot{Canon, 12, 11, 31, 2},
+    Shot{Canon, 12, 11, 31, 2, Kind::RawWithJpeg, true},
+    Shot{OldCam, 12, 11, 31, 20, Kind::OldMovie},
     Shot{Nikon, 12, 11, 31, 40, Kind::Jpeg, true},
     Shot{Phone, 12, 11, 40, 0, Kind::Jpeg, true},
     Shot{Canon, 12, 20, 15, 33, Kind::Tiff, true},
@@ -146,12 +171,7 @@ PlannedShot planned(const Shot &shot, int number) {
         record.position = positionAt(instant);
         record.fractionOfSecond = "250";
     }
-    return {shot,
-            camera,
-            trueTime,
-            instant,
-            std::string(name) + (shot.kind == Kind::Tiff ? ".TIF" : ".JPG"),
-            record};
+    return {shot, camera, trueTime, instant, name, record};
 }
 
 std::string uncompressedTiff(const Picture &picture, const CameraRecord &record) {
@@ -171,12 +191,16 @@ std::string uncompressedTiff(const Picture &picture, const CameraRecord &record)
     return tiff.build();
 }
 
-std::string fileBytes(const PlannedShot &plan, unsigned seed) {
+Picture pictureOf(const PlannedShot &plan, unsigned seed) {
     const auto secondOfDay =
         static_cast<int>(plan.trueTime - absl::CivilSecond(absl::CivilDay(plan.trueTime)));
-    auto picture = landscape(Width, Height, secondOfDay, seed);
-    if (plan.shot.kind == Kind::Tiff)
-        return uncompressedTiff(picture, plan.record);
+    return landscape(Width, Height, secondOfDay, seed);
+}
+
+std::string jpegFile(const PlannedShot &plan, unsigned seed) {
+    auto picture = pictureOf(plan, seed);
+    const auto secondOfDay =
+        static_cast<int>(plan.trueTime - absl::CivilSecond(absl::CivilDay(plan.trueTime)));
     addGrain(picture, 4, seed);
     CameraRecord record = plan.record;
     record.thumbnail = jpegOf(landscape(160, 120, secondOfDay, seed), 80, false);
@@ -192,33 +216,150 @@ absl::Time fileTime(const PlannedShot &plan) {
     return absl::FromCivil(plan.record.edited.value_or(plan.record.wallClock), zone(HomeZone));
 }
 
-Json expectation(const PlannedShot &plan) {
-    const auto stamp = exifStamp(plan.trueTime);
-    const auto edited = plan.record.edited ? exifStamp(*plan.record.edited) : stamp;
-    Json wanted{{"DateTimeOriginal", stamp}, {"CreateDate", stamp}, {"ModifyDate", edited}};
-    if (plan.shot.hasZoneStamp)
-        for (const char *tag : {"OffsetTime", "OffsetTimeOriginal", "OffsetTimeDigitized"})
-            wanted[tag] = TripStamp;
-    return {{"path", std::string(plan.camera.folder) + "/" + plan.name},
-            {"taken", absl::FormatTime(absl::RFC3339_sec, plan.instant, zone(TripZone))},
-            {"clock", exifStamp(plan.record.wallClock)},
-            {"isEdited", plan.record.edited.has_value()},
-            {"expected", wanted}};
+std::string withDashes(std::string stamp) {
+    stamp[4] = stamp[7] = '-';
+    stamp[10] = 'T';
+    return stamp;
 }
 
-bool write(const fs::path &path, const std::string &bytes) {
+Json exifExpectation(const PlannedShot &plan) {
+    const auto stamp = exifStamp(plan.trueTime);
+    const auto edited = plan.record.edited ? exifStamp(*plan.record.edited) : stamp;
+    Json wanted{
+        {"EXIF:DateTimeOriginal", stamp}, {"EXIF:CreateDate", stamp}, {"EXIF:ModifyDate", edited}};
+    if (plan.shot.hasZoneStamp)
+        for (const char *tag :
+             {"EXIF:OffsetTime", "EXIF:OffsetTimeOriginal", "EXIF:OffsetTimeDigitized"})
+            wanted[tag] = TripStamp;
+    return wanted;
+}
+
+/// Header times of a movie, as the header has them.
+Json headerExpectation(absl::CivilSecond time) {
+    return {{"QuickTime:CreateDate", exifStamp(time)}, {"QuickTime:ModifyDate", exifStamp(time)}};
+}
+
+Json livePhotoExpectation(const PlannedShot &plan) {
+    Json wanted = headerExpectation(absl::ToCivilSecond(plan.instant, absl::UTCTimeZone()));
+    wanted["QuickTime:CreationDate"] = exifStamp(plan.trueTime) + std::string(TripStamp);
+    return wanted;
+}
+
+constexpr std::string_view Sidecar =
+    R"(<?xpacket begin="" id="W5M0MpCehiHzreSzNTczkc9d"?>
+<x:xmpmeta xmlns:x="adobe:ns:meta/"><rdf:RDF xmlns:rdf="http://www.w3.org/1999/02/22-rdf-syntax-ns#">
+<rdf:Description xmlns:xmp="http://ns.adobe.com/xap/1.0/"
+ xmlns:photoshop="http://ns.adobe.com/photoshop/1.0/"
+ xmp:Rating="4" photoshop:SidecarForExtension="CR3"/></rdf:RDF></x:xmpmeta>
+<?xpacket end="w"?>
+)";
+constexpr std::string_view Adjustments =
+    R"(<?xml version="1.0" encoding="UTF-8"?>
+<plist version="1.0"><dict><key>adjustmentFormatIdentifier</key><string>sample</string></dict></plist>
+)";
+
+bool write(const fs::path &path, std::string_view bytes) {
     std::ofstream out(path, std::ios::binary);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return out.good();
 }
 
-bool writeShot(const fs::path &root, const PlannedShot &plan, unsigned seed) {
-    const auto path = root / plan.camera.folder / plan.name;
-    if (!write(path, fileBytes(plan, seed)))
+/// Writes the files of the trip and tells them to the plan.
+class TripMaker {
+public:
+    explicit TripMaker(fs::path root) : m_root(std::move(root)) {}
+
+    bool add(const PlannedShot &plan, unsigned seed) {
+        m_shot = &plan;
+        switch (plan.shot.kind) {
+        case Kind::Jpeg:
+            return file(".JPG", jpegFile(plan, seed), exifExpectation(plan));
+        case Kind::Tiff:
+            return file(".TIF", uncompressedTiff(pictureOf(plan, seed), plan.record),
+                        exifExpectation(plan));
+        case Kind::RawWithJpeg:
+            return raw(seed) && dependent(".JPG", jpegFile(plan, seed), exifExpectation(plan));
+        case Kind::RawWithSidecar:
+            return raw(seed) && write(path(".xmp"), Sidecar);
+        case Kind::Heic:
+            return encoded(".HEIC", "heic", seed, exifExpectation(plan)) &&
+                   write(path(".AAE"), Adjustments);
+        case Kind::LivePhoto:
+            return encoded(".HEIC", "heic", seed, exifExpectation(plan)) &&
+                   encoded(".MOV", "mov", seed, livePhotoExpectation(plan), true);
+        case Kind::Screenshot:
+            return encoded(".PNG", "png", seed,
+                           {{"XMP:DateCreated", exifStamp(plan.trueTime) + "+09:00"}});
+        case Kind::Received:
+            return encoded(".WEBP", "webp", seed, Json::object());
+        case Kind::Movie:
+            return encoded(".MP4", "mp4", seed, headerExpectation(plan.trueTime));
+        case Kind::OldMovie:
+            return file(".AVI", aviOf(plan.record, jpegOf(pictureOf(plan, seed), 80, false)),
+                        {{"RIFF:DateTimeOriginal", exifStamp(plan.trueTime)}});
+        }
         return false;
-    const std::array times{timespec{0, UTIME_OMIT}, absl::ToTimespec(fileTime(plan))};
-    return utimensat(AT_FDCWD, path.c_str(), times.data(), 0) == 0;
-}
+    }
+
+    const Json &files() const { return m_files; }
+
+private:
+    fs::path path(const std::string &ending) const {
+        return m_root / m_shot->camera.folder / (m_shot->name + ending);
+    }
+
+    bool raw(unsigned seed) {
+        return file(".CR3", cr3Of(m_shot->record, jpegOf(pictureOf(*m_shot, seed), 88, false)),
+                    exifExpectation(*m_shot));
+    }
+
+    bool file(const std::string &ending, const std::string &bytes, Json expected) {
+        tell(ending, std::move(expected));
+        return writeDated(path(ending), bytes);
+    }
+
+    bool dependent(const std::string &ending, const std::string &bytes, Json expected) {
+        const bool isWritten = file(ending, bytes, std::move(expected));
+        m_files.back()["isDependent"] = true;
+        return isWritten;
+    }
+
+    /// A file that an encoder is to make of a JPEG.
+    bool encoded(const std::string &ending, const char *encoder, unsigned seed, Json expected,
+                 bool isDependent = false) {
+        tell(ending, std::move(expected));
+        Json &told = m_files.back();
+        told["isDependent"] = isDependent;
+        told["encoder"] = encoder;
+        told["make"] = m_shot->camera.make;
+        told["model"] = m_shot->camera.model;
+        told["headerTime"] =
+            withDashes(exifStamp(m_shot->camera.isOnHomeTime || isDependent
+                                     ? absl::ToCivilSecond(m_shot->instant, absl::UTCTimeZone())
+                                     : m_shot->record.wallClock));
+        told["stamp"] = withDashes(exifStamp(m_shot->trueTime)) + std::string(TripStamp);
+        return writeDated(path(ending + ".base.jpg"), jpegFile(*m_shot, seed));
+    }
+
+    void tell(const std::string &ending, Json expected) {
+        m_files.push_back(
+            {{"path", std::string(m_shot->camera.folder) + "/" + m_shot->name + ending},
+             {"taken", absl::FormatTime(absl::RFC3339_sec, m_shot->instant, zone(TripZone))},
+             {"clock", exifStamp(m_shot->record.wallClock)},
+             {"isEdited", m_shot->record.edited.has_value()},
+             {"isDependent", false},
+             {"expected", std::move(expected)}});
+    }
+
+    bool writeDated(const fs::path &path, const std::string &bytes) const {
+        const std::array times{timespec{0, UTIME_OMIT}, absl::ToTimespec(fileTime(*m_shot))};
+        return write(path, bytes) && utimensat(AT_FDCWD, path.c_str(), times.data(), 0) == 0;
+    }
+
+    fs::path m_root;
+    const PlannedShot *m_shot = nullptr;
+    Json m_files = Json::array();
+};
 
 std::string track() {
     std::string out = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -249,16 +390,16 @@ int makeTrip(const fs::path &root) {
         numbers[i] = cameras[i].firstNumber;
         fs::create_directories(root / cameras[i].folder);
     }
-    Json plan{{"homeZone", HomeZone}, {"tripZone", TripZone}, {"files", Json::array()}};
+    TripMaker maker(root);
     unsigned seed = 1;
     for (const auto &shot : shots) {
         const auto one = planned(shot, numbers[shot.camera]++);
-        if (!writeShot(root, one, seed++)) {
+        if (!maker.add(one, seed++)) {
             std::fprintf(stderr, "make_trip: cannot write %s\n", one.name.c_str());
             return 1;
         }
-        plan["files"].push_back(expectation(one));
     }
+    const Json plan{{"homeZone", HomeZone}, {"tripZone", TripZone}, {"files", maker.files()}};
     return write(root / "walk.gpx", track()) && write(root / "plan.json", plan.dump(1) + "\n") ? 0
                                                                                                : 1;
 }

@@ -9,8 +9,14 @@ import pathlib
 import subprocess
 import sys
 
-TAGS = ["DateTimeOriginal", "CreateDate", "ModifyDate",
-        "OffsetTime", "OffsetTimeOriginal", "OffsetTimeDigitized"]
+EXIF_TAGS = ["EXIF:DateTimeOriginal", "EXIF:CreateDate", "EXIF:ModifyDate", "EXIF:OffsetTime",
+             "EXIF:OffsetTimeOriginal", "EXIF:OffsetTimeDigitized"]
+TAGS = EXIF_TAGS + ["QuickTime:CreateDate", "QuickTime:ModifyDate", "QuickTime:CreationDate",
+                    "RIFF:DateTimeOriginal", "XMP:DateCreated"]
+
+
+NAMING_TAGS = ["EXIF:DateTimeOriginal", "QuickTime:CreationDate", "QuickTime:CreateDate",
+               "RIFF:DateTimeOriginal", "XMP:DateCreated"]
 
 
 def json_lines(path):
@@ -18,8 +24,8 @@ def json_lines(path):
 
 
 def read_with_exiftool(photos, paths):
-    arguments = [f"-EXIF:{tag}" for tag in TAGS]
-    done = subprocess.run(["exiftool", "-json", *arguments, *paths], cwd=photos,
+    arguments = [f"-{tag}" for tag in TAGS]
+    done = subprocess.run(["exiftool", "-json", "-G0", *arguments, *paths], cwd=photos,
                           capture_output=True, text=True, check=False)
     return {entry["SourceFile"]: entry for entry in json.loads(done.stdout or "[]")}
 
@@ -28,7 +34,7 @@ def difference(expected, read):
     """What is wrong in one file, "" when nothing is."""
     wrong = [f"{tag} {read.get(tag)} instead of {value}" for tag, value in expected.items()
              if read.get(tag) != value]
-    wrong += [f"{tag} appeared" for tag in TAGS if tag in read and tag not in expected]
+    wrong += [f"{tag} appeared" for tag in EXIF_TAGS if tag in read and tag not in expected]
     return "; ".join(wrong)
 
 
@@ -40,7 +46,8 @@ def judge_dates(photos, files):
         found = read.get(file["path"], {})
         wrong = difference(file["expected"], found)
         faults += bool(wrong)
-        now = f"{found.get('DateTimeOriginal')} {found.get('OffsetTimeOriginal', '')}"
+        now = next((found[tag] for tag in NAMING_TAGS if tag in found), "no date")
+        now += " " + found.get("EXIF:OffsetTimeOriginal", "")
         note = "edited later: kept" if file["isEdited"] else ""
         print(f"{file['path']:<20} {file['clock']:<20} {now:<27} {file['taken']:<26}"
               f" {'WRONG: ' + wrong if wrong else 'right'} {note}".rstrip())
@@ -48,7 +55,8 @@ def judge_dates(photos, files):
 
 
 def order_faults(files, listed):
-    true_order = [file["path"] for file in sorted(files, key=lambda file: file["taken"])]
+    shots = [file for file in files if not file["isDependent"]]
+    true_order = [file["path"] for file in sorted(shots, key=lambda file: file["taken"])]
     found = ["/".join(pathlib.PurePath(entry["path"]).parts[-2:]) for entry in listed]
     return sum(a != b for a, b in zip(true_order, found)) + abs(len(true_order) - len(found))
 
@@ -85,14 +93,15 @@ def main():
     trip = pathlib.Path(sys.argv[1])
     files = json.loads((trip / "photos" / "plan.json").read_text())["files"]
     date_faults = judge_dates(trip / "photos", files)
+    shots = sum(not file["isDependent"] for file in files)
     before = order_faults(files, json_lines(trip / "before.jsonl"))
     after = order_faults(files, json_lines(trip / "after.jsonl"))
     changed_files, changed_bytes, strays, resized = judge_bytes(trip, files)
     verdicts = [
         (date_faults == 0, f"dates: {len(files) - date_faults} of {len(files)} files hold the true "
-                           "time in every stamp and zone stamp"),
+                           "time in every stamp and zone stamp that they have"),
         (before > 0 and after == 0,
-         f"order: {before} of {len(files)} files stood out of place before, {after} do now"),
+         f"order: {before} of {shots} shots stood out of place before, {after} do now"),
         (changed_files > 0 and strays == 0 and resized == 0,
          f"bytes: {changed_bytes} bytes differ in {changed_files} files, {strays} of them outside "
          f"the date values; {resized} files changed in size"),
