@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // The figures that need no other program: limits, import, save, sort. Expects in
-// CHRONOMENDER_BENCH_FILES a folder with `many` (JPEGs with bodies of 200 KB), `short` and `long`
-// (fewer files, bodies of 200 KB and 4 MB) and `small` (folders of the smallest files), as
-// scripts/bench makes them. Every benchmark leaves the files as it found them or one hour away.
+// CHRONOMENDER_BENCH_FILES a folder with `many` (JPEGs with bodies of 200 KB), `mixed` (three in
+// ten of other formats), `short` and `long` (fewer JPEGs, bodies of 200 KB and 4 MB) and `small`
+// (folders of the smallest files), as scripts/bench makes them. Every benchmark leaves the files as
+// it found them or one hour away.
 
 #include "Limits.h"
 #include "Session.h"
@@ -109,6 +110,8 @@ void registerAll() {
     };
     add("readLimit/many", limit, readLimit, "many");
     add("import/many", importToDates, "many");
+    add("readLimit/mixed", limit, readLimit, "mixed");
+    add("import/mixed", importToDates, "mixed");
     add("patchLimit/many", limit, patchLimit, "many");
     add("save/many", saveStage, "many");
     for (const std::string folder : {"short", "long"}) {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// make_bench_files FOLDER COUNT BODY_BYTES: COUNT JPEGs with full Exif (about seventy tags, maker
-// note, thumbnail, position) and a picture of about BODY_BYTES, dates in no order. BODY_BYTES 0
-// makes the smallest picture there is.
+// make_bench_files FOLDER COUNT BODY_BYTES [mixed]: COUNT JPEGs with full Exif (about seventy tags,
+// maker note, thumbnail, position) and a picture of about BODY_BYTES, dates in no order. BODY_BYTES
+// 0 makes the smallest picture there is. With "mixed", three files in ten are of other formats, in
+// turn, around the same picture.
 
 #include "CameraExif.h"
+#include "Containers.h"
 #include "Picture.h"
 
 #include <absl/time/time.h>
@@ -81,7 +83,50 @@ bool writeFile(int folder, const std::string &name, const std::string &bytes,
     return close(file) == 0 && areTimesSet && done == bytes.size();
 }
 
-int makeFiles(const std::filesystem::path &root, std::size_t count, std::size_t bodySize) {
+struct OtherFormat {
+    const char *ending;
+    std::string (*build)(const CameraRecord &record, const std::string &picture);
+};
+constexpr OtherFormat otherFormats[]{
+    {"HEIC", [](const CameraRecord &record,
+                const std::string &picture) { return heicOf(record, picture); }},
+    {"MOV", [](const CameraRecord &record,
+               const std::string &picture) { return movieOf(record, "qt  ", picture); }},
+    {"CR3",
+     [](const CameraRecord &record, const std::string &picture) { return cr3Of(record, picture); }},
+    {"MP4",
+     [](const CameraRecord &record, const std::string &picture) {
+         CameraRecord withoutKeys = record;
+         withoutKeys.zoneStamp.reset();
+         return movieOf(withoutKeys, "isom", picture);
+     }},
+    {"PNG",
+     [](const CameraRecord &record, const std::string &picture) { return pngOf(record, picture); }},
+    {"WEBP", [](const CameraRecord &record,
+                const std::string &picture) { return webpOf(record, picture); }},
+    {"AVI",
+     [](const CameraRecord &record, const std::string &picture) { return aviOf(record, picture); }},
+};
+
+struct NamedFile {
+    std::string ending, bytes;
+};
+
+NamedFile fileOf(std::size_t index, bool isMixed, const CameraRecord &record,
+                 const std::string &picture) {
+    constexpr std::size_t inTen = 10, jpegsInTen = 7;
+    if (isMixed && index % inTen >= jpegsInTen) {
+        const std::size_t turn = index / inTen * (inTen - jpegsInTen) + index % inTen - jpegsInTen;
+        const OtherFormat &format = otherFormats[turn % std::size(otherFormats)];
+        return {format.ending, format.build(record, picture)};
+    }
+    TiffWriter tiff(record.order);
+    addCameraTags(tiff, record);
+    return {"JPG", withExif(picture, tiff.build())};
+}
+
+int makeFiles(const std::filesystem::path &root, std::size_t count, std::size_t bodySize,
+              bool isMixed) {
     std::filesystem::create_directories(root);
     const int folder = open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     const auto picture = body(bodySize);
@@ -89,11 +134,10 @@ int makeFiles(const std::filesystem::path &root, std::size_t count, std::size_t 
     for (std::size_t i = 0; i < count; ++i) {
         auto exif = record(i);
         exif.thumbnail = thumbnail;
-        TiffWriter tiff(exif.order);
-        addCameraTags(tiff, exif);
+        const NamedFile file = fileOf(i, isMixed, exif, picture);
         char name[32];
-        std::snprintf(name, sizeof name, "IMG_%05zu.JPG", i);
-        if (!writeFile(folder, name, withExif(picture, tiff.build()), exif.wallClock)) {
+        std::snprintf(name, sizeof name, "IMG_%05zu.%s", i, file.ending.c_str());
+        if (!writeFile(folder, name, file.bytes, exif.wallClock)) {
             std::fprintf(stderr, "make_bench_files: cannot write %s\n", name);
             return 1;
         }
@@ -107,10 +151,11 @@ int makeFiles(const std::filesystem::path &root, std::size_t count, std::size_t 
 } // namespace chronomender::tools
 
 int main(int argc, char **argv) {
-    if (argc != 4) {
-        std::fprintf(stderr, "usage: make_bench_files FOLDER COUNT BODY_BYTES\n");
+    const bool isMixed = argc == 5 && std::string_view(argv[4]) == "mixed";
+    if (argc != 4 && !isMixed) {
+        std::fprintf(stderr, "usage: make_bench_files FOLDER COUNT BODY_BYTES [mixed]\n");
         return 2;
     }
     return chronomender::tools::makeFiles(argv[1], std::strtoul(argv[2], nullptr, 10),
-                                          std::strtoul(argv[3], nullptr, 10));
+                                          std::strtoul(argv[3], nullptr, 10), isMixed);
 }
