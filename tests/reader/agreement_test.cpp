@@ -17,7 +17,7 @@ using little::CorpusFile;
 using std::string_literals::operator""s;
 
 constexpr double kShareOverall = 0.97, kShareOfEachKind = 0.90;
-const std::set<std::string> kKinds{"jpeg", "tiff", "raw"};
+const std::set<std::string> kKinds{"jpeg", "tiff", "raw", "heif", "avif", "cr3", "png", "webp"};
 
 /// Why a date that ExifTool shows is none of the reader's, with a little file that shows it.
 struct Rule {
@@ -29,6 +29,13 @@ const std::vector<Rule> kRules{
     // The first Canon raw format keeps Unix seconds in a heap of records.
     {"ciff-native-date", "II\x1A\0\0\0HEAPCCDR\1\0\1\0\x0E\x18\0\0\0\x65\x0A\x40"s, FileFormatRaw},
     // Sigma's raw format keeps "TIME" in a list of UTF-16 properties.
+    // An image sequence has a movie header beside its pictures; its times are not the pictures'.
+    {"image-sequence-header-date",
+     "\0\0\0\x10"
+     "ftypmsf1\0\0\0\0\0\0\0\x1C"
+     "moov\0\0\0\x14"
+     "mvhd\0\0\0\0\xD4\xD3\xA0\x6F\xD4\xD3\xA0\x6F"s,
+     FileFormatHeif},
     {"x3f-native-date", "FOVb\2\0\2\0SECpT\0I\0M\0E\0\0\0001\0000\0000\0\0\0"s, FileFormatRaw},
 };
 
@@ -102,7 +109,17 @@ std::map<std::string, std::string> listedExceptions() {
     return exceptions;
 }
 
+/// Some writers keep Exif as hexadecimal digits in a text chunk of a PNG. Such a value has no bytes
+/// of its own in the file, so nothing could be said about its place.
+bool isHexCoded(const CorpusFile &file) {
+    for (const auto &note : file.entry.value("notes", nlohmann::json::array()))
+        if (note.get<std::string>().find("hex-coded") != std::string::npos)
+            return true;
+    return false;
+}
+
 struct Comparison {
+    int hexCoded = 0; ///< stamps that stand in no plain bytes, and so are not compared
     std::map<std::string, int> compared, equal; ///< by kind, and "overall"
     std::set<std::string> unequal;              ///< "sha256 slot"
 
@@ -128,6 +145,10 @@ void compare(const CorpusFile &file, Comparison &comparison) {
             ADD_FAILURE() << file.path << " has no " << tag.slot << ' ' << ours;
         if (!expected)
             continue;
+        if (value == found.end() && isHexCoded(file)) {
+            ++comparison.hexCoded;
+            continue;
+        }
         comparison.count(file.kind, ours == *expected);
         if (ours != *expected)
             comparison.unequal.insert(file.sha256 + ' ' + tag.slot);
@@ -149,6 +170,7 @@ TEST(Agreement, WithExifToolOnRealFiles) {
         EXPECT_EQ(exceptions.erase(difference), 1u) << "not listed: " << difference;
     for (const auto &[entry, rule] : exceptions)
         ADD_FAILURE() << "listed, but equal or gone: " << entry;
+    std::cout << comparison.hexCoded << " stamps are hex-coded text and not compared\n";
     for (const auto &[kind, compared] : comparison.compared) {
         const int equal = comparison.equal[kind];
         std::cout << kind << ": " << equal << " of " << compared << " stamps equal\n";

@@ -16,6 +16,7 @@ struct CorpusFile {
     std::string path, kind, sha256;
     nlohmann::json exiftool; ///< what ExifTool found, by "Group:Tag"
     nlohmann::json offsets;  ///< where it says that values stand: "tag", "dir", "offset", "length"
+    nlohmann::json entry;    ///< all that the manifest says of the file
 };
 
 /// `CHRONOMENDER_CORPUS`, else the folder beside the source tree. It need not exist.
@@ -33,7 +34,7 @@ inline std::vector<CorpusFile> corpusFiles(const std::filesystem::path &folder) 
         const auto entry = nlohmann::json::parse(line);
         files.push_back({(folder / entry.at("path").get<std::string>()).string(), entry.at("kind"),
                          entry.at("sha256"), entry.value("exiftool", nlohmann::json::object()),
-                         entry.value("offsets", nlohmann::json::array())});
+                         entry.value("offsets", nlohmann::json::array()), entry});
     }
     return files;
 }
