@@ -24,6 +24,21 @@ inline void readAs(std::string_view bytes, FileFormatType format) {
     }
 }
 
+/// Reads the input as a movie of this format.
+inline void readMovieAs(std::string_view bytes, FileFormatType format) {
+    static little::MemoryFile file;
+    static MySingleFolderDataReader reader;
+    if (!file.fill(bytes) || !reader.borrow(file.descriptor()))
+        std::abort();
+    const auto header = reader.readMovieHeader(format);
+    const auto untruth = header ? little::firstUntruth(*header, bytes) : std::nullopt;
+    if (untruth) {
+        std::fprintf(stderr, "%s\n", untruth->c_str());
+        std::abort();
+    }
+    (void)reader.readMovieDetails(format);
+}
+
 inline std::string_view textOf(const std::uint8_t *data, std::size_t size) {
     return {reinterpret_cast<const char *>(data), size};
 }

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "LittleAvi.h"
+#include "LittleMovie.h"
 #include "LittlePhoto.h"
 
 #include <filesystem>
@@ -36,6 +38,23 @@ void writePhotos(const std::filesystem::path &root) {
     write(root / "tiff_walk", "embedded", embeddedJpegRaw().bytes);
 }
 
+void writeMovies(const std::filesystem::path &root) {
+    MovieFields fields{
+        .date = "2020-04-17T10:03:47-0600",
+        .location = "+48.1234+011.5678/",
+        .accuracy = "4.7",
+        .make = "Maker",
+        .userLocation = "+48.1-011.5/",
+        .itemLocation = "-48-011/",
+        .tracks = {videoTrack(320, 240),
+                   metadataTrack("com.apple.quicktime.still-image-time", {{801, -1}, {1, 0}})}};
+    write(root / "quicktime_walk", "version0", movie(fields).bytes);
+    fields.version = 1;
+    fields.isFullMeta = true;
+    write(root / "quicktime_walk", "version1", movie(fields, MoovPlace::First).bytes);
+    write(root / "riff_walk", "avi", avi().bytes);
+}
+
 } // namespace
 
 int main(int count, char **arguments) {
@@ -43,9 +62,14 @@ int main(int count, char **arguments) {
         return 2;
     const std::filesystem::path root = arguments[1];
     writePhotos(root);
+    writeMovies(root);
     int number = 0;
     for (const char *text : {"2024:05:06 07:08:09", "2024: 5: 6  7: 8: 9", "0000:00:00 00:00:00",
                              "    :  :     :  :  ", "+02:00", "-11:30", "2024:05:06"})
         write(root / "stamp_texts", std::to_string(number++), std::string(text) + '\0');
+    for (const char *text :
+         {"2020-04-17T10:03:47-0600", "2020-04-17T10:03:47Z", "2020-04-17T10:03+05:30",
+          "2020-04-17T10:03:47.125", "Thu Jan 20 08:16:08 2022\n", "MON SEP  3 20:52:00 2012\n"})
+        write(root / "movie_stamps", std::to_string(number++), std::string(text) + '\0');
     return 0;
 }

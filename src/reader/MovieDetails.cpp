@@ -17,16 +17,16 @@ struct MovieParts {
     std::vector<ByteRange> tracks;
 };
 
-MovieParts partsOf(const ByteRange &movie) {
+MovieParts partsOf(const ByteRange &movie, const ReadBudget &budget) {
     MovieParts parts;
-    BoxCursor boxes(movie, BoxLevel::Inside, kMostBoxesInside);
+    MovieBoxes boxes(movie, budget);
     while (const auto box = boxes.next()) {
         if (box->type == kBoxMvhd && !parts.header)
             parts.header = box->body;
         else if (box->type == kBoxTrak && parts.tracks.size() < kMostTracks)
             parts.tracks.push_back(box->body);
         else if (box->type == kBoxMeta && parts.items.empty())
-            parts.items = readMetadataItems(box->body);
+            parts.items = readMetadataItems(*box, budget);
         else if (box->type == kBoxUdta && !parts.userData)
             parts.userData = box->body;
     }
@@ -34,21 +34,23 @@ MovieParts partsOf(const ByteRange &movie) {
 }
 
 /// Text of the user data, as QuickTime writes it or as an item of the list inside.
-std::string userText(const std::optional<ByteRange> &userData, std::uint32_t type) {
+std::string userText(const std::optional<ByteRange> &userData, std::uint32_t type,
+                     const ReadBudget &budget) {
     if (!userData)
         return {};
-    if (const auto box = findBox(*userData, type)) {
+    if (const auto box = findBox(*userData, type, budget)) {
         const auto text = readUserDataText(box->body);
         return textOf(text ? &*text : nullptr);
     }
-    const auto meta = findBox(*userData, kBoxMeta);
-    const auto item = meta ? readItemOfType(meta->body, type) : std::nullopt;
+    const auto meta = findBox(*userData, kBoxMeta, budget);
+    const auto item = meta ? readItemOfType(*meta, type, budget) : std::nullopt;
     return textOf(item ? &*item : nullptr);
 }
 
-void takeTracks(const MovieParts &parts, std::uint32_t timeScale, MovieDetails &details) {
+void takeTracks(const MovieParts &parts, std::uint32_t timeScale, const ReadBudget &budget,
+                MovieDetails &details) {
     for (const ByteRange &range : parts.tracks) {
-        const MovieTrack track = readMovieTrack(range, timeScale);
+        const MovieTrack track = readMovieTrack(range, timeScale, budget);
         if (details.width == 0 && details.height == 0) {
             details.width = track.width;
             details.height = track.height;
@@ -65,15 +67,16 @@ MovieDetails readMovieDetails(FileWindow &window) {
     if (isRiffMovie(window))
         return readRiffDetails(window);
     MovieDetails details;
-    const auto movie = findMovieBox(window, false);
+    const ReadBudget budget(window);
+    const auto movie = findMovieBox(window, false, budget);
     if (!movie)
         return details;
-    const MovieParts parts = partsOf(*movie);
+    const MovieParts parts = partsOf(*movie, budget);
     details.make = textOf(find(parts.items, kKeyMake));
     details.model = textOf(find(parts.items, kKeyModel));
     if (details.make.empty() && details.model.empty()) {
-        details.make = userText(parts.userData, kBoxMak);
-        details.model = userText(parts.userData, kBoxMod);
+        details.make = userText(parts.userData, kBoxMak, budget);
+        details.model = userText(parts.userData, kBoxMod, budget);
     }
     details.contentIdentifier = textOf(find(parts.items, kKeyContentIdentifier));
     std::vector<Finding> unused; // the header's own walk tells them
@@ -81,7 +84,7 @@ MovieDetails readMovieDetails(FileWindow &window) {
     if (!header)
         return details;
     details.movDuration = header->duration;
-    takeTracks(parts, header->timeScale, details);
+    takeTracks(parts, header->timeScale, budget, details);
     return details;
 }
 

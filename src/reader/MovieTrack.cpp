@@ -11,9 +11,10 @@ namespace {
 constexpr std::uint32_t kFirstKey = 1; ///< the key that the samples of a still's moment use
 
 /// Goes down from box to box; none where one is missing.
-std::optional<ByteRange> findPath(ByteRange range, std::initializer_list<std::uint32_t> types) {
+std::optional<ByteRange> findPath(ByteRange range, std::initializer_list<std::uint32_t> types,
+                                  const ReadBudget &budget) {
     for (const std::uint32_t type : types) {
-        const auto box = findBox(range, type);
+        const auto box = findBox(range, type, budget);
         if (!box)
             return std::nullopt;
         range = box->body;
@@ -26,14 +27,14 @@ std::size_t versionOf(const ByteRange &fullBox) {
     return version && version->front() != 0 ? 1 : 0;
 }
 
-std::uint32_t handlerOf(const ByteRange &track) {
-    const auto handler = findPath(track, {kBoxMdia, kBoxHdlr});
+std::uint32_t handlerOf(const ByteRange &track, const ReadBudget &budget) {
+    const auto handler = findPath(track, {kBoxMdia, kBoxHdlr}, budget);
     const auto type = handler ? handler->bytes(kHandlerTypeAt, 4) : std::nullopt;
     return type ? number32(*type, ByteOrder::Motorola) : 0;
 }
 
-void takeSize(const ByteRange &track, MovieTrack &result) {
-    const auto header = findBox(track, kBoxTkhd);
+void takeSize(const ByteRange &track, const ReadBudget &budget, MovieTrack &result) {
+    const auto header = findBox(track, kBoxTkhd, budget);
     if (!header)
         return;
     const std::size_t length = kTkhdLengths[versionOf(header->body)];
@@ -45,10 +46,10 @@ void takeSize(const ByteRange &track, MovieTrack &result) {
 }
 
 /// The names of a timed metadata sample's values, each under the number of its key.
-void takeKeys(const ByteRange &keys, MovieTrack &result) {
-    BoxCursor entries(keys, BoxLevel::Inside, kMostBoxesInside);
+void takeKeys(const ByteRange &keys, const ReadBudget &budget, MovieTrack &result) {
+    MovieBoxes entries(keys, budget);
     while (const auto entry = entries.next()) {
-        const auto name = findBox(entry->body, kBoxKeyd);
+        const auto name = findBox(entry->body, kBoxKeyd, budget);
         if (!name || name->body.length() > kLongestMovieText)
             continue;
         const auto bytes = name->body.bytes(0, static_cast<std::size_t>(name->body.length()));
@@ -61,17 +62,18 @@ void takeKeys(const ByteRange &keys, MovieTrack &result) {
     }
 }
 
-void takeTimedMetadata(const ByteRange &track, MovieTrack &result) {
-    const auto descriptions = findPath(track, {kBoxMdia, kBoxMinf, kBoxStbl, kBoxStsd});
+void takeTimedMetadata(const ByteRange &track, const ReadBudget &budget, MovieTrack &result) {
+    const auto descriptions = findPath(track, {kBoxMdia, kBoxMinf, kBoxStbl, kBoxStsd}, budget);
     if (!descriptions)
         return;
     const auto entry =
-        findBox(descriptions->part(kCountedBoxStart, descriptions->length()), kBoxMebx);
+        findBox(descriptions->part(kCountedBoxStart, descriptions->length()), kBoxMebx, budget);
     if (!entry)
         return;
-    const auto keys = findBox(entry->body.part(kSampleEntryStart, entry->body.length()), kBoxKeys);
+    const auto keys =
+        findBox(entry->body.part(kSampleEntryStart, entry->body.length()), kBoxKeys, budget);
     if (keys)
-        takeKeys(keys->body, result);
+        takeKeys(keys->body, budget, result);
 }
 
 /// Whether an edit shows nothing, and for how long, in units of the movie.
@@ -90,8 +92,8 @@ Edit editOf(std::string_view bytes, std::size_t version) {
 }
 
 /// The track's media begins behind the empty edits at its start.
-double firstEditTime(const ByteRange &track, std::uint32_t timeScale) {
-    const auto list = findPath(track, {kBoxEdts, kBoxElst});
+double firstEditTime(const ByteRange &track, std::uint32_t timeScale, const ReadBudget &budget) {
+    const auto list = findPath(track, {kBoxEdts, kBoxElst}, budget);
     if (!list)
         return 0;
     const std::size_t version = versionOf(*list);
@@ -109,15 +111,16 @@ double firstEditTime(const ByteRange &track, std::uint32_t timeScale) {
 
 } // namespace
 
-MovieTrack readMovieTrack(const ByteRange &track, std::uint32_t timeScale) {
+MovieTrack readMovieTrack(const ByteRange &track, std::uint32_t timeScale,
+                          const ReadBudget &budget) {
     MovieTrack result;
-    result.handler = handlerOf(track);
+    result.handler = handlerOf(track, budget);
     if (result.handler == kHandlerVideo)
-        takeSize(track, result);
+        takeSize(track, budget, result);
     else if (result.handler == kHandlerMeta)
-        takeTimedMetadata(track, result);
+        takeTimedMetadata(track, budget, result);
     if (result.isStillImageTime)
-        result.firstEditTime = firstEditTime(track, timeScale);
+        result.firstEditTime = firstEditTime(track, timeScale, budget);
     return result;
 }
 

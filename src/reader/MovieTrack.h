@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "QuickTimeFormat.h"
+#include "QuickTimeHeader.h"
 
 #include <cstdint>
 #include <optional>
@@ -18,6 +18,7 @@ struct MovieTrack {
 };
 
 /// Reads the body of a `trak`. `timeScale` is the movie's, above 0.
-MovieTrack readMovieTrack(const ByteRange &track, std::uint32_t timeScale);
+MovieTrack readMovieTrack(const ByteRange &track, std::uint32_t timeScale,
+                          const ReadBudget &budget);
 
 } // namespace chronomender

@@ -19,11 +19,13 @@ bool isZero(const LocatedBytes &time) {
 
 class HeaderWalk {
 public:
+    explicit HeaderWalk(const ReadBudget &budget) : m_budget(budget) {}
+
     void visit(const Box &box) {
         if (box.type == kBoxMvhd && !m_hasSeenMvhd)
             takeMvhd(box.body);
         else if (box.type == kBoxMeta && !m_hasSeenMeta)
-            takeMeta(box.body);
+            takeMeta(box);
         else if (box.type == kBoxUdta && !m_hasSeenUdta)
             takeUserData(box.body);
     }
@@ -44,8 +46,8 @@ private:
         m_mvhd = readMVHDData(body, m_header.findings);
     }
 
-    void takeMeta(const ByteRange &body) {
-        const auto items = readMetadataItems(body);
+    void takeMeta(const Box &meta) {
+        const auto items = readMetadataItems(meta, m_budget);
         m_hasSeenMeta = !items.empty();
         if (const LocatedBytes *date = find(items, kKeyCreationDate)) {
             if (isValidQtCreationDateData(date->data))
@@ -61,11 +63,11 @@ private:
 
     void takeUserData(const ByteRange &body) {
         m_hasSeenUdta = true;
-        if (const auto xyz = findBox(body, kBoxXyz); xyz && xyz->isComplete)
+        if (const auto xyz = findBox(body, kBoxXyz, m_budget); xyz && xyz->isComplete)
             if (const auto text = readUserDataText(xyz->body))
                 takeLocation(Place::UserData, *text);
-        if (const auto meta = findBox(body, kBoxMeta))
-            if (const auto text = readItemOfType(meta->body, kBoxXyz))
+        if (const auto meta = findBox(body, kBoxMeta, m_budget))
+            if (const auto text = readItemOfType(*meta, kBoxXyz, m_budget))
                 takeLocation(Place::UserDataItems, *text);
     }
 
@@ -101,6 +103,7 @@ private:
         return hasModification ? MovieType::ModificationOnly : MovieType::Empty;
     }
 
+    const ReadBudget &m_budget;
     bool m_hasSeenMvhd = false, m_hasSeenMeta = false, m_hasSeenUdta = false;
     std::optional<MvhdData> m_mvhd;
     MovieHeader m_header;
@@ -109,11 +112,12 @@ private:
 } // namespace
 
 std::optional<MovieHeader> readQuicktimeHeader(FileWindow &window, bool mustBeginWithFtyp) {
-    const auto movie = findMovieBox(window, mustBeginWithFtyp);
+    const ReadBudget budget(window);
+    const auto movie = findMovieBox(window, mustBeginWithFtyp, budget);
     if (!movie)
         return std::nullopt;
-    HeaderWalk walk;
-    BoxCursor boxes(*movie, BoxLevel::Inside, kMostBoxesInside);
+    HeaderWalk walk(budget);
+    MovieBoxes boxes(*movie, budget);
     for (auto box = boxes.next(); box && !walk.isDone(); box = boxes.next())
         walk.visit(*box);
     return walk.result();

@@ -147,9 +147,8 @@ std::optional<MovieHeader> MySingleFolderDataReader::readMovieHeader(FileFormatT
                : readQuicktimeHeader(m_file->window, format != FileFormatQuickTime);
 }
 
-MovieDetails MySingleFolderDataReader::readMovieDetails(FileFormatType format) {
-    return m_file && format != FileFormatOtherMovie ? chronomender::readMovieDetails(m_file->window)
-                                                    : MovieDetails();
+MovieDetails MySingleFolderDataReader::readMovieDetails(FileFormatType /*format*/) {
+    return m_file ? chronomender::readMovieDetails(m_file->window) : MovieDetails();
 }
 
 std::optional<InternalPreview> MySingleFolderDataReader::readInternalPreview() {

@@ -21,7 +21,7 @@ inline constexpr std::uint32_t kBoxFtyp = boxType("ftyp"), kBoxMoov = boxType("m
                                kBoxMebx = boxType("mebx"), kBoxKeyd = boxType("keyd"),
                                kBoxMeta = boxType("meta"), kBoxKeys = boxType("keys"),
                                kBoxIlst = boxType("ilst"), kBoxData = boxType("data"),
-                               kBoxUdta = boxType("udta"), kBoxFree = boxType("free");
+                               kBoxUdta = boxType("udta");
 
 /// User data whose type begins with the copyright sign.
 inline constexpr std::uint32_t kBoxXyz = boxType("\xA9xyz"), kBoxMak = boxType("\xA9mak"),

@@ -48,8 +48,17 @@ std::optional<MvhdData> dataOf(const ByteRange &body, const MvhdLayout &layout) 
 
 } // namespace
 
-std::optional<ByteRange> findMovieBox(FileWindow &window, bool mustBeginWithFtyp) {
-    BoxCursor boxes(ByteRange(window), BoxLevel::TopLevel, kMostTopLevelBoxes);
+std::optional<Box> findBox(const ByteRange &range, std::uint32_t type, const ReadBudget &budget) {
+    MovieBoxes boxes(range, budget);
+    while (auto box = boxes.next())
+        if (box->type == type)
+            return box;
+    return std::nullopt;
+}
+
+std::optional<ByteRange> findMovieBox(FileWindow &window, bool mustBeginWithFtyp,
+                                      const ReadBudget &budget) {
+    MovieBoxes boxes(ByteRange(window), budget, BoxLevel::TopLevel);
     bool isFirst = true;
     while (const auto box = boxes.next()) {
         if (isFirst && mustBeginWithFtyp && box->type != kBoxFtyp)

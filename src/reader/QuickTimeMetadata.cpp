@@ -10,25 +10,12 @@ namespace {
 
 constexpr std::array kUsedKeys{kKeyCreationDate, kKeyLocation, kKeyAccuracy,
                                kKeyMake,         kKeyModel,    kKeyContentIdentifier};
-constexpr std::array kKnownChildren{kBoxHdlr, kBoxKeys, kBoxIlst, kBoxFree};
 
 /// A key of the table and its number, by which an item names it.
 struct NumberedKey {
     std::uint32_t number;
     std::string_view name;
 };
-
-/// Children of a `meta`. It is a full box in ISO files and a plain one in QuickTime files, so they
-/// begin behind four more bytes or at once, wherever a child that is known can be seen.
-ByteRange childrenOf(const ByteRange &meta) {
-    for (const std::uint64_t start : {std::uint64_t{0}, std::uint64_t{kFullBoxStart}}) {
-        const auto type = meta.bytes(start + 4, 4);
-        const std::uint32_t number = type ? number32(*type, ByteOrder::Motorola) : 0;
-        if (std::ranges::find(kKnownChildren, number) != kKnownChildren.end())
-            return meta.part(start, meta.length());
-    }
-    return meta.part(0, 0);
-}
 
 std::optional<Bytes> shortBytes(const ByteRange &range) {
     if (range.length() > kLongestMovieText)
@@ -37,10 +24,9 @@ std::optional<Bytes> shortBytes(const ByteRange &range) {
     return bytes ? std::optional(Bytes(*bytes)) : std::nullopt;
 }
 
-std::vector<NumberedKey> usedKeys(const ByteRange &keys) {
+std::vector<NumberedKey> usedKeys(const ByteRange &keys, const ReadBudget &budget) {
     std::vector<NumberedKey> used;
-    BoxCursor entries(keys.part(kCountedBoxStart, keys.length()), BoxLevel::Inside,
-                      kMostBoxesInside);
+    MovieBoxes entries(keys.part(kCountedBoxStart, keys.length()), budget);
     for (std::uint32_t number = 1; const auto entry = entries.next(); ++number) {
         const auto name = shortBytes(entry->body);
         const auto known = name ? std::ranges::find(kUsedKeys, *name) : kUsedKeys.end();
@@ -50,10 +36,9 @@ std::vector<NumberedKey> usedKeys(const ByteRange &keys) {
     return used;
 }
 
-} // namespace
-
-std::optional<LocatedBytes> readItemValue(const ByteRange &item) {
-    const auto data = findBox(item, kBoxData);
+/// The value of an item of `ilst`, from its `data`.
+std::optional<LocatedBytes> readItemValue(const ByteRange &item, const ReadBudget &budget) {
+    const auto data = findBox(item, kBoxData, budget);
     if (!data || !data->isComplete || data->body.length() < kDataValueAt)
         return std::nullopt;
     const ByteRange value = data->body.part(kDataValueAt, data->body.length());
@@ -64,20 +49,22 @@ std::optional<LocatedBytes> readItemValue(const ByteRange &item) {
     return LocatedBytes{value.absolute(0), room, *std::move(bytes)};
 }
 
-std::vector<MetadataItem> readMetadataItems(const ByteRange &meta) {
+} // namespace
+
+std::vector<MetadataItem> readMetadataItems(const Box &meta, const ReadBudget &budget) {
     std::vector<MetadataItem> items;
-    const ByteRange children = childrenOf(meta);
-    const auto keys = findBox(children, kBoxKeys);
-    const auto list = keys ? findBox(children, kBoxIlst) : std::nullopt;
+    const ByteRange children = metaChildren(meta);
+    const auto keys = findBox(children, kBoxKeys, budget);
+    const auto list = keys ? findBox(children, kBoxIlst, budget) : std::nullopt;
     if (!list)
         return items;
-    const std::vector<NumberedKey> used = usedKeys(keys->body);
-    BoxCursor entries(list->body, BoxLevel::Inside, kMostBoxesInside);
+    const std::vector<NumberedKey> used = usedKeys(keys->body, budget);
+    MovieBoxes entries(list->body, budget);
     while (const auto entry = entries.next()) {
         const auto key = std::ranges::find(used, entry->type, &NumberedKey::number);
         if (key == used.end() || find(items, key->name))
             continue;
-        if (auto value = readItemValue(entry->body))
+        if (auto value = readItemValue(entry->body, budget))
             items.push_back({key->name, *std::move(value)});
     }
     return items;
@@ -104,10 +91,11 @@ std::optional<LocatedBytes> readUserDataText(const ByteRange &body) {
     return LocatedBytes{text.absolute(0), isDeclared ? declared : 0, *std::move(bytes)};
 }
 
-std::optional<LocatedBytes> readItemOfType(const ByteRange &meta, std::uint32_t type) {
-    const auto list = findBox(childrenOf(meta), kBoxIlst);
-    const auto item = list ? findBox(list->body, type) : std::nullopt;
-    return item ? readItemValue(item->body) : std::nullopt;
+std::optional<LocatedBytes> readItemOfType(const Box &meta, std::uint32_t type,
+                                           const ReadBudget &budget) {
+    const auto list = findBox(metaChildren(meta), kBoxIlst, budget);
+    const auto item = list ? findBox(list->body, type, budget) : std::nullopt;
+    return item ? readItemValue(item->body, budget) : std::nullopt;
 }
 
 std::string textOf(const LocatedBytes *value) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "LocatedBytes.h"
-#include "QuickTimeFormat.h"
+#include "QuickTimeHeader.h"
 
 #include <vector>
 
@@ -14,9 +14,9 @@ struct MetadataItem {
     LocatedBytes value;
 };
 
-/// The values of a `meta` body with `keys` and `ilst`, in the order of the keys; each key once.
+/// The values of a `meta` with `keys` and `ilst`, in the order of the keys; each key once.
 /// Empty without either of the two.
-std::vector<MetadataItem> readMetadataItems(const ByteRange &meta);
+std::vector<MetadataItem> readMetadataItems(const Box &meta, const ReadBudget &budget);
 
 /// The value under a key; null without one.
 const LocatedBytes *find(const std::vector<MetadataItem> &items, std::string_view key);
@@ -25,11 +25,10 @@ const LocatedBytes *find(const std::vector<MetadataItem> &items, std::string_vie
 /// declares; a length that the box cannot hold leaves the text without any room.
 std::optional<LocatedBytes> readUserDataText(const ByteRange &body);
 
-/// The value of an item of `ilst`, from its `data`; none without one or when it is unusually long.
-std::optional<LocatedBytes> readItemValue(const ByteRange &item);
-
-/// The item of a type in the `ilst` of a `meta` body; none without one.
-std::optional<LocatedBytes> readItemOfType(const ByteRange &meta, std::uint32_t type);
+/// The item of a type in the `ilst` of a `meta`; none without one or with
+/// an unusually long value.
+std::optional<LocatedBytes> readItemOfType(const Box &meta, std::uint32_t type,
+                                           const ReadBudget &budget);
 
 /// The characters in front of the first zero byte; "" for an absent value.
 std::string textOf(const LocatedBytes *value);

@@ -23,23 +23,26 @@ struct RiffChunk {
     bool isComplete = true; ///< false: the chunk claims more than its surroundings have
 };
 
-/// Walks the chunks of a range one after the other; ends behind `mostChunks`.
+/// Walks the chunks of a range one after the other, as long as what the walk may read lasts.
 class RiffCursor {
 public:
-    explicit RiffCursor(const ByteRange &range, unsigned mostChunks = kMostRiffChunks)
-        : m_range(range), m_chunksLeft(mostChunks) {}
+    RiffCursor(const ByteRange &range, const ReadBudget &budget)
+        : m_range(range), m_budget(&budget) {}
 
     std::optional<RiffChunk> next();
 
 private:
     ByteRange m_range;
-    unsigned m_chunksLeft;
+    const ReadBudget *m_budget; ///< not owned
+    unsigned m_chunksLeft = kMostRiffChunks;
     std::uint64_t m_at = 0;
 };
 
 /// The first chunk of a type; none without one.
-std::optional<RiffChunk> findChunk(const ByteRange &range, std::uint32_t type);
+std::optional<RiffChunk> findChunk(const ByteRange &range, std::uint32_t type,
+                                   const ReadBudget &budget);
 /// The chunks inside the first list of a type; none without one.
-std::optional<ByteRange> findList(const ByteRange &range, std::uint32_t listType);
+std::optional<ByteRange> findList(const ByteRange &range, std::uint32_t listType,
+                                  const ReadBudget &budget);
 
 } // namespace chronomender

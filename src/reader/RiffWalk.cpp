@@ -35,9 +35,9 @@ std::optional<ByteRange> movieChunks(FileWindow &window) {
     return file.part(kRiffHeaderLength, length).from(kRiffTypeLength);
 }
 
-std::string infoText(const ByteRange &movie) {
-    const auto info = findList(movie, kListInfo);
-    const auto software = info ? findChunk(*info, kChunkSoftware) : std::nullopt;
+std::string infoText(const ByteRange &movie, const ReadBudget &budget) {
+    const auto info = findList(movie, kListInfo, budget);
+    const auto software = info ? findChunk(*info, kChunkSoftware, budget) : std::nullopt;
     if (!software || software->body.length() > kLongestInfo)
         return {};
     const auto text = software->body.bytes(0, static_cast<std::size_t>(software->body.length()));
@@ -50,15 +50,15 @@ std::uint32_t intelNumber(std::string_view bytes, std::size_t at) {
 
 /// Seconds of the picture stream: its length counts frames over the whole file, also where the
 /// movie goes on in further forms.
-double videoDuration(const ByteRange &header) {
-    RiffCursor chunks(header);
+double videoDuration(const ByteRange &header, const ReadBudget &budget) {
+    RiffCursor chunks(header, budget);
     while (const auto chunk = chunks.next()) {
         const auto type =
             chunk->type == boxType("LIST") ? chunk->body.bytes(0, kRiffTypeLength) : std::nullopt;
         if (!type || number32(*type, ByteOrder::Motorola) != kListStream)
             continue;
-        const auto stream =
-            findChunk(chunk->body.part(kRiffTypeLength, chunk->body.length()), kChunkStreamHeader);
+        const auto stream = findChunk(chunk->body.part(kRiffTypeLength, chunk->body.length()),
+                                      kChunkStreamHeader, budget);
         const auto bytes = stream ? stream->body.bytes(0, kStreamHeaderLength) : std::nullopt;
         if (!bytes || number32(*bytes, ByteOrder::Motorola) != kVideoStream)
             continue;
@@ -77,9 +77,10 @@ bool isRiffMovie(FileWindow &window) {
 }
 
 std::optional<MovieHeader> readRiffHeader(FileWindow &window) {
+    const ReadBudget budget(window);
     const auto movie = movieChunks(window);
-    const auto header = movie ? findList(*movie, kListHeader) : std::nullopt;
-    const auto date = header ? findChunk(*header, kChunkDate) : std::nullopt;
+    const auto header = movie ? findList(*movie, kListHeader, budget) : std::nullopt;
+    const auto date = header ? findChunk(*header, kChunkDate, budget) : std::nullopt;
     if (!date || !date->isComplete || date->body.length() != kRiffDateLength)
         return std::nullopt;
     const auto bytes = date->body.bytes(0, kRiffDateLength);
@@ -88,22 +89,23 @@ std::optional<MovieHeader> readRiffHeader(FileWindow &window) {
     MovieHeader result;
     result.movieType = MovieType::Riff;
     result.riffCreaDate = LocatedBytes{date->body.absolute(0), kRiffDateLength, Bytes(*bytes)};
-    result.infoString = infoText(*movie);
+    result.infoString = infoText(*movie, budget);
     return result;
 }
 
 MovieDetails readRiffDetails(FileWindow &window) {
     MovieDetails details;
+    const ReadBudget budget(window);
     const auto movie = movieChunks(window);
-    const auto header = movie ? findList(*movie, kListHeader) : std::nullopt;
+    const auto header = movie ? findList(*movie, kListHeader, budget) : std::nullopt;
     if (!header)
         return details;
-    if (const auto main = findChunk(*header, kChunkMovieHeader))
+    if (const auto main = findChunk(*header, kChunkMovieHeader, budget))
         if (const auto bytes = main->body.bytes(0, kAviHeaderLength)) {
             details.width = static_cast<std::int32_t>(intelNumber(*bytes, kAviWidthAt));
             details.height = static_cast<std::int32_t>(intelNumber(*bytes, kAviWidthAt + 4));
         }
-    details.movDuration = videoDuration(*header);
+    details.movDuration = videoDuration(*header, budget);
     return details;
 }
 

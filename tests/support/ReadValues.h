@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DatesData.h"
+#include "MovieData.h"
 
 #include <map>
 #include <optional>
@@ -38,13 +39,32 @@ inline std::map<std::string, LocatedBytes> valuesByName(const DatesData &dates) 
     return values;
 }
 
+/// The same for a movie.
+inline std::map<std::string, LocatedBytes> valuesByName(const MovieHeader &header) {
+    std::map<std::string, LocatedBytes> values;
+    const auto add = [&](std::string name, const std::optional<LocatedBytes> &value) {
+        if (value)
+            values[std::move(name)] = *value;
+    };
+    add("creaDate", header.creaDate);
+    add("modDate", header.modDate);
+    add("QtCreationdate", header.qtCreationDate);
+    add("riffCreaDate", header.riffCreaDate);
+    for (std::size_t i = 0; i < header.qtLocations.size(); ++i) {
+        add("location" + std::to_string(i), header.qtLocations[i].value);
+        add("accuracy" + std::to_string(i), header.qtLocations[i].hAccuracy);
+    }
+    return values;
+}
+
 /// The first value whose bytes do not stand in the file where the reader says, or that has room
 /// behind the file's end. The zero byte that ends a full stamp is the reader's own.
-inline std::optional<std::string> firstUntruth(const DatesData &dates, std::string_view file) {
+template<class Read>
+std::optional<std::string> firstUntruth(const Read &read, std::string_view file) {
     constexpr std::size_t kTerminatedStamp = 20;
-    for (const auto &[name, value] : valuesByName(dates)) {
+    for (const auto &[name, value] : valuesByName(read)) {
         std::string_view data = value.data;
-        if (data.size() == kTerminatedStamp)
+        if (data.size() == kTerminatedStamp && data.back() == '\0')
             data.remove_suffix(1);
         if (value.offset > file.size() || file.substr(value.offset, data.size()) != data)
             return name + " does not stand at " + std::to_string(value.offset);
