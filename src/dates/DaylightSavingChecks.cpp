@@ -22,6 +22,14 @@ bool isLocalStamp(const MySinglePic &pic, StampSlot slot) {
     return !pic.isSlotXmp(slot) && !pic.zoneStamp(slot);
 }
 
+/// A movie's date that stands in its file as a wall clock without a zone.
+bool isLocalMovieDate(const MySinglePic &pic) {
+    const MySingleFolderPtr folder = pic.spSingleRealFolder();
+    return pic.spType == SpTypeMovieRiff ||
+           (isInRange(pic.spType, SpTypeMovieMvhdCreation, SpTypeMovieEmptyFixedDate) && folder &&
+            folder->isQuicktimeMVHDTimezoneCorrectionEnabled);
+}
+
 struct Verdict {
     bool isDivergent = false; ///< the date no longer turns back into the wall clock of the file
     bool isAmbiguous = false;
@@ -87,11 +95,12 @@ bool isDSTAmbiguityAtExportPossibleForDate(Date date, const absl::TimeZone &zone
 
 bool hasDSTAmbiguityForDate(const MySinglePic &pic, Date date, ExportDate which,
                             const absl::TimeZone &zone, DSTPreFilter preFilter) {
-    if (!isInRange(pic.spType, SpTypeExifOriginal, SpTypeEmptyTiffFixedDate) || isMarker(date))
+    const bool isPhoto = isInRange(pic.spType, SpTypeExifOriginal, SpTypeEmptyTiffFixedDate);
+    if (isMarker(date) || (!isPhoto && !isLocalMovieDate(pic)))
         return false;
     if (preFilter == DSTPreFilter::On && !isDSTAmbiguityAtExportPossibleForDate(date, zone))
         return false;
-    if (!isLocalStamp(pic, slotFor(which, pic.spType)))
+    if (isPhoto && !isLocalStamp(pic, slotFor(which, pic.spType)))
         return false;
     const Date readAgain = instantFromCivil(civilFromInstant(date, zone), zone);
     return distance(readAgain, date) > roundTripTolerance;

@@ -3,8 +3,11 @@
 
 #include "DaylightSavingChecks.h"
 #include "ItemDates.h"
+#include "MovieStampConversions.h"
 #include "StampConversions.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace chronomender {
@@ -52,6 +55,15 @@ void readSlotAgain(MySinglePic &pic, StampSlot slot, const absl::TimeZone &zone)
         pic.spDateTimeOriginal = *date;
 }
 
+/// Types that take their main date from a modification stamp, or from the file while that is the
+/// younger.
+struct ExchangedRoles {
+    SpType ofStamp, ofFile;
+};
+constexpr std::array<ExchangedRoles, 2> kExchangedRoles{
+    {{SpTypeTiffDateTime, SpTypeTiffYoungerThanFile},
+     {SpTypeMovieMvhdModification, SpTypeMovieMvhdYoungerThanFile}}};
+
 /// A modification stamp and the file date change places as the main date, depending on which is
 /// the younger.
 void exchangeRolesWithFileDate(MySinglePic &pic, int dateComparisonThresold) {
@@ -60,13 +72,59 @@ void exchangeRolesWithFileDate(MySinglePic &pic, int dateComparisonThresold) {
         return;
     const bool isYounger =
         isSourceMetaModAndYoungerThanFileCrea(pic, *stampDate, dateComparisonThresold);
-    if (pic.spType == SpTypeTiffYoungerThanFile && !isYounger) {
-        pic.spType = SpTypeTiffDateTime;
+    const auto *const roles = std::ranges::find_if(kExchangedRoles, [&](const auto &each) {
+        return pic.spType == each.ofStamp || pic.spType == each.ofFile;
+    });
+    if (roles == kExchangedRoles.end())
+        return;
+    if (pic.spType == roles->ofFile && !isYounger) {
+        pic.spType = roles->ofStamp;
         pic.spDateTimeOriginal = *stampDate;
-    } else if (pic.spType == SpTypeTiffDateTime && isYounger) {
-        pic.spType = SpTypeTiffYoungerThanFile;
+    } else if (pic.spType == roles->ofStamp && isYounger) {
+        pic.spType = roles->ofFile;
         pic.spDateTimeOriginal = *pic.slots.fileCreationDateOLD;
     }
+}
+
+void readRiffDateAgain(MySinglePic &pic, const absl::TimeZone &zone) {
+    const auto &stamp = pic.singlePicAttributes.riffCreaDate;
+    const OptionalDate date = stamp ? dateFromRIFFTimeStamp(stamp->data, zone) : std::nullopt;
+    if (!date)
+        return;
+    pic.slots.exifDateTimeOriginalOLD = date;
+    pic.spDateTimeOriginal = *date;
+}
+
+/// The header's times in the folder's present understanding of them.
+void readHeaderTimesAgain(MySinglePic &pic, MvhdCorrection correction, const absl::TimeZone &zone) {
+    const SinglePicAttributes &read = pic.singlePicAttributes;
+    const auto dateOf = [&](const std::optional<LocatedBytes> &value) {
+        return value ? finalDateFromMVHDData(value->data, correction, zone) : std::nullopt;
+    };
+    if (const OptionalDate date = dateOf(read.qtMvhdCreaDate)) {
+        pic.slots.exifDateTimeOriginalOLD = date;
+        pic.spDateTimeOriginal = *date;
+    }
+    if (const OptionalDate date = dateOf(read.qtMvhdModDate)) {
+        pic.slots.tiffDateTimeOLD = date;
+        if (pic.spType == SpTypeMovieMvhdModification)
+            pic.spDateTimeOriginal = *date;
+    }
+}
+
+void readStampsAgain(MySinglePic &pic, const MySingleFolder &folder, const absl::TimeZone &zone,
+                     int dateComparisonThresold) {
+    if (isInRange(pic.spType, SpTypeExifOriginal, SpTypeTiffYoungerThanFile)) {
+        for (StampSlot slot : stampSlots)
+            readSlotAgain(pic, slot, zone);
+    } else if (pic.spType == SpTypeMovieRiff) {
+        readRiffDateAgain(pic, zone);
+    } else if (isInRange(pic.spType, SpTypeMovieMvhdCreation, SpTypeMovieMvhdYoungerThanFile)) {
+        readHeaderTimesAgain(pic, MvhdCorrection{folder.isQuicktimeMVHDTimezoneCorrectionEnabled},
+                             zone);
+    }
+    if (isEligibleForYoungerThanFile(pic.spType))
+        exchangeRolesWithFileDate(pic, dateComparisonThresold);
 }
 
 /// An alternative reading chosen earlier stays only where the stamp still means two instants.
@@ -87,11 +145,7 @@ bool updateAllDatesAfterUpdatingTimezoneUsingTimeZone(MySinglePic &pic, const Zo
                                                       const Zones &zones,
                                                       int dateComparisonThresold) {
     const SeenDates before = seenDates(pic);
-    if (isInRange(pic.spType, SpTypeExifOriginal, SpTypeTiffYoungerThanFile)) {
-        for (StampSlot slot : stampSlots)
-            readSlotAgain(pic, slot, sourceZone.rules);
-        exchangeRolesWithFileDate(pic, dateComparisonThresold);
-    }
+    readStampsAgain(pic, folder, sourceZone.rules, dateComparisonThresold);
     bool didDependentChange = false;
     if (const MySinglePicPtr &dependent = pic.group.bundleDependentImage)
         didDependentChange = updateAllDatesAfterUpdatingTimezoneUsingTimeZone(

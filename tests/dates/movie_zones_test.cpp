@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DaylightSavingChecks.h"
+#include "MovieStampConversions.h"
+#include "ZoneSteps.h"
+
+namespace chronomender {
+namespace {
+
+using namespace little;
+
+/// A movie whose header was written at noon of a wall clock.
+class MovieZones : public ZonesTest {
+protected:
+    void SetUp() override {
+        pic->spType = SpTypeMovieMvhdCreation;
+        setTime(pic->singlePicAttributes.qtMvhdCreaDate, utc(2024, 6, 1, 12));
+        setTime(pic->singlePicAttributes.qtMvhdModDate, utc(2024, 6, 1, 13));
+        pic->slots.fileCreationDateOLD = utc(2024, 6, 1, 12, 30);
+    }
+    static void setTime(std::optional<LocatedBytes> &value, Date date) {
+        value =
+            LocatedBytes{100, 4, *mvhdDataFromDate(date, MvhdCorrection::Off, absl::UTCTimeZone())};
+    }
+    bool update() { return updateAllDatesAfterUpdatingTimezone(*pic, *folder, zones, 3); }
+};
+
+TEST_F(MovieZones, headerTimesMoveWithTheZoneOnlyWhereTheyAreLocal) {
+    assign("Asia/Tokyo", "");
+    update();
+    EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 12));
+    folder->isQuicktimeMVHDTimezoneCorrectionEnabled = true;
+    EXPECT_TRUE(update());
+    EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 3));
+    EXPECT_EQ(pic->slots.tiffDateTimeOLD, utc(2024, 6, 1, 4));
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
+}
+
+TEST_F(MovieZones, aLoneModificationTimeGivesWayToAnOlderFile) {
+    pic->singlePicAttributes.qtMvhdCreaDate.reset();
+    pic->spType = SpTypeMovieMvhdModification;
+    update();
+    EXPECT_EQ(pic->spType, SpTypeMovieMvhdYoungerThanFile);
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 12, 30));
+    EXPECT_EQ(pic->slots.tiffDateTimeOLD, utc(2024, 6, 1, 13));
+    // Read in Tokyo the time lies before the file's, and counts again.
+    assign("Asia/Tokyo", "");
+    folder->isQuicktimeMVHDTimezoneCorrectionEnabled = true;
+    update();
+    EXPECT_EQ(pic->spType, SpTypeMovieMvhdModification);
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 4));
+}
+
+TEST_F(MovieZones, aRiffDateIsAlwaysLocal) {
+    pic->spType = SpTypeMovieRiff;
+    pic->singlePicAttributes.riffCreaDate = located("Sat Jun 01 12:00:00 2024\n");
+    assign("Asia/Tokyo", "");
+    EXPECT_TRUE(update());
+    EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 3));
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
+}
+
+TEST_F(MovieZones, metadataDatesAndEmptyTimesDoNotMove) {
+    folder->isQuicktimeMVHDTimezoneCorrectionEnabled = true;
+    assign("Asia/Tokyo", "");
+    for (const SpType type : {SpTypeMovieMdta, SpTypeMovieEmptyFileDate, SpTypeMovieEmptyFixedDate,
+                              SpTypeMovieFileDate}) {
+        pic->spType = type;
+        pic->slots.exifDateTimeOriginalOLD = pic->spDateTimeOriginal = utc(2024, 6, 1, 10);
+        update();
+        EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 10)) << int(type);
+    }
+}
+
+TEST_F(MovieZones, aWallClockThatOccursTwiceIsAmbiguousWhereItIsWritten) {
+    const Date firstReading = utc(2024, 10, 27, 0, 30); // 02:30 in Berlin, for the first time
+    const auto isAmbiguous = [&](SpType type, bool correction) {
+        pic->spType = type;
+        folder->isQuicktimeMVHDTimezoneCorrectionEnabled = correction;
+        return hasDSTAmbiguityForDate(*pic, firstReading, ExportDate::Main,
+                                      zone("Europe/Berlin").rules, DSTPreFilter::On);
+    };
+    EXPECT_TRUE(isAmbiguous(SpTypeMovieRiff, false));
+    EXPECT_TRUE(isAmbiguous(SpTypeMovieMvhdCreation, true));
+    EXPECT_FALSE(isAmbiguous(SpTypeMovieMvhdCreation, false));
+    EXPECT_FALSE(isAmbiguous(SpTypeMovieMdta, true));
+}
+
+} // namespace
+} // namespace chronomender
