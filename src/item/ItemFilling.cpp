@@ -4,7 +4,10 @@
 #include "ItemDates.h"
 #include "MySingleFolderDataReader.h"
 #include "StampConversions.h"
+#include "XmpFilling.h"
 #include "ZoneLookup.h"
+
+#include <utility>
 
 namespace chronomender {
 namespace {
@@ -97,6 +100,9 @@ void cleanupBeforeRefreshInternalData(MySinglePic &pic) {
         value->reset();
     attributes.gpsTimeStamp.reset();
     attributes.gpsLocation.reset();
+    attributes.xmpDateInfos = {};
+    if (std::exchange(pic.location.isGpsXmp, false))
+        pic.location.spGpsUTCDate.reset();
     attributes.xmpHeaderStartOffset.reset();
     attributes.cr3XmpOffset.reset();
 }
@@ -113,15 +119,19 @@ void takeLivePhotoMarks(LivePhotoState &livePhoto, std::optional<LivePhotoMarks>
 } // namespace
 
 void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
-                                        const MySingleFolder &folder, const Zones &zones) {
+                                        const MySingleFolder &folder, const Zones &zones,
+                                        XmpDateInfos xmp) {
     SinglePicAttributes &attributes = pic.singlePicAttributes;
+    const Zone &zone = sourceTimeZoneForPic(pic, folder, zones);
+    if (!xmp.isEmpty())
+        setImageAttributesFromXmpDatesData(pic, std::move(xmp), dates.tiffDateTime.has_value(),
+                                           zone.rules);
     takeStamp(attributes.exifDateTimeOriginal, attributes.exifOffsetTimeOriginal,
               std::move(dates.exifDateTimeOriginal), std::move(dates.exifOffsetTimeOriginal));
     takeStamp(attributes.exifDateTimeDigitized, attributes.exifOffsetTimeDigitized,
               std::move(dates.exifDateTimeDigitized), std::move(dates.exifOffsetTimeDigitized));
     takeStamp(attributes.tiffDateTime, attributes.tiffOffsetTime, std::move(dates.tiffDateTime),
               std::move(dates.exifOffsetTiffTime));
-    const Zone &zone = sourceTimeZoneForPic(pic, folder, zones);
     for (const StampSlot slot : stampSlots)
         setSlotFromStamp(pic, slot, zone.rules);
 
@@ -188,9 +198,20 @@ bool refreshInternalData(MySinglePic &pic, const MySingleFolder &folder, const Z
     MySingleFolderDataReader reader;
     if (!attributes || !reader.borrow(file->descriptor()))
         return false;
+    const std::string extension = pic.extension();
+    DatesData dates = reader.readDates(pic.fileFormatType, extension);
+    auto xmp = isXmpRead(dates, pic.fileFormatType)
+                   ? reader.readXmpDates(pic.fileFormatType, extension, dates)
+                   : std::nullopt;
+    XmpLocation xmpLocation = std::exchange(pic.singlePicAttributes.xmpLocation, {});
+    if (!xmpLocation.isEmpty())
+        xmpLocation = reader.readXmpLocation(pic.fileFormatType, extension, dates);
     cleanupBeforeRefreshInternalData(pic);
-    setImageAttributesFromTheDatesData(pic, reader.readDates(pic.fileFormatType, pic.extension()),
-                                       folder, zones);
+    setImageAttributesFromTheDatesData(pic, std::move(dates), folder, zones,
+                                       std::move(xmp).value_or(XmpDateInfos()));
+    addRelevantXmpInfos(pic, std::move(xmpLocation));
+    if (!pic.hasLocation())
+        setLocationFromXmp(pic, pic.relevantSidecarInfos.location);
     takeFileAttributes(pic, *attributes);
     return true;
 }

@@ -8,9 +8,11 @@
 
 namespace chronomender {
 
-/// Fills the item's attributes, OLD slots, zone and GPS values from what the reader found.
+/// Fills the item's attributes, OLD slots, zone and GPS values from what the reader found. `xmp`
+/// is what was read of the file's packet, where the rule of `isXmpRead` asks for it.
 void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
-                                        const MySingleFolder &folder, const Zones &zones);
+                                        const MySingleFolder &folder, const Zones &zones,
+                                        XmpDateInfos xmp = {});
 /// Stores size and times of the file, takes the two file-date slots, and moves a type whose
 /// modification stamp is younger than the file. Runs after the stamps are in.
 void setImageAttributesFromFileAttributes(MySinglePic &pic, const FileAttributes &attributes,
@@ -21,6 +23,8 @@ void takeFileAttributes(MySinglePic &pic, const FileAttributes &now);
 void validateMetaNormalization(MySinglePic &pic);
 void validateFilesystemNormalization(MySinglePic &pic);
 
+/// Coordinates within their ranges; 0/0 means that a receiver had none.
+bool isUsableLocation(double latitude, double longitude);
 /// Coordinates from the recorded GPS values; a location at 0/0 or out of range is none.
 void setLocationFromData(MySinglePic &pic);
 

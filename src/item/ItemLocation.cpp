@@ -38,6 +38,11 @@ bool isWithin(double degrees, float most) {
 
 } // namespace
 
+bool isUsableLocation(double latitude, double longitude) {
+    return (latitude != 0 || longitude != 0) && isWithin(latitude, kMostLatitude) &&
+           isWithin(longitude, kMostLongitude);
+}
+
 void setLocationFromData(MySinglePic &pic) {
     pic.location.gpsLat.reset();
     pic.location.gpsLong.reset();
@@ -50,9 +55,7 @@ void setLocationFromData(MySinglePic &pic) {
         coordinate(recorded->latitude->data, recorded->latitudeRef->data, 'S', order);
     const auto longitude =
         coordinate(recorded->longitude->data, recorded->longitudeRef->data, 'W', order);
-    if (!latitude || !longitude || (*latitude == 0 && *longitude == 0))
-        return;
-    if (isWithin(*latitude, kMostLatitude) && isWithin(*longitude, kMostLongitude)) {
+    if (latitude && longitude && isUsableLocation(*latitude, *longitude)) {
         pic.location.gpsLat = latitude;
         pic.location.gpsLong = longitude;
     }

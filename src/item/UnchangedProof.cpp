@@ -9,6 +9,7 @@
 #include <array>
 #include <cerrno>
 #include <span>
+#include <vector>
 
 namespace chronomender {
 namespace {
@@ -24,21 +25,13 @@ struct Expected {
     std::uint64_t end() const { return offset + bytes.size(); }
 };
 
-struct ExpectedBytes {
-    std::array<Expected, std::tuple_size_v<std::decay_t<decltype(recordedValues())>>> values;
-    std::size_t count = 0;
-};
-
-ExpectedBytes expectedInOrderOfPlace(const SinglePicAttributes &recorded) {
-    ExpectedBytes expected;
+std::vector<Expected> expectedInOrderOfPlace(const SinglePicAttributes &recorded) {
+    std::vector<Expected> expected;
+    expected.reserve(recordedValues().size());
     forEachRecordedValue(recorded, [&](std::string_view, const LocatedBytes &value) {
-        const auto end = expected.values.begin() + expected.count++;
-        const auto behind = std::upper_bound(
-            expected.values.begin(), end, value.offset,
-            [](std::uint64_t offset, const Expected &other) { return offset < other.offset; });
-        std::move_backward(behind, end, end + 1);
-        *behind = {value.offset, bytesInFile(recorded, value)};
+        expected.push_back({value.offset, bytesInFile(recorded, value)});
     });
+    std::ranges::sort(expected, {}, &Expected::offset);
     return expected;
 }
 
@@ -118,8 +111,8 @@ bool areTheFileAttributesUnchanged(const SinglePicAttributes &recorded, const Fi
 }
 
 bool areRecordedValuesUnchanged(const SinglePicAttributes &recorded, OpenFile &file) {
-    const ExpectedBytes expected = expectedInOrderOfPlace(recorded);
-    std::span<const Expected> left(expected.values.data(), expected.count);
+    const std::vector<Expected> expected = expectedInOrderOfPlace(recorded);
+    std::span<const Expected> left(expected);
     while (!left.empty()) {
         const std::uint64_t start = left.front().offset;
         const auto isTooFar = [start](const Expected &value) {

@@ -166,6 +166,7 @@ public:
     LivePhotoState livePhoto;
     /// As spelled on disk. For a master also those of its dependent, and the dependent's own file.
     std::vector<std::string> spSidecarExtensions;
+    XmpSidecar relevantSidecarInfos; ///< what the XMP sidecar says; its places are in that file
     bool isMovedToTrash = false;
     bool isExtensionHidden = false;
     bool isHeaderIntel = false;
@@ -230,11 +231,15 @@ public:
     /// The source date is a wall-clock stamp without a zone.
     bool isDataSourceLocal() const;
     bool isDataSourceXmp() const;
+    /// How the source slot's XMP stamp says its zone; Invalid (0) for a date from elsewhere.
+    XmpStampType sourceXmpDateType() const;
 
     /// The recorded stamp and zone stamp of a slot; none when the file has none.
     const LocatedBytes *stamp(StampSlot slot) const;
     const LocatedBytes *zoneStamp(StampSlot slot) const;
     bool isSlotXmp(StampSlot slot) const;
+    /// The XMP stamp that a slot was filled from; null for other slots.
+    const XmpStamp *xmpStamp(StampSlot slot) const;
 
 private:
     MySinglePic() = default;

@@ -139,9 +139,29 @@ bool MySinglePic::isDataSourceLocal() const {
     if (spType == SpTypeTiffYoungerThanFile)
         return false;
     for (StampSlot slot : stampSlots)
-        if (slots.*description(slot).oldDate)
-            return !isSlotXmp(slot) && !zoneStamp(slot);
+        if (slots.*description(slot).oldDate) {
+            const XmpStamp *fromXmp = xmpStamp(slot);
+            return fromXmp ? fromXmp->type == XmpStampType::Local : !zoneStamp(slot);
+        }
     return false;
+}
+
+XmpStampType MySinglePic::sourceXmpDateType() const {
+    if (!isDataSourceXmp())
+        return XmpStampType::Invalid;
+    const XmpStamp *stamp = xmpStamp(xmp.isCreaXmp   ? StampSlot::Original
+                                     : xmp.isDigiXmp ? StampSlot::Digitized
+                                                     : StampSlot::Modification);
+    return stamp ? stamp->type : XmpStampType::Invalid;
+}
+
+const XmpStamp *MySinglePic::xmpStamp(StampSlot slot) const {
+    const XmpDateInfos &infos = singlePicAttributes.xmpDateInfos;
+    if (!isSlotXmp(slot))
+        return nullptr;
+    return slot == StampSlot::Original    ? infos.xmpCreaDict()
+           : slot == StampSlot::Digitized ? infos.xmpDigiDict()
+                                          : infos.xmpModDict();
 }
 
 bool MySinglePic::isSlotXmp(StampSlot slot) const {

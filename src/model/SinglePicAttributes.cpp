@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SinglePicAttributes.h"
 
+#include "XmpFormat.h"
+
 #include <algorithm>
 
 namespace chronomender {
@@ -59,22 +61,6 @@ constexpr std::array<RecordedValue, 24> kinds{{
     {"exif:GPSHPositioningError", xmpLocation<&XmpLocation::gpsPosError>},
 }};
 
-struct XmpKey {
-    XmpProperty property;
-    std::string_view key;
-};
-
-constexpr std::array xmpKeys{
-    XmpKey{XmpProperty::ExifDateTimeOriginal, "exif:DateTimeOriginal"},
-    XmpKey{XmpProperty::ExifDateTimeDigitized, "exif:DateTimeDigitized"},
-    XmpKey{XmpProperty::XmpCreateDate, "xmp:CreateDate"},
-    XmpKey{XmpProperty::XmpModifyDate, "xmp:ModifyDate"},
-    XmpKey{XmpProperty::XmpMetadataDate, "xmp:MetadataDate"},
-    XmpKey{XmpProperty::TiffDateTime, "tiff:DateTime"},
-    XmpKey{XmpProperty::PhotoshopDateCreated, "photoshop:DateCreated"},
-    XmpKey{XmpProperty::GpsTimeStamp, "exif:GPSTimeStamp"},
-};
-
 struct PlaceKey {
     QtLocation::Place place;
     std::string_view key;
@@ -93,7 +79,7 @@ const std::array<RecordedValue, 24> &recordedValues() {
 }
 
 std::string_view key(XmpProperty property) {
-    return std::ranges::find(xmpKeys, property, &XmpKey::property)->key;
+    return xmpPropertyName(property);
 }
 
 std::string_view key(QtLocation::Place place) {

@@ -115,6 +115,10 @@ bool hasDngVersion(std::string_view bytes, ByteOrder order) {
 
 } // namespace
 
+bool isBoxedRaw(FileFormatType type, std::string_view extension) {
+    return type == FileFormatRaw && lowerCase(extension) == "cr3";
+}
+
 FileFormatType fileFormatTypeForExtension(std::string_view extension) {
     const std::string lower = lowerCase(extension);
     const auto found = std::ranges::find(kExtensions, lower, &ExtensionFormat::extension);

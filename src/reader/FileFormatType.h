@@ -36,6 +36,10 @@ constexpr bool isMovieFormat(FileFormatType type) {
     return type == FileFormatQuickTime || type == FileFormatMpeg4 || type == FileFormatOtherMovie;
 }
 
+/// A raw file that is a box structure (ISO/IEC 14496-12) without a TIFF header of its own.
+/// `extension` is without the dot, in any letter case.
+bool isBoxedRaw(FileFormatType type, std::string_view extension);
+
 /// The format that a file name's extension promises; FileFormatNone for anything that is no medium.
 /// `extension` is without the dot, in any letter case. Example: "CR2" gives FileFormatRaw.
 FileFormatType fileFormatTypeForExtension(std::string_view extension);

@@ -88,11 +88,15 @@ std::optional<std::string_view> FileWindow::bytes(std::uint64_t offset, std::siz
     return std::string_view(m_buffer.get() + (offset - m_heldOffset), length);
 }
 
-std::string_view FileWindow::block(std::uint64_t offset) {
+std::string_view FileWindow::block(std::uint64_t offset, std::uint64_t most) {
     if (offset >= m_length)
         return {};
-    fetch(offset, kScanBlock);
-    return {m_buffer.get(), m_heldLength};
+    const auto wanted =
+        static_cast<std::size_t>(std::min({most, m_length - offset, std::uint64_t{kScanBlock}}));
+    if (!holds(m_heldOffset, m_heldLength, offset, wanted))
+        fetch(offset, wanted);
+    const auto at = static_cast<std::size_t>(offset - m_heldOffset);
+    return {m_buffer.get() + at, std::min(wanted, m_heldLength - at)};
 }
 
 std::uint64_t FileWindow::nextData(std::uint64_t offset) {

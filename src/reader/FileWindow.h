@@ -46,8 +46,9 @@ public:
     std::optional<std::string_view> bytes(std::uint64_t offset, std::size_t length,
                                           Reading reading = Reading::Values);
 
-    /// As many bytes at `offset` as are there, at most `kScanBlock`; empty at the end of the file.
-    std::string_view block(std::uint64_t offset);
+    /// As many bytes at `offset` as are there, at most `most` and never more than `kScanBlock`;
+    /// empty at the end of the file.
+    std::string_view block(std::uint64_t offset, std::uint64_t most = kScanBlock);
 
     /// The first place at or behind `offset` that is not in a hole of a sparse file; the file's
     /// length when only holes follow.

@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <strings.h>
 
 namespace chronomender {
 
@@ -43,17 +42,11 @@ constexpr std::array kFormatWalks{
     FormatWalk{FileFormatRaw, Walk::Scan},         FormatWalk{FileFormatNone, Walk::Scan},
 };
 
-/// A raw file whose name promises boxes has no TIFF header to be searched for, but may be one.
-bool isBoxedRawExtension(std::string_view extension) {
-    constexpr std::string_view kBoxedRaw = "cr3";
-    return extension.size() == kBoxedRaw.size() &&
-           ::strncasecmp(extension.data(), kBoxedRaw.data(), extension.size()) == 0;
-}
-
 Walk walkFor(const ByteRange &file, FileFormatType format, std::string_view extension) {
     if (format == FileFormatRaw && isBoxFile(file))
         return Walk::Cr3Boxes;
-    if (format == FileFormatRaw && isBoxedRawExtension(extension))
+    // It has no TIFF header to be searched for, but a file of that name may be one.
+    if (isBoxedRaw(format, extension))
         return Walk::FileStart;
     const auto found = std::ranges::find(kFormatWalks, format, &FormatWalk::format);
     return found == kFormatWalks.end() ? Walk::None : found->walk;

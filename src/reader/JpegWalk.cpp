@@ -32,37 +32,86 @@ std::optional<Segment> segmentAt(const ByteRange &file, std::uint64_t at) {
     return isEnd ? std::nullopt : std::optional(segment);
 }
 
-bool isXmpAt(const ByteRange &file, std::uint64_t offset) {
-    for (const std::string_view begin : {kXmpPacketStart, kXmpMetaStart}) {
-        const auto bytes = file.bytes(offset, begin.size());
-        if (bytes && *bytes == begin)
-            return true;
+/// Steps from segment to segment, over fill bytes.
+class SegmentCursor {
+public:
+    explicit SegmentCursor(const ByteRange &file) : m_file(file) {}
+
+    /// The next segment; none where the walk ends.
+    std::optional<Segment> next() {
+        m_at = m_next;
+        for (; m_segmentsLeft > 0; --m_segmentsLeft, ++m_at) {
+            const auto segment = segmentAt(m_file, m_at);
+            if (segment && segment->marker == kJpegFill)
+                continue;
+            if (!segment || segment->length < kJpegShortestSegment)
+                break;
+            m_next = m_at + kJpegMarkerLength + segment->length;
+            --m_segmentsLeft;
+            return segment;
+        }
+        return std::nullopt;
     }
-    return false;
+    std::uint64_t at() const { return m_at; } ///< where the segment given last begins
+
+private:
+    ByteRange m_file;
+    std::uint64_t m_at = 0, m_next = kJpegFirstSegment;
+    int m_segmentsLeft = kMostSegments;
+};
+
+bool hasXmp(const ByteRange &file, const Segment &segment, std::uint64_t at) {
+    return segment.marker == kJpegMarkerApp1 && !segment.exifOrder &&
+           isXmpPacketAt(file, at + kJpegXmpPacketAt);
+}
+
+/// From the packet of the segment at `at` to the segment's end.
+ByteBlock packetOf(const ByteRange &file, const Segment &segment, std::uint64_t at) {
+    const std::uint64_t offset = at + kJpegXmpPacketAt;
+    const std::uint64_t end = at + kJpegMarkerLength + segment.length;
+    return {offset, std::min(end > offset ? end - offset : 0, file.left(offset))};
 }
 
 } // namespace
 
 JpgOffsets readJpgHeader(const ByteRange &file) {
     JpgOffsets offsets;
-    std::uint64_t at = kJpegFirstSegment;
-    for (int i = 0; i < kMostSegments; ++i) {
-        const auto segment = segmentAt(file, at);
-        if (segment && segment->marker == kJpegFill) {
-            ++at;
-            continue;
-        }
-        if (!segment || segment->length < kJpegShortestSegment)
-            break;
+    SegmentCursor segments(file);
+    while (const auto segment = segments.next()) {
         if (segment->marker == kJpegMarkerApp1 && segment->exifOrder) {
-            offsets.tiff = TiffHeader{at + kJpegExifHeaderAt, *segment->exifOrder};
+            offsets.tiff = TiffHeader{segments.at() + kJpegExifHeaderAt, *segment->exifOrder};
             break;
         }
-        if (segment->marker == kJpegMarkerApp1 && isXmpAt(file, at + kJpegXmpPacketAt))
-            offsets.xmp = at + kJpegXmpPacketAt;
-        at += kJpegMarkerLength + segment->length;
+        if (hasXmp(file, *segment, segments.at()))
+            offsets.xmp = segments.at() + kJpegXmpPacketAt;
     }
     return offsets;
+}
+
+std::optional<ByteBlock> firstJpgXmpPacket(const ByteRange &file) {
+    SegmentCursor segments(file);
+    while (const auto segment = segments.next())
+        if (hasXmp(file, *segment, segments.at()))
+            return packetOf(file, *segment, segments.at());
+    return std::nullopt;
+}
+
+std::optional<ByteBlock> jpgXmpPacketAt(const ByteRange &file, std::uint64_t offset) {
+    if (offset < kJpegXmpPacketAt)
+        return std::nullopt;
+    const std::uint64_t at = offset - kJpegXmpPacketAt;
+    const auto segment = segmentAt(file, at);
+    return segment && hasXmp(file, *segment, at) ? std::optional(packetOf(file, *segment, at))
+                                                 : std::nullopt;
+}
+
+bool isXmpPacketAt(const ByteRange &file, std::uint64_t offset) {
+    for (const std::string_view begin : {kXmpPacketStart, kXmpMetaStart}) {
+        const auto bytes = file.bytes(offset, begin.size());
+        if (bytes && *bytes == begin)
+            return true;
+    }
+    return false;
 }
 
 } // namespace chronomender

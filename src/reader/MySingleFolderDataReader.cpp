@@ -116,10 +116,9 @@ DatesData MySingleFolderDataReader::readDates(FileFormatType format, std::string
 }
 
 std::optional<XmpDateInfos> MySingleFolderDataReader::readXmpDates(FileFormatType format,
-                                                                   std::string_view extension,
+                                                                   std::string_view /*extension*/,
                                                                    DatesData &known) {
-    const auto packet =
-        m_file ? findXmpPacket(m_file->window, format, extension, known) : std::nullopt;
+    const auto packet = m_file ? findXmpPacket(m_file->window, format, known) : std::nullopt;
     if (!packet)
         return std::nullopt;
     XmpDateInfos infos = scanXmpDates(m_file->window, *packet, known.findings);
@@ -127,10 +126,9 @@ std::optional<XmpDateInfos> MySingleFolderDataReader::readXmpDates(FileFormatTyp
 }
 
 XmpLocation MySingleFolderDataReader::readXmpLocation(FileFormatType format,
-                                                      std::string_view extension,
+                                                      std::string_view /*extension*/,
                                                       const DatesData &known) {
-    const auto packet =
-        m_file ? findXmpPacket(m_file->window, format, extension, known) : std::nullopt;
+    const auto packet = m_file ? findXmpPacket(m_file->window, format, known) : std::nullopt;
     return packet ? scanXmpLocation(m_file->window, *packet) : XmpLocation();
 }
 
