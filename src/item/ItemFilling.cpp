@@ -86,7 +86,9 @@ void setGPXAttributesFromTheDatesData(MySinglePic &pic, DatesData &dates) {
 void lateSetEmptyMetaModDateFromFileModDate(MySinglePic &pic) {
     const bool isOfThoseTypes =
         isInRange(pic.spType, SpTypeEmptyOriginalFileDate, SpTypeEmptyDigitizedFileDate);
-    if (isOfThoseTypes && pic.singlePicAttributes.tiffDateTime)
+    const bool isEmptyMovie =
+        pic.spType == SpTypeMovieEmptyFileDate && pic.singlePicAttributes.qtMvhdModDate;
+    if (isEmptyMovie || (isOfThoseTypes && pic.singlePicAttributes.tiffDateTime))
         pic.slots.tiffDateTimeOLD = pic.slots.fileModificationDateOLD;
 }
 
