@@ -3,10 +3,13 @@
 
 #include "ExifFormat.h"
 #include "JpegFormat.h"
+#include "PngFormat.h"
 #include "TiffFormat.h"
+#include "WebpFormat.h"
 
 #include <algorithm>
 #include <iterator>
+#include <span>
 #include <string>
 
 namespace chronomender {
@@ -47,21 +50,37 @@ struct Signature {
 };
 
 constexpr Signature kSignatures[]{
-    {0, kJpegSignature, FileFormatJpeg}, {0, "\x89PNG\r\n\x1A\n", FileFormatPng},
-    {0, "GIF87a", FileFormatGif},        {0, "GIF89a", FileFormatGif},
-    {8, "WEBP", FileFormatWebp},
+    {0, kJpegSignature, FileFormatJpeg},
+    {0, kPngSignature, FileFormatPng},
+    {0, "GIF87a", FileFormatGif},
+    {0, "GIF89a", FileFormatGif},
+};
+
+/// What a RIFF file holds, by the four letters behind its length.
+constexpr Signature kRiffForms[]{
+    {kRiffFormAt, kWebpForm, FileFormatWebp},
+    {kRiffFormAt, "AVI ", FileFormatOtherMovie},
 };
 
 struct BrandFormat {
-    std::string_view brand;
+    std::string_view brand; ///< what it begins with
     FileFormatType format;
 };
 
+// ISO/IEC 14496-12, 4.3, and the brands registered for pictures and movies.
 constexpr BrandFormat kBrands[]{
-    {"heic", FileFormatHeif}, {"heix", FileFormatHeif}, {"hevc", FileFormatHeif},
-    {"mif1", FileFormatHeif}, {"msf1", FileFormatHeif}, {"avif", FileFormatAvif},
-    {"avis", FileFormatAvif},
+    {"heic", FileFormatHeif},  {"heix", FileFormatHeif},  {"hevc", FileFormatHeif},
+    {"mif1", FileFormatHeif},  {"msf1", FileFormatHeif},  {"avif", FileFormatAvif},
+    {"avis", FileFormatAvif},  {"crx ", FileFormatRaw},   {"qt  ", FileFormatQuickTime},
+    {"iso", FileFormatMpeg4},  {"mp4", FileFormatMpeg4},  {"avc1", FileFormatMpeg4},
+    {"M4V", FileFormatMpeg4},  {"3gp", FileFormatMpeg4},  {"3g2", FileFormatMpeg4},
+    {"3ge", FileFormatMpeg4},  {"MSNV", FileFormatMpeg4}, {"mmp4", FileFormatMpeg4},
+    {"dash", FileFormatMpeg4}, {"f4v ", FileFormatMpeg4}, {"XAVC", FileFormatMpeg4},
+    {"NDSC", FileFormatMpeg4},
 };
+
+/// With what a QuickTime file can begin that is older than the file type box.
+constexpr std::string_view kOldQuickTimeAtoms[]{"moov", "mdat", "wide", "free", "skip", "pnot"};
 
 struct FormatName {
     FileFormatType format;
@@ -85,14 +104,58 @@ std::string lowerCase(std::string_view text) {
     return lower;
 }
 
-/// ISO/IEC 14496-12, 4.3: the file type box holds a major brand, a version, and further brands.
-std::optional<FileFormatType> formatOfBrands(std::string_view bytes) {
-    constexpr std::size_t kMajorBrandAt = 8, kBrandLength = 4;
-    if (bytes.size() < kMajorBrandAt + kBrandLength || bytes.substr(4, 4) != "ftyp")
-        return std::nullopt;
-    const std::string_view major = bytes.substr(kMajorBrandAt, kBrandLength);
-    const auto found = std::ranges::find(kBrands, major, &BrandFormat::brand);
+bool hasSignature(std::string_view bytes, const Signature &signature) {
+    return bytes.size() >= signature.at && bytes.substr(signature.at).starts_with(signature.bytes);
+}
+
+std::optional<FileFormatType> formatOfBrand(std::string_view brand) {
+    const auto found = std::ranges::find_if(
+        kBrands, [&](const BrandFormat &known) { return brand.starts_with(known.brand); });
     return found == std::end(kBrands) ? std::nullopt : std::optional(found->format);
+}
+
+bool isHeifFormat(std::optional<FileFormatType> format) {
+    return format == FileFormatHeif || format == FileFormatAvif;
+}
+
+/// The file type box holds a major brand, a version, and further brands that the file fits. These
+/// count where the major one is unknown, and tell AV1 from other pictures of a general brand.
+std::optional<FileFormatType> formatOfBrands(std::string_view bytes) {
+    constexpr std::size_t kBrandLength = 4, kMajorAt = 8, kFurtherAt = 16;
+    const std::size_t length =
+        std::min<std::size_t>(bytes.size(), number32(bytes, ByteOrder::Motorola));
+    if (length < kMajorAt + kBrandLength)
+        return std::nullopt;
+    const std::string_view major = bytes.substr(kMajorAt, kBrandLength);
+    const auto majorFormat = formatOfBrand(major);
+    const bool isGeneral = major == "mif1" || major == "msf1";
+    if (majorFormat && !isGeneral)
+        return majorFormat;
+    std::optional<FileFormatType> further;
+    for (std::size_t at = kFurtherAt; at + kBrandLength <= length; at += kBrandLength) {
+        const auto format = formatOfBrand(bytes.substr(at, kBrandLength));
+        if (format == FileFormatAvif)
+            return FileFormatAvif;
+        if (!further || (isHeifFormat(format) && !isHeifFormat(further)))
+            further = format;
+    }
+    return majorFormat ? majorFormat : further;
+}
+
+/// What the boxes at the beginning say. A file whose name promises a still is no movie.
+std::optional<FileFormatType> formatOfBoxes(std::string_view bytes, std::string_view extension) {
+    constexpr std::size_t kTypeAt = 4, kHeaderLength = 8;
+    if (bytes.size() < kHeaderLength)
+        return std::nullopt;
+    const std::string_view type = bytes.substr(kTypeAt, 4);
+    std::optional<FileFormatType> format;
+    if (type == "ftyp")
+        format = formatOfBrands(bytes);
+    else if (std::ranges::find(kOldQuickTimeAtoms, type) != std::end(kOldQuickTimeAtoms))
+        format = FileFormatQuickTime;
+    const bool isRefused =
+        format && isMovieFormat(*format) && isStillFormat(fileFormatTypeForExtension(extension));
+    return isRefused ? std::nullopt : format;
 }
 
 /// True when the first directory holds a DNG version, as far as it lies in `bytes`.
@@ -127,10 +190,11 @@ FileFormatType fileFormatTypeForExtension(std::string_view extension) {
 
 std::optional<FileFormatType> fileFormatTypeForContent(std::string_view firstBytes,
                                                        std::string_view extension) {
-    for (const Signature &signature : kSignatures) {
-        if (firstBytes.size() >= signature.at &&
-            firstBytes.substr(signature.at).starts_with(signature.bytes) &&
-            (signature.format != FileFormatWebp || firstBytes.starts_with("RIFF")))
+    const bool isRiff = firstBytes.starts_with(kRiffSignature);
+    const std::span<const Signature> signatures =
+        isRiff ? std::span<const Signature>(kRiffForms) : std::span<const Signature>(kSignatures);
+    for (const Signature &signature : signatures) {
+        if (hasSignature(firstBytes, signature))
             return signature.format;
     }
     if (const auto order = byteOrderOfTiffMagic(firstBytes)) {
@@ -138,7 +202,7 @@ std::optional<FileFormatType> fileFormatTypeForContent(std::string_view firstByt
                            hasDngVersion(firstBytes, *order);
         return isRaw ? FileFormatRaw : FileFormatTiff;
     }
-    return formatOfBrands(firstBytes);
+    return formatOfBoxes(firstBytes, extension);
 }
 
 std::string_view formatName(FileFormatType type) {

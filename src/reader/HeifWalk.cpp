@@ -36,7 +36,7 @@ std::optional<Box> findMeta(const ByteRange &file) {
         return std::nullopt;
     while ((box = boxes.next()) && box->type != boxType("mdat")) {
         if (box->type == boxType("meta"))
-            return box;
+            return box->isComplete ? box : std::nullopt;
     }
     return std::nullopt;
 }
@@ -98,7 +98,8 @@ bool isListed(const WantedItem &item) {
 }
 
 /// The numbers of the wanted items; false when the list is cut off or too long to be read.
-bool readItemList(const Box &list, Wanted &wanted, MetadataBlocks &blocks) {
+bool readItemList(const Box &list, const ReadBudget &budget, Wanted &wanted,
+                  MetadataBlocks &blocks) {
     const auto version = list.body.number(0, 1);
     const std::size_t width = version && *version > 0 ? 4 : 2;
     const auto count = list.body.number(kItemCountAt, width);
@@ -107,7 +108,6 @@ bool readItemList(const Box &list, Wanted &wanted, MetadataBlocks &blocks) {
     const std::uint64_t begin = kItemCountAt + width;
     const auto most = static_cast<unsigned>(std::min<std::uint64_t>(*count, kMostItems));
     BoxCursor entries(list.body.part(begin, list.body.length()), BoxLevel::Inside, most);
-    const ReadBudget budget = list.body.budget();
     for (unsigned i = 0; i < most && !std::ranges::all_of(wanted, isListed); ++i) {
         if (budget.isSpent()) {
             blocks.findings.push_back({"iinf", list.whole.absolute(0), FindingReason::ScanLimit});
@@ -213,8 +213,8 @@ bool isPlacedOrUnlisted(const WantedItem &item) {
 }
 
 /// The places of the wanted items; false when one of them is not to be had.
-bool readLocations(const ByteRange &file, const MetaBoxes &boxes, Wanted &wanted,
-                   MetadataBlocks &blocks) {
+bool readLocations(const ByteRange &file, const MetaBoxes &boxes, const ReadBudget &budget,
+                   Wanted &wanted, MetadataBlocks &blocks) {
     const ByteRange &table = boxes.itemLocations->body;
     const RecordForm form = recordForm(table);
     const std::size_t countWidth = form.version >= kLocationVersionLong ? 4 : 2;
@@ -222,7 +222,6 @@ bool readLocations(const ByteRange &file, const MetaBoxes &boxes, Wanted &wanted
     if (!form.isUsable())
         return false;
     RecordReader reader(table, kLocationCountAt + countWidth);
-    const ReadBudget budget = table.budget();
     for (std::uint64_t i = 0; i < count && !std::ranges::all_of(wanted, isPlacedOrUnlisted); ++i) {
         if (budget.isSpent())
             blocks.findings.push_back({"iloc", table.absolute(0), FindingReason::ScanLimit});
@@ -251,13 +250,14 @@ std::optional<ByteBlock> exifBlock(const ByteRange &item) {
 MetadataBlocks findHeifBlocks(const ByteRange &file) {
     MetadataBlocks blocks;
     Wanted wanted;
+    const ReadBudget budget = file.budget();
     const auto meta = findMeta(file);
     const MetaBoxes boxes = meta ? findMetaBoxes(*meta) : MetaBoxes();
-    blocks.isBroken =
-        !boxes.itemList || !boxes.itemLocations || !readItemList(*boxes.itemList, wanted, blocks);
+    blocks.isBroken = !boxes.itemList || !boxes.itemLocations ||
+                      !readItemList(*boxes.itemList, budget, wanted, blocks);
     if (!boxes.itemLocations)
         return blocks;
-    blocks.isBroken = !readLocations(file, boxes, wanted, blocks) || blocks.isBroken;
+    blocks.isBroken = !readLocations(file, boxes, budget, wanted, blocks) || blocks.isBroken;
     if (wanted[Exif].place)
         blocks.exif = exifBlock(*wanted[Exif].place);
     if (const auto &place = wanted[Xmp].place)

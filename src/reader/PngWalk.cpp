@@ -107,6 +107,8 @@ bool walkChunks(const ByteRange &file, MetadataBlocks &blocks) {
             return true;
         }
         readChunk(file, *chunk, blocks);
+        if (chunk->next() > file.length())
+            return false;
         if (chunk->typeName() == kPngImageChunk && last && chunk->isLike(*last))
             chunk = lastOfRun(file, *chunk);
         at = chunk->next();

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "LittlePhoto.h"
+#include "LittleHeif.h"
+#include "LittlePng.h"
+#include "LittleWebp.h"
 #include "MemoryFile.h"
 #include "MySingleFolderDataReader.h"
 #include "ReadValues.h"
@@ -28,6 +30,26 @@ inline DatesData readBytes(std::string_view bytes, FileFormatType format,
     MySingleFolderDataReader reader;
     EXPECT_TRUE(reader.borrow(file.descriptor()));
     return reader.readDates(format, extension, startOffset);
+}
+
+/// A photo of this format; all hold the same values.
+inline BuiltPhoto photoOf(FileFormatType format, const little::PhotoFields &fields) {
+    switch (format) {
+    case FileFormatHeif:
+        return little::heifPhoto(fields);
+    case FileFormatAvif:
+        return little::heifPhoto(fields, {.brand = "avif"});
+    case FileFormatRaw:
+        return little::cr3Photo(fields);
+    case FileFormatPng:
+        return little::pngPhoto(fields);
+    case FileFormatWebp:
+        return little::webpPhoto(fields);
+    case FileFormatTiff:
+        return tiffPhoto(fields);
+    default:
+        return jpegPhoto(fields);
+    }
 }
 
 inline DatesData readJpeg(std::string_view bytes) {

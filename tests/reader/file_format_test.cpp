@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FileFormatType.h"
 
-#include "LittleTiff.h"
+#include "LittleHeif.h"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +38,8 @@ TEST(FormatByContent, WinsOverTheExtension) {
         {"\x89PNG\r\n\x1A\n"s, "jpg", FileFormatPng},
         {"GIF89a"s, "", FileFormatGif},
         {"RIFF\0\0\0\0WEBPVP8 "s, "jpg", FileFormatWebp},
-        {"RIFF\0\0\0\0AVI LIST"s, "avi", {}},
+        {"RIFF\0\0\0\0AVI LIST"s, "mov", FileFormatOtherMovie},
+        {"RIFF\0\0\0\0WAVEfmt "s, "avi", {}},
         {"XXXX\0\0\0\0WEBP"s, "", {}},
         {"II*\0\x08\0\0\0"s, "tif", FileFormatTiff},
         {"MM\0*\0\0\0\x08"s, "NEF", FileFormatRaw},
@@ -54,10 +55,6 @@ TEST(FormatByContent, WinsOverTheExtension) {
          "ftypavis\0\0\0\0"s,
          "heic", FileFormatAvif},
         {"\0\0\0\x18"
-         "ftypqt  \0\0\0\0"s,
-         "mov",
-         {}},
-        {"\0\0\0\x18"
          "ftyp"s,
          "heic",
          {}},
@@ -65,6 +62,41 @@ TEST(FormatByContent, WinsOverTheExtension) {
     };
     for (const auto &[bytes, extension, format] : cases)
         EXPECT_EQ(fileFormatTypeForContent(bytes, extension), format) << bytes << extension;
+}
+
+TEST(FormatByContent, FollowsTheBrandsOfTheFileType) {
+    const struct {
+        const char *major, *further, *extension;
+        std::optional<FileFormatType> format;
+    } cases[]{
+        {"qt  ", "qt  ", "mp4", FileFormatQuickTime},
+        {"isom", "isomiso2avc1mp41", "mov", FileFormatMpeg4},
+        {"mp42", "isomavif", "mp4", FileFormatMpeg4},
+        {"3gp5", "", "3gp", FileFormatMpeg4},
+        {"isom", "heic", "heic", {}}, // the name is right
+        {"mp42", "", "jpg", {}},
+        {"crx ", "isom", "cr3", FileFormatRaw},
+        {"MiHB", "MiHEmiafheic", "heic", FileFormatHeif},
+        {"mif1", "mif1miafheic", "jpg", FileFormatHeif},
+        {"mif1", "mif1avif", "heic", FileFormatAvif},
+        {"abcd", "isommif1", "mp4", FileFormatHeif},
+        {"abcd", "isom", "mp4", FileFormatMpeg4},
+        {"abcd", "efgh", "mp4", {}},
+    };
+    for (const auto &[major, further, extension, format] : cases)
+        EXPECT_EQ(fileFormatTypeForContent(little::fileType(major, further), extension), format)
+            << major << ' ' << further;
+    EXPECT_EQ(fileFormatTypeForContent(little::fileType("abcd", "efgh") + "avif", "mp4"),
+              std::nullopt); // behind the box
+}
+
+TEST(FormatByContent, KnowsAnOldQuickTimeFileByItsFirstAtom) {
+    for (const char *type : {"moov", "mdat", "wide", "free"}) {
+        const std::string bytes = little::boxBytes(type, "");
+        EXPECT_EQ(fileFormatTypeForContent(bytes, "mov"), FileFormatQuickTime) << type;
+        EXPECT_EQ(fileFormatTypeForContent(bytes, "mp4"), FileFormatQuickTime) << type;
+        EXPECT_EQ(fileFormatTypeForContent(bytes, "heic"), std::nullopt) << type;
+    }
 }
 
 TEST(FormatByContent, TellsADngNamedTiffByItsVersion) {

@@ -21,7 +21,7 @@ BuiltPhoto goodPhoto(FileFormatType format) {
     auto fields = little::fullPhotoFields(Endian::Motorola);
     fields.bodyLength = 40;
     fields.xmp = "<x:xmpmeta xmlns:x='adobe:ns:meta/'/>";
-    return format == FileFormatJpeg ? jpegPhoto(fields) : tiffPhoto(fields);
+    return photoOf(format, fields);
 }
 
 class DamagedPhoto : public ::testing::TestWithParam<FileFormatType> {};
@@ -59,8 +59,10 @@ TEST_P(DamagedPhoto, WithOneByteChangedNeverGivesWhatTheFileHasNot) {
     EXPECT_GT(changed, kMutations / 10) << "the mutations do not reach the values";
 }
 
-INSTANTIATE_TEST_SUITE_P(JpegAndTiff, DamagedPhoto,
-                         ::testing::Values(FileFormatJpeg, FileFormatTiff),
+INSTANTIATE_TEST_SUITE_P(EachFormat, DamagedPhoto,
+                         ::testing::Values(FileFormatJpeg, FileFormatTiff, FileFormatHeif,
+                                           FileFormatAvif, FileFormatRaw, FileFormatPng,
+                                           FileFormatWebp),
                          [](const auto &format) { return std::string(formatName(format.param)); });
 
 TEST(HostileDirectory, EachIsReadOnce) {
@@ -183,7 +185,8 @@ TEST(MalformedCorpus, IsReadWithoutHarm) {
         GTEST_SKIP() << "there are no malformed files at " << folder;
     for (const auto &entry : std::filesystem::directory_iterator(folder)) {
         const std::string content = little::fileContent(entry.path().string());
-        for (const auto format : {FileFormatNone, FileFormatJpeg, FileFormatRaw, FileFormatTiff}) {
+        for (const auto format : {FileFormatNone, FileFormatJpeg, FileFormatRaw, FileFormatTiff,
+                                  FileFormatHeif, FileFormatPng, FileFormatWebp}) {
             MySingleFolderDataReader reader;
             const auto dates = reader.savereadDatesAtPath(entry.path().string(), format);
             ASSERT_TRUE(dates) << entry.path();

@@ -25,7 +25,19 @@ struct PhotoFields {
     std::optional<PhotoLocation> location = {};
     std::string xmp = {}; ///< an XMP packet in front of the Exif segment of a JPEG
     std::size_t bodyLength = 0;
+    std::string contentIdentifier = {}; ///< of a live photo, in an Apple maker note
 };
+
+/// The maker note of an Apple camera with nothing but the content identifier.
+inline std::string appleNote(const std::string &contentIdentifier) {
+    constexpr std::size_t kTextAt = 14 + 2 + 12 + 4;
+    const auto big = [](std::size_t value, std::size_t width) {
+        return number(value, width, Endian::Motorola);
+    };
+    return std::string("Apple iOS\0\0\1MM", 14) + big(1, 2) + big(17, 2) + big(2, 2) +
+           big(contentIdentifier.size() + 1, 4) + big(kTextAt, 4) + big(0, 4) + contentIdentifier +
+           std::string(1, '\0');
+}
 
 /// A finished file and where its values stand in it, by the names of `kNamedTags`.
 struct BuiltPhoto {
@@ -80,6 +92,10 @@ inline Tiff photoEntries(const PhotoFields &fields) {
     for (const NamedTag &named : kNamedTags) {
         if (named.field && fields.*named.field)
             tiff.text(named.directory, named.tag, *(fields.*named.field));
+    }
+    if (!fields.contentIdentifier.empty()) {
+        const std::string note = appleNote(fields.contentIdentifier);
+        tiff.value(Directory::Exif, 37500, 7, static_cast<std::uint32_t>(note.size()), note);
     }
     if (fields.location)
         addLocation(tiff, *fields.location);
