@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DaylightSavingChecks.h"
+#include "MovieClock.h"
 #include "MovieStampConversions.h"
 #include "ZoneSteps.h"
 
@@ -33,6 +34,15 @@ TEST_F(MovieZones, headerTimesMoveWithTheZoneOnlyWhereTheyAreLocal) {
     EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 3));
     EXPECT_EQ(pic->slots.tiffDateTimeOLD, utc(2024, 6, 1, 4));
     EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
+}
+
+TEST_F(MovieZones, aChangedClockReadsTheFoldersMoviesAgain) {
+    assign("Asia/Tokyo", "");
+    update();
+    folder->sfPicDetails_fullArray = {pic};
+    EXPECT_EQ(setQuicktimeMVHDTimezoneCorrection(*folder, true, zones, 3), 1U);
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
+    EXPECT_EQ(setQuicktimeMVHDTimezoneCorrection(*folder, true, zones, 3), 0U);
 }
 
 TEST_F(MovieZones, aLoneModificationTimeGivesWayToAnOlderFile) {
