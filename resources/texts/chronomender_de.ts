@@ -575,6 +575,9 @@
     <message id="saveObstacle_notPutBack">
         <translation>einige der alten Zeiten ließen sich nicht zurückschreiben</translation>
     </message>
+    <message id="saveObstacle_notYetWritable">
+        <translation>diese Version schreibt Zeiten dieser Art noch nicht</translation>
+    </message>
     <message id="saveObstacle_unreadableBack">
         <translation>die neue Zeit lässt sich nicht so schreiben, dass sie wieder denselben Zeitpunkt ergibt</translation>
     </message>

@@ -575,6 +575,9 @@
     <message id="saveObstacle_notPutBack">
         <translation>some of the file’s old dates could not be put back</translation>
     </message>
+    <message id="saveObstacle_notYetWritable">
+        <translation>this version does not write dates of this kind yet</translation>
+    </message>
     <message id="saveObstacle_unreadableBack">
         <translation>the new date cannot be written so that it reads back as the same moment</translation>
     </message>

@@ -3,6 +3,7 @@
 
 #include "ItemDates.h"
 #include "StampConversions.h"
+#include "XmpStampConversions.h"
 
 namespace chronomender {
 namespace {
@@ -19,7 +20,9 @@ bool isPhotoWithStamps(SpType type) {
 
 /// Only a stamp without a zone of its own can be in danger.
 bool isLocalStamp(const MySinglePic &pic, StampSlot slot) {
-    return !pic.isSlotXmp(slot) && !pic.zoneStamp(slot);
+    if (const XmpStamp *fromXmp = pic.xmpStamp(slot))
+        return fromXmp->type == XmpStampType::Local;
+    return !pic.zoneStamp(slot);
 }
 
 /// A movie's date that stands in its file as a wall clock without a zone.
@@ -35,9 +38,24 @@ struct Verdict {
     bool isAmbiguous = false;
 };
 
-Verdict verdictFor(const LocatedBytes *stamp, Date date, const absl::TimeZone &zone) {
+/// The bytes that a slot was read from; null without any.
+const LocatedBytes *readBytes(const MySinglePic &pic, StampSlot slot) {
+    const XmpStamp *fromXmp = pic.xmpStamp(slot);
+    const LocatedBytes *stamp = pic.stamp(slot);
+    return stamp || !fromXmp ? stamp : &fromXmp->value;
+}
+
+bool tellsAnotherClock(const MySinglePic &pic, StampSlot slot, const CivilFields &clock) {
+    const LocatedBytes *stamp = pic.stamp(slot);
     const auto text = stamp ? exifTimeStampFromData(stamp->data) : std::nullopt;
-    return {text && civilFromExifTimeStamp(*text) != civilFromInstant(date, zone),
+    if (text)
+        return civilFromExifTimeStamp(*text) != clock;
+    const auto fromXmp = stamp ? std::nullopt : wallClockOfXmpStamp(pic.xmpStamp(slot));
+    return fromXmp && *fromXmp != clock;
+}
+
+Verdict verdictFor(const MySinglePic &pic, StampSlot slot, Date date, const absl::TimeZone &zone) {
+    return {tellsAnotherClock(pic, slot, civilFromInstant(date, zone)),
             isAmbiguousLocalTime(date, zone)};
 }
 
@@ -118,11 +136,11 @@ DSTState checkDSTDivergence(const MySinglePic &pic, const absl::TimeZone &zone) 
         const OptionalDate &date = pic.slots.*description(slot).oldDate;
         if (!isCleanDate(date) || !isLocalStamp(pic, slot))
             continue;
-        const LocatedBytes *stamp = pic.stamp(slot);
+        const LocatedBytes *stamp = readBytes(pic, slot);
         const bool isEqualStamp =
             stamp && judgedStamp ? stamp->data == judgedStamp->data : stamp == judgedStamp;
         if (date != judgedDate || !isEqualStamp)
-            verdict = verdictFor(stamp, *date, zone);
+            verdict = verdictFor(pic, slot, *date, zone);
         judgedDate = date;
         judgedStamp = stamp;
         state.divergence |= verdict.isDivergent ? bit(slot) : 0U;

@@ -5,6 +5,7 @@
 #include "ItemDates.h"
 #include "MovieStampConversions.h"
 #include "StampConversions.h"
+#include "XmpStampConversions.h"
 
 #include <algorithm>
 #include <array>
@@ -40,14 +41,21 @@ std::optional<StampSlot> sourceSlot(SpType type) {
     }
 }
 
+/// What a slot's stamp says in this zone; none without one.
+OptionalDate dateOfSlot(const MySinglePic &pic, StampSlot slot, const absl::TimeZone &zone) {
+    const LocatedBytes *stamp = pic.stamp(slot);
+    if (!stamp)
+        return xmpDateFromStampInfos(pic.xmpStamp(slot), zone);
+    const LocatedBytes *zoneStamp = pic.zoneStamp(slot);
+    return dateFromExifData(stamp->data, zoneStamp ? &zoneStamp->data : nullptr, zone);
+}
+
+/// Empty slots, and slots of tags to be added, stay as they are.
 void readSlotAgain(MySinglePic &pic, StampSlot slot, const absl::TimeZone &zone) {
     OptionalDate &oldDate = pic.slots.*description(slot).oldDate;
-    const LocatedBytes *stamp = pic.stamp(slot);
-    if (!stamp || !oldDate || *oldDate == InfinitePast())
+    if (!oldDate || *oldDate == InfinitePast())
         return;
-    const LocatedBytes *zoneStamp = pic.zoneStamp(slot);
-    const OptionalDate date =
-        dateFromExifData(stamp->data, zoneStamp ? &zoneStamp->data : nullptr, zone);
+    const OptionalDate date = dateOfSlot(pic, slot, zone);
     if (!isCleanDate(date))
         return;
     oldDate = date;

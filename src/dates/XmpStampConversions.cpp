@@ -12,30 +12,37 @@ IsoForm formOf(bool isLocalStamp, unsigned subtype) {
     return {!(subtype & kXmpWithoutSeconds), isLocalStamp ? IsoZone::None : zone};
 }
 
-/// Fractions stay in the file as they are, so a date never has them.
-OptionalDate wholeSeconds(const std::optional<IsoStamp> &read, const absl::TimeZone &zone) {
-    if (!read)
+/// A stamp without its fraction, which stays in the file as it is. A wall clock's zone was refused
+/// by the reader if there is one.
+std::optional<IsoStamp> wholeSeconds(const XmpStamp *stamp) {
+    if (!stamp || stamp->type == XmpStampType::Invalid)
         return std::nullopt;
-    IsoStamp stamp = *read;
-    stamp.fraction = absl::ZeroDuration();
-    return instantFromIsoStamp(stamp, zone);
+    const std::string_view text = stamp->value.data;
+    const std::string_view clock = text.substr(0, xmpClockLength(stamp->subtype));
+    const std::size_t zoneLength = stamp->type == XmpStampType::Local ? 0
+                                   : stamp->type == XmpStampType::Utc
+                                       ? 1
+                                       : xmpZoneLength(stamp->subtype);
+    if (text.size() < clock.size() + zoneLength)
+        return std::nullopt;
+    return readIsoStamp(std::string(clock).append(text.substr(text.size() - zoneLength)));
 }
 
 } // namespace
 
 OptionalDate xmpDateFromStampInfos(const XmpStamp *stamp, const absl::TimeZone &zone) {
-    if (!stamp || stamp->type == XmpStampType::Invalid)
-        return std::nullopt;
-    const std::string_view text = stamp->value.data;
-    const std::string_view clock = text.substr(0, xmpClockLength(stamp->subtype));
-    if (stamp->type == XmpStampType::Local)
-        return wholeSeconds(readIsoStamp(clock), zone);
-    const std::size_t zoneLength =
-        stamp->type == XmpStampType::Utc ? 1 : xmpZoneLength(stamp->subtype);
-    if (text.size() < clock.size() + zoneLength)
-        return std::nullopt;
-    return wholeSeconds(
-        readIsoStamp(std::string(clock).append(text.substr(text.size() - zoneLength))), zone);
+    const auto read = wholeSeconds(stamp);
+    return read ? OptionalDate(instantFromIsoStamp(*read, zone)) : std::nullopt;
+}
+
+std::optional<CivilFields> wallClockOfXmpStamp(const XmpStamp *stamp) {
+    const auto read = wholeSeconds(stamp);
+    return read ? std::optional(read->fields) : std::nullopt;
+}
+
+std::optional<std::int32_t> secondsFromXmpStamp(const XmpStamp *stamp) {
+    const auto read = wholeSeconds(stamp);
+    return read ? read->secondsEastOfUtc : std::nullopt;
 }
 
 std::optional<std::string> xmpTimeStampFromDate(Date date, const absl::TimeZone &zone,
@@ -46,8 +53,9 @@ std::optional<std::string> xmpTimeStampFromDate(Date date, const absl::TimeZone 
 OptionalDate dateFromXmpTimeStamp(std::string_view text, const absl::TimeZone &zone,
                                   bool isLocalStamp, unsigned subtype) {
     const auto stamp = readIsoStamp(text);
-    return stamp && stamp->form == formOf(isLocalStamp, subtype) ? wholeSeconds(stamp, zone)
-                                                                 : std::nullopt;
+    const bool isOfForm =
+        stamp && stamp->fractionLength == 0 && stamp->form == formOf(isLocalStamp, subtype);
+    return isOfForm ? OptionalDate(instantFromIsoStamp(*stamp, zone)) : std::nullopt;
 }
 
 } // namespace chronomender

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "Date.h"
+#include "StampSyntax.h"
 #include "XmpData.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -14,6 +16,11 @@ namespace chronomender {
 /// The instant of a stamp, in whole seconds; a stamp with a zone of its own does not ask `zone`.
 /// None without a stamp (null), and for one that is no date.
 OptionalDate xmpDateFromStampInfos(const XmpStamp *stamp, const absl::TimeZone &zone);
+
+/// The wall clock that a stamp tells, in its own zone if it has one; second 0 without seconds.
+std::optional<CivilFields> wallClockOfXmpStamp(const XmpStamp *stamp);
+/// The offset that a stamp tells; none for a wall clock and for null.
+std::optional<std::int32_t> secondsFromXmpStamp(const XmpStamp *stamp);
 
 /// A stamp as the packet writes it: a local one as the wall clock of `zone`, any other with the
 /// offset of `zone` behind it; by the bits of `subtype` without seconds or without the colon. None

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ZoneLookup.h"
 
+#include "StampConversions.h"
 #include "StampSyntax.h"
+#include "XmpStampConversions.h"
 
 namespace chronomender {
 namespace {
@@ -25,8 +27,19 @@ const ZoneChoice *targetChoiceForPic(const MySinglePic &pic, const MySingleFolde
     return sourceDefault ? &*sourceDefault : nullptr;
 }
 
-/// The fixed offset that a slot's own zone stamp tells.
+/// The fixed offset that an XMP stamp tells.
+std::optional<Zone> ownZoneOfXmpStamp(const XmpStamp *stamp) {
+    const auto seconds = secondsFromXmpStamp(stamp);
+    const auto text = seconds ? exifOffsetDataFromSeconds(*seconds) : std::nullopt;
+    const auto offset = text ? exifOffsetFromData(*text) : std::nullopt;
+    return offset ? std::optional(Zone{*offset, absl::FixedTimeZone(*seconds)}) : std::nullopt;
+}
+
+/// The fixed offset that a slot's own zone stamp tells, or its XMP stamp.
 std::optional<Zone> ownZoneOfSlot(const MySinglePic &pic, StampSlot slot) {
+    const XmpStamp *fromXmp = pic.xmpStamp(slot);
+    if (fromXmp && !pic.stamp(slot))
+        return ownZoneOfXmpStamp(fromXmp);
     const LocatedBytes *zoneStamp = pic.zoneStamp(slot);
     const auto text = zoneStamp ? exifOffsetFromData(zoneStamp->data) : std::nullopt;
     const auto seconds = text ? secondsFromExifOffset(*text) : std::nullopt;

@@ -31,7 +31,8 @@ const Zone &sourceTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &f
 const Zone &targetTimeZoneForPic(const MySinglePic &pic, const MySingleFolder &folder,
                                  const Zones &zones);
 
-/// The zone in which one slot was read: its zone stamp's fixed offset, else the item's source zone.
+/// The zone in which one slot was read: the fixed offset of its zone stamp or XMP stamp, else the
+/// item's source zone.
 Zone sourceZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFolder &folder,
                        const Zones &zones);
 

@@ -51,6 +51,12 @@ SlotResult fileSlotResult(const MySinglePic &pic, const SlotDescription &slot) {
     return isCreation ? SlotResult::NotStorable : SlotResult::WrittenInPlace;
 }
 
+/// XMP stamps would go on telling the old date, and a chunk of a PNG carries a checksum: such a
+/// file is not touched at all rather than written in part.
+bool isWritable(const MySinglePic &pic) {
+    return pic.singlePicAttributes.xmpDateInfos.isEmpty() && pic.fileFormatType != FileFormatPng;
+}
+
 bool hasProblem(std::span<const PreSaveFinding> problems, PreSaveProblem problem) {
     return std::any_of(problems.begin(), problems.end(),
                        [problem](const auto &each) { return each.problem == problem; });
@@ -80,6 +86,8 @@ std::string_view textKey(PlanObstacle obstacle) {
         return "saveObstacle_valuesCollide";
     case PlanObstacle::NotAccepted:
         return "saveObstacle_notAccepted";
+    case PlanObstacle::NotYetWritable:
+        return "saveObstacle_notYetWritable";
     }
     return {};
 }
@@ -95,6 +103,10 @@ PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context) {
     PatchPlan plan;
     if (!pic.hasCorrectableDate())
         return plan;
+    if (!isWritable(pic)) {
+        plan.obstacle = PlanObstacle::NotYetWritable;
+        return plan;
+    }
     std::vector<ValuePatch> patches;
     patches.reserve(2 * stampSlots.size() + 2);
     for (std::size_t i = 0; i < stampSlots.size(); ++i) {
