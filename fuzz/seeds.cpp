@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LittleAvi.h"
+#include "LittleHeif.h"
 #include "LittleMovie.h"
 #include "LittlePhoto.h"
+#include "LittlePng.h"
+#include "LittleWebp.h"
 
 #include <filesystem>
 #include <fstream>
@@ -38,6 +41,32 @@ void writePhotos(const std::filesystem::path &root) {
     write(root / "tiff_walk", "embedded", embeddedJpegRaw().bytes);
 }
 
+void writeContainers(const std::filesystem::path &root) {
+    PhotoFields fields = fullPhotoFields(Endian::Motorola);
+    fields.make = "Apple";
+    fields.contentIdentifier = "0C0F5A3E-2B5C-4C8A-9D7C-5F1E2D3C4B5A";
+    fields.xmp = "<x:xmpmeta xmlns:x='adobe:ns:meta/'></x:xmpmeta>";
+    fields.bodyLength = 9;
+    write(root / "heif_walk", "plain", heifPhoto(fields).bytes);
+    write(
+        root / "heif_walk", "wide",
+        heifPhoto(
+            fields,
+            {.locationVersion = 1, .lengthWidth = 8, .baseWidth = 8, .indexWidth = 4, .extents = 2})
+            .bytes);
+    write(root / "heif_walk", "inside",
+          heifPhoto(fields, {.locationVersion = 2, .method = 1, .itemVersion = 3}).bytes);
+    write(root / "cr3_walk", "plain",
+          cr3Photo(fields).bytes.substr(fileType("crx ", "isom").size()));
+    write(root / "png_walk", "plain", pngPhoto(fields).bytes);
+    write(root / "png_walk", "behind",
+          Png().images(9, 3).images(1, 2).xmp(fields.xmp).exif("MM").end().bytes());
+    write(root / "webp_walk", "plain", webpPhoto(fields).bytes);
+    const std::string small = Jpeg().frame(0xC0, 160, 120).body(4).bytes();
+    write(root / "internal_previews", "two",
+          small + Jpeg().segment(0xE1, small).frame(0xC2, 700, 700).body(4).bytes());
+}
+
 void writeMovies(const std::filesystem::path &root) {
     MovieFields fields{
         .date = "2020-04-17T10:03:47-0600",
@@ -62,6 +91,7 @@ int main(int count, char **arguments) {
         return 2;
     const std::filesystem::path root = arguments[1];
     writePhotos(root);
+    writeContainers(root);
     writeMovies(root);
     int number = 0;
     for (const char *text : {"2024:05:06 07:08:09", "2024: 5: 6  7: 8: 9", "0000:00:00 00:00:00",

@@ -16,8 +16,14 @@ struct InternalPreview {
     std::int32_t width = 0, height = 0;
 };
 
-/// Searches a raw file for complete JPEGs by their start and end markers. The search is bounded,
-/// and jumps over what it knows.
-std::optional<InternalPreview> savereadInternalJPGs(FileWindow &window);
+/// Searches a raw file for complete JPEGs by their start and end markers; those inside of others
+/// (thumbnails) do not count. A JPEG must be larger than the best one so far in both directions.
+///
+/// The search ends at the first JPEG whose size cannot be told from its frame header (as of a raw
+/// picture in lossless JPEG), where JPEGs are nested more than three deep, and when `mostBytes`
+/// were read. Holes are passed over.
+inline constexpr std::uint64_t kMostPreviewBytes = 256ULL << 20;
+std::optional<InternalPreview> savereadInternalJPGs(FileWindow &window,
+                                                    std::uint64_t mostBytes = kMostPreviewBytes);
 
 } // namespace chronomender

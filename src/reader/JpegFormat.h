@@ -21,6 +21,12 @@ inline constexpr std::uint8_t kJpegMarkerApp1 = 0xE1;
 inline constexpr std::uint8_t kJpegMarkerEndOfImage = 0xD9;
 inline constexpr std::uint8_t kJpegMarkerStartOfScan = 0xDA;
 
+/// A frame header (B.2.2) from its 0xFF on: marker, length, precision, height and width.
+inline constexpr std::size_t kJpegFrameHeader = 9;
+inline constexpr std::size_t kJpegFrameHeightAt = 5, kJpegFrameWidthAt = 7;
+inline constexpr std::uint8_t kJpegFrameFirst = 0xC0, kJpegFrameExtended = 0xC1,
+                              kJpegFrameProgressive = 0xC2;
+
 /// Baseline and progressive frames, SOF0 and SOF2: metadata is looked for in front of them only.
 constexpr bool isJpegFrameMarker(std::uint8_t marker) {
     return (marker & 0xFD) == 0xC0;

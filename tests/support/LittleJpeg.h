@@ -30,9 +30,11 @@ public:
         m_bytes += payload;
         return *this;
     }
-    /// A frame header of one grey sample; 0xC0 is baseline, 0xC2 progressive.
-    Jpeg &frame(unsigned marker = 0xC0) {
-        return segment(marker, std::string("\x08\0\x01\0\x01\x01\x01\x11\0", 9));
+    /// A frame header of one grey component; 0xC0 is baseline, 0xC2 progressive, 0xC3 lossless.
+    Jpeg &frame(unsigned marker = 0xC0, std::size_t width = 1, std::size_t height = 1) {
+        return segment(marker, "\x08" + number(height, 2, Endian::Motorola) +
+                                   number(width, 2, Endian::Motorola) +
+                                   std::string("\x01\x01\x11\0", 4));
     }
     /// Start of scan, `length` bytes that hold no marker, and the end of the image.
     Jpeg &body(std::size_t length) {
