@@ -12,10 +12,6 @@ Path pathFor(SpType type) {
     return isPreferringFileDate(type) ? Path::TiffOnly : Path::Exif;
 }
 
-bool reachesForDependent(SpType type) {
-    return type != SpTypeMovieFileDate && !isPreferringFileDate(type);
-}
-
 /// Whether an item's dates are to be calculated.
 enum class Occasion {
     None,         ///< the item is unchanged
@@ -61,8 +57,7 @@ void calculateChanged(MySinglePic &pic, const NewDateContext &context, SpType wo
                       Occasion occasion) {
     if (context.mode == CalculationMode::Save)
         pic.save.isAffectedBySave = true;
-    if (reachesForDependent(workingType))
-        calculateDependent(pic, context);
+    calculateDependent(pic, context);
     const NewDateInputs inputs{context.options,
                                context.mode,
                                absl::Seconds(context.dateComparisonThresold),

@@ -48,7 +48,8 @@ struct NewDateContext {
 /// Fills the five NEW slots (and `spDateTimeModified_tempFIX`, in save mode `isAffectedBySave`)
 /// from the item's one corrected date. An unchanged item ends with every NEW equal to its OLD; so
 /// do items that were left alone and items without a correctable date. In save mode the dependent
-/// of a group is calculated first, by its own path; types 4, 14 and 18 never reach for theirs.
+/// of a group is calculated first, by its own path, whatever the master's type: its NEW slots would
+/// otherwise be those of an earlier calculation. So a worker gives a copy of both.
 ///
 /// A preference with a value outside its table leaves its slot as it was. In a live calculation
 /// "now" reads as the distant future.

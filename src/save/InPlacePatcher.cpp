@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <span>
 
 namespace chronomender {
@@ -39,66 +40,6 @@ bool putBack(OpenFile &file, const Patch &patch) {
     return isOurs(present, patch) && file.pwrite(patch.before(), patch.offset());
 }
 
-class ItemPatcher {
-public:
-    ItemPatcher(OpenFile &file, const MySinglePic &pic, const PatchPlan &plan)
-        : m_file(file), m_pic(pic), m_plan(plan) {}
-
-    PatchOutcome run() {
-        const FileUnchangedState state = stateOfOpenFile(m_pic, m_file);
-        if (state != FileUnchangedState::Unchanged)
-            return failed(SaveErrorId::ChangedSinceImport, state);
-        if (m_plan.isEmpty())
-            return {};
-        // Only a file's owner may set its times. Asked first, so that a file whose date cannot be
-        // set is not touched at all.
-        if (!m_file.setModificationDate(m_pic.singlePicAttributes.fileModificationDate))
-            return failed(SaveErrorId::SettingFileDatesFailed, state, m_file.lastError().text());
-        for (const Patch &patch : m_plan.patches) {
-            ++m_begun;
-            if (!m_file.pwrite(patch.after(), patch.offset()))
-                return takenBack(SaveErrorId::WriteFailed, m_file.lastError().text());
-        }
-        return finished();
-    }
-
-private:
-    PatchOutcome finished() {
-        if (!m_file.setModificationDate(*m_plan.modificationDate))
-            return takenBack(SaveErrorId::SettingFileDatesFailed, m_file.lastError().text());
-        PatchOutcome outcome;
-        outcome.attributes = m_file.attributes();
-        if (!outcome.attributes)
-            return takenBack(SaveErrorId::WriteFailed, m_file.lastError().text());
-        // A file system that cannot keep the date stores another one without a word.
-        if (distance(outcome.attributes->modificationDate, *m_plan.modificationDate) >
-            kCoarsestFileTime)
-            return takenBack(SaveErrorId::SettingFileDatesFailed,
-                             text("saveObstacle_fileDateNotKept"));
-        outcome.isWritten = true;
-        return outcome;
-    }
-
-    PatchOutcome takenBack(SaveErrorId id, std::string systemText) {
-        bool isBack = true;
-        for (std::size_t i = m_begun; i-- > 0;)
-            isBack = putBack(m_file, m_plan.patches[i]) && isBack;
-        // Where even this date cannot be set there is nothing left to try.
-        (void)m_file.setModificationDate(m_pic.singlePicAttributes.fileModificationDate);
-        if (!isBack)
-            systemText += "; " + text("saveObstacle_notPutBack");
-        PatchOutcome outcome = failed(id, FileUnchangedState::Unchanged, std::move(systemText));
-        outcome.state = isBack ? FileUnchangedState::Unchanged : FileUnchangedState::BytesDiffer;
-        outcome.attributes = m_file.attributes();
-        return outcome;
-    }
-
-    OpenFile &m_file;
-    const MySinglePic &m_pic;
-    const PatchPlan &m_plan;
-    std::size_t m_begun = 0;
-};
-
 bool areSidecarsThere(const MySinglePic &pic, FileLayer &files) {
     const auto paths = pic.spSidecarPaths();
     return std::all_of(paths.begin(), paths.end(),
@@ -123,23 +64,133 @@ std::optional<PatchOutcome> sidecarProblem(const MySinglePic &pic, FileLayer &fi
     return std::nullopt;
 }
 
+/// One file through its three steps; each answers whether the next may follow.
+class ItemPatcher {
+public:
+    ItemPatcher(const PatchJob &job, FileLayer &files)
+        : m_pic(job.pic), m_path(job.path), m_plan(job.plan), m_files(files) {}
+
+    /// Everything that can be known before the first write.
+    bool prove() {
+        if (m_pic.save.fileUnchangedState == FileUnchangedState::MustBeReadAgain)
+            return fail(SaveErrorId::ChangedSinceImport, FileUnchangedState::MustBeReadAgain);
+        if (auto problem = sidecarProblem(m_pic, m_files)) {
+            m_outcome = *std::move(problem);
+            return false;
+        }
+        if (!open())
+            return false;
+        const FileUnchangedState state = stateOfOpenFile(m_pic, *m_file);
+        if (state != FileUnchangedState::Unchanged)
+            return fail(SaveErrorId::ChangedSinceImport, state);
+        // Only a file's owner may set its times. Asked first, so that a file whose date cannot be
+        // set is not touched at all.
+        if (!m_plan.isEmpty() &&
+            !m_file->setModificationDate(m_pic.singlePicAttributes.fileModificationDate))
+            return fail(SaveErrorId::SettingFileDatesFailed, state, m_file->lastError().text());
+        return true;
+    }
+
+    /// False when nothing is left of what was written, or the outcome says otherwise.
+    bool write() {
+        if (m_plan.isEmpty())
+            return true;
+        for (const Patch &patch : m_plan.patches) {
+            ++m_begun;
+            if (!m_file->pwrite(patch.after(), patch.offset()))
+                return takeBack(SaveErrorId::WriteFailed, m_file->lastError().text());
+        }
+        return finish();
+    }
+
+    /// After the other half failed: nothing of this one stays written.
+    void followFailureOf(const ItemPatcher &other) {
+        if (m_outcome.isWritten) {
+            takeBack(SaveErrorId::WriteFailed, {});
+            if (m_outcome.state != FileUnchangedState::Unchanged)
+                return;
+        }
+        m_outcome.error = other.m_outcome.error;
+        m_outcome.isOfOtherHalf = true;
+    }
+
+    PatchOutcome takeOutcome() { return std::move(m_outcome); }
+
+private:
+    bool fail(SaveErrorId id, FileUnchangedState state, std::string systemText = {}) {
+        m_outcome = failed(id, state, std::move(systemText));
+        return false;
+    }
+
+    bool open() {
+        FileError error;
+        const OpenMode mode = m_plan.isEmpty() ? OpenMode::Read : OpenMode::Update;
+        m_file = m_files.open(m_path, mode, &error);
+        if (!m_file && isAbsence(error))
+            return fail(SaveErrorId::NotReachable, FileUnchangedState::NotFound);
+        if (!m_file)
+            return fail(SaveErrorId::CannotBeOpened, FileUnchangedState::CannotBeOpened,
+                        error.text());
+        return true;
+    }
+
+    bool finish() {
+        if (!m_file->setModificationDate(*m_plan.modificationDate))
+            return takeBack(SaveErrorId::SettingFileDatesFailed, m_file->lastError().text());
+        m_outcome.attributes = m_file->attributes();
+        if (!m_outcome.attributes)
+            return takeBack(SaveErrorId::WriteFailed, m_file->lastError().text());
+        // A file system that cannot keep the date stores another one without a word.
+        if (distance(m_outcome.attributes->modificationDate, *m_plan.modificationDate) >
+            kCoarsestFileTime)
+            return takeBack(SaveErrorId::SettingFileDatesFailed,
+                            text("saveObstacle_fileDateNotKept"));
+        m_outcome.isWritten = true;
+        return true;
+    }
+
+    /// Always false, with what became of the file in the outcome.
+    bool takeBack(SaveErrorId id, std::string systemText) {
+        bool isBack = true;
+        for (std::size_t i = m_begun; i-- > 0;)
+            isBack = putBack(*m_file, m_plan.patches[i]) && isBack;
+        // Where even this date cannot be set there is nothing left to try.
+        (void)m_file->setModificationDate(m_pic.singlePicAttributes.fileModificationDate);
+        if (!isBack)
+            systemText += (systemText.empty() ? "" : "; ") + text("saveObstacle_notPutBack");
+        fail(id, isBack ? FileUnchangedState::Unchanged : FileUnchangedState::BytesDiffer,
+             std::move(systemText));
+        m_outcome.attributes = m_file->attributes();
+        return false;
+    }
+
+    const MySinglePic &m_pic;
+    const std::string &m_path;
+    const PatchPlan &m_plan;
+    FileLayer &m_files;
+    std::unique_ptr<OpenFile> m_file;
+    std::size_t m_begun = 0;
+    PatchOutcome m_outcome;
+};
+
 } // namespace
 
-PatchOutcome patchFile(const MySinglePic &pic, const std::string &path, const PatchPlan &plan,
-                       FileLayer &files) {
-    if (pic.save.fileUnchangedState == FileUnchangedState::MustBeReadAgain)
-        return failed(SaveErrorId::ChangedSinceImport, FileUnchangedState::MustBeReadAgain);
-    if (auto problem = sidecarProblem(pic, files))
-        return *std::move(problem);
-    FileError error;
-    const OpenMode mode = plan.isEmpty() ? OpenMode::Read : OpenMode::Update;
-    const auto file = files.open(path, mode, &error);
-    if (!file && isAbsence(error))
-        return failed(SaveErrorId::NotReachable, FileUnchangedState::NotFound);
-    if (!file)
-        return failed(SaveErrorId::CannotBeOpened, FileUnchangedState::CannotBeOpened,
-                      error.text());
-    return ItemPatcher(*file, pic, plan).run();
+PatchOutcome patchFile(const PatchJob &job, FileLayer &files) {
+    ItemPatcher patcher(job, files);
+    if (patcher.prove())
+        patcher.write();
+    return patcher.takeOutcome();
+}
+
+PairOutcome patchPair(const PatchJob &dependent, const PatchJob &master, FileLayer &files) {
+    ItemPatcher first(dependent, files), second(master, files);
+    if (!second.prove())
+        first.followFailureOf(second);
+    else if (!first.prove() || !first.write())
+        second.followFailureOf(first);
+    else if (!second.write())
+        first.followFailureOf(second);
+    return {first.takeOutcome(), second.takeOutcome()};
 }
 
 } // namespace chronomender

@@ -5,6 +5,7 @@
 #include "PatchPlan.h"
 #include "SaveDriver.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,29 +31,42 @@ private:
 };
 
 /// One folder of stage one: the items that a save would take, their proofs, dates and problems.
-/// Appends to `result`, and stores what was found in the items. False when cancelled.
+/// Appends to `result`, the dependent of a group right before its master, and stores what was found
+/// in the items.
 class FolderPreProcess {
 public:
     FolderPreProcess(const MySingleFolderPtr &folder, std::vector<MySinglePicPtr> items,
                      const SaveRequest &request, const SaveServices &services,
                      const DateChangeOptions &options);
 
+    /// False when cancelled.
     bool run(ProgressCounter &progress, PreProcessResult &result);
 
 private:
-    /// What a worker found out about one item.
-    struct Finding {
+    /// What a worker found out about one file.
+    struct Side {
+        MySinglePicPtr pic;
         FileUnchangedState state{};
         OptionalDate lastCheckedAt;
         DateSlots slots;
         Date modified;
         bool isAffectedBySave = false;
+        bool isPartOfSave = false;
         ItemOutcome outcome;
+    };
+    /// An item with the other half of its group.
+    struct Finding {
+        Side item;
+        std::optional<Side> dependent;
     };
 
     void examine(const MySinglePicPtr &pic, Finding &finding) const;
+    MySinglePicPtr provedCopy(const MySinglePic &pic) const;
+    Side found(const MySinglePicPtr &pic, const MySinglePic &copy, bool isPartOfSave) const;
+    void judge(const MySinglePic &copy, Side &side) const;
+    static void store(const Side &side);
+    static void append(Side &side, PreProcessResult &result);
     void refuseUnreachable(PreProcessResult &result) const;
-    static void store(const MySinglePicPtr &pic, const Finding &finding);
 
     MySingleFolderPtr m_folder;
     std::vector<MySinglePicPtr> m_items;
@@ -63,7 +77,8 @@ private:
     std::string m_path;
 };
 
-/// The items of a folder that a save would take, in the folder's order. Main thread.
+/// The items of a folder's main list that a save would take, for their own sake or for that of
+/// their dependent, in the folder's order. Main thread.
 std::vector<MySinglePicPtr> itemsToSave(const MySingleFolder &folder, bool savingAll);
 
 } // namespace chronomender

@@ -82,19 +82,26 @@ protected:
         const auto &items = session.folder().sfPicDetails_fullArray;
         ASSERT_EQ(fresh.size(), items.size());
         for (std::size_t i = 0; i < fresh.size(); ++i) {
-            const std::string &name = items[i]->spName;
-            for (const SlotDescription &slot : slotDescriptions)
-                EXPECT_EQ(items[i]->slots.*slot.oldDate, fresh[i]->slots.*slot.oldDate)
-                    << name << ' ' << slot.name;
-            EXPECT_EQ(items[i]->spDateTimeOriginal, fresh[i]->spDateTimeOriginal) << name;
-            EXPECT_EQ(items[i]->spType, fresh[i]->spType) << name;
-            EXPECT_EQ(items[i]->location.spGpsUTCDate, fresh[i]->location.spGpsUTCDate) << name;
-            for (const RecordedValue &kind : recordedValues()) {
-                const LocatedBytes *mine = kind.find(items[i]->singlePicAttributes);
-                const LocatedBytes *its = kind.find(fresh[i]->singlePicAttributes);
-                ASSERT_EQ(mine != nullptr, its != nullptr) << name << ' ' << kind.key;
-                EXPECT_TRUE(!mine || *mine == *its) << name << ' ' << kind.key;
-            }
+            expectSameAsFresh(*items[i], *fresh[i]);
+            const auto &dependent = items[i]->group.bundleDependentImage;
+            ASSERT_EQ(dependent != nullptr, fresh[i]->group.bundleDependentImage != nullptr);
+            if (dependent)
+                expectSameAsFresh(*dependent, *fresh[i]->group.bundleDependentImage);
+        }
+    }
+    static void expectSameAsFresh(const MySinglePic &item, const MySinglePic &fresh) {
+        const std::string &name = item.spName;
+        for (const SlotDescription &slot : slotDescriptions)
+            EXPECT_EQ(item.slots.*slot.oldDate, fresh.slots.*slot.oldDate)
+                << name << ' ' << slot.name;
+        EXPECT_EQ(item.spDateTimeOriginal, fresh.spDateTimeOriginal) << name;
+        EXPECT_EQ(item.spType, fresh.spType) << name;
+        EXPECT_EQ(item.location.spGpsUTCDate, fresh.location.spGpsUTCDate) << name;
+        for (const RecordedValue &kind : recordedValues()) {
+            const LocatedBytes *mine = kind.find(item.singlePicAttributes);
+            const LocatedBytes *its = kind.find(fresh.singlePicAttributes);
+            ASSERT_EQ(mine != nullptr, its != nullptr) << name << ' ' << kind.key;
+            EXPECT_TRUE(!mine || *mine == *its) << name << ' ' << kind.key;
         }
     }
 

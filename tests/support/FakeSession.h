@@ -3,6 +3,7 @@
 
 #include "Cancellation.h"
 #include "FailingFileLayer.h"
+#include "Grouping.h"
 #include "ImportRun.h"
 #include "LittlePhoto.h"
 #include "MainThread.h"
@@ -20,6 +21,7 @@
 #include <sys/stat.h>
 
 #include <map>
+#include <set>
 
 namespace chronomender::little {
 
@@ -92,8 +94,9 @@ public:
         std::int64_t position = 0;
         for (const MySingleFolderPtr &each : folders) {
             each->sfPicDetails_fullArray.clear(); // an import passes over names that are there
-            each->sfPicDetails_fullArray =
-                updatePicData(*each, {}, {zones, defaults, *this, cancellation, {}}).items;
+            each->bundleDependentsRawAndJPG.clear();
+            each->bundleDependentsLivePhotos.clear();
+            each->sfPicDetails_fullArray = importInto(*each);
             for (const MySinglePicPtr &pic : each->sfPicDetails_fullArray)
                 pic->positions.indexInSource_full = position++;
         }
@@ -103,14 +106,17 @@ public:
         auto fresh = MySingleFolder::initWithFolder(
             folder(index).sfFolderPath(), folder(index).reference(), folder(index).sfEditMode);
         fresh->sourceTimeZones = folder(index).sourceTimeZones;
-        return updatePicData(*fresh, {}, {zones, defaults, *this, cancellation, {}}).items;
+        return importInto(*fresh);
     }
 
     MySinglePic &item(const std::string &name) {
         for (const MySingleFolderPtr &each : folders)
-            for (const MySinglePicPtr &pic : each->sfPicDetails_fullArray)
-                if (pic->spName == name)
-                    return *pic;
+            for (const auto *list :
+                 {&each->sfPicDetails_fullArray, &each->bundleDependentsRawAndJPG,
+                  &each->bundleDependentsLivePhotos})
+                for (const MySinglePicPtr &pic : *list)
+                    if (pic->spName == name)
+                        return *pic;
         throw std::out_of_range(name);
     }
 
@@ -122,6 +128,17 @@ public:
     }
 
 private:
+    /// The items of the main list; their dependents stand in the folder.
+    std::vector<MySinglePicPtr> importInto(MySingleFolder &target) {
+        auto items = updatePicData(target, {}, {zones, defaults, *this, cancellation, {}}).items;
+        std::set<std::string> names;
+        for (const MySinglePicPtr &pic : items)
+            names.insert(pic->spName);
+        const auto groups = checkForPossibleBundles(target, items, names, {zones, defaults});
+        for (const MySinglePicPtr &dependent : groups.newDependents)
+            std::erase(items, dependent);
+        return items;
+    }
     void addFolder(const std::string &name) {
         std::filesystem::create_directories(disk.path(name));
         folders.push_back(MySingleFolder::initWithFolder(

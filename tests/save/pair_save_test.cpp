@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SaveTest.h"
+#include "ZoneLookup.h"
+
+namespace chronomender {
+namespace {
+
+using namespace little;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+/// A raw file and its JPEG, "a.CR2" and "a.JPG"; the JPEG is the dependent.
+class PairSaveTest : public SaveTest {
+protected:
+    void importPair(const PhotoFields &rawFields, const PhotoFields &jpegFields) {
+        raw = tiffPhoto(rawFields);
+        jpeg = jpegPhoto(jpegFields);
+        session.write("a.CR2", raw.bytes);
+        session.write("a.JPG", jpeg.bytes);
+        session.import();
+        ASSERT_THAT(session.folder().sfPicDetails_fullArray, SizeIs(1));
+    }
+    void importPair() { importPair({.original = rawStamp}, {.original = jpegStamp}); }
+
+    bool isUntouched() const {
+        return content("a.CR2") == raw.bytes && content("a.JPG") == jpeg.bytes;
+    }
+    static std::vector<std::string> names(const std::vector<ItemOutcome> &items) {
+        std::vector<std::string> list;
+        for (const ItemOutcome &item : items)
+            list.push_back(item.pic->spName);
+        return list;
+    }
+    static std::vector<ItemResult> dryResults(const PreProcessResult &dry) {
+        std::vector<ItemResult> list;
+        for (const ItemOutcome &item : dry.items)
+            list.push_back(item.result);
+        return list;
+    }
+
+    static constexpr auto rawStamp = "2024:05:06 07:08:09", jpegStamp = "2024:05:06 07:08:10";
+    BuiltPhoto raw, jpeg;
+};
+
+constexpr auto Saved = ItemResult::Saved;
+constexpr auto Refused = ItemResult::Refused;
+
+TEST_F(PairSaveTest, AShiftMovesBothFilesAndComesBack) {
+    importPair();
+    for (const int hours : {25, -25}) {
+        shift(absl::Hours(hours));
+        const SaveRunResult run = session.save();
+        EXPECT_THAT(names(run.items), ElementsAre("a.JPG", "a.CR2"));
+        EXPECT_THAT(results(run), ElementsAre(Saved, Saved));
+        expectModelIsWhatAFreshImportShows();
+        EXPECT_EQ(isUntouched(), hours < 0);
+        EXPECT_FALSE(session.folder().isUnsavedFolder());
+        if (hours > 0) {
+            EXPECT_EQ(content("a.CR2"),
+                      replaced(raw, {{"ExifDateTimeOriginal", "2024:05:07 08:08:09"}}));
+            EXPECT_EQ(content("a.JPG"),
+                      replaced(jpeg, {{"ExifDateTimeOriginal", "2024:05:07 08:08:10"}}));
+        }
+    }
+}
+
+TEST_F(PairSaveTest, TheItemsOwnShiftIsThatOfBothFilesOnce) {
+    session.folder().sfEditMode = EditMode::Single;
+    importPair();
+    for (int time = 0; time < 2; ++time) {
+        updateSinglePicModificationBy(session.item("a.CR2"), absl::Hours(1));
+        EXPECT_THAT(results(session.save()), ElementsAre(Saved, Saved));
+    }
+    EXPECT_EQ(session.folder().singlePicModeImages, 0);
+    EXPECT_EQ(content("a.JPG"), replaced(jpeg, {{"ExifDateTimeOriginal", "2024:05:06 09:08:10"}}));
+    EXPECT_THAT(session.save().items, IsEmpty());
+}
+
+TEST_F(PairSaveTest, AHalfThatCannotBeWrittenKeepsTheOtherFromBeingWritten) {
+    importPair();
+    shift(absl::Hours(1));
+    for (const char *name : {"a.JPG", "a.CR2"}) {
+        const std::string path = session.path(name);
+        session.write(name, content(name) + "!");
+        EXPECT_THAT(dryResults(session.preProcess()), ElementsAre(Refused, Refused)) << name;
+        EXPECT_THAT(kinds(session.preProcess().problems),
+                    ElementsAre(PreSaveProblem::error_08_modifiedAfterImport))
+            << name << ": said once for both";
+        const SaveRunResult run = session.save();
+        EXPECT_THAT(results(run), ElementsAre(Refused, Refused)) << name;
+        EXPECT_THAT(ids(run), ElementsAre(SaveErrorId::ChangedSinceImport)) << name;
+        for (const ItemOutcome &item : run.items)
+            EXPECT_TRUE(item.errors.at(0).path.ends_with(name)) << "both halves say why";
+        EXPECT_EQ(session.files.writes, 0);
+        const BuiltPhoto &built = name == std::string("a.JPG") ? jpeg : raw;
+        session.write(name, built.bytes);
+        // The file is another one now: its directory entry and times are.
+        session.import();
+        session.folder().sfEditMode = EditMode::Together;
+        shift(absl::Hours(1));
+    }
+}
+
+TEST_F(PairSaveTest, AMasterThatFailsInTheMiddleTakesTheDependentBack) {
+    importPair({.original = rawStamp, .modified = rawStamp}, {.original = jpegStamp});
+    shiftAllSlotsAlike();
+    shift(absl::Hours(1));
+    session.files.failingWrite = 3; // the second stamp of the raw file
+    const SaveRunResult run = session.save();
+    EXPECT_THAT(results(run), ElementsAre(Refused, ItemResult::Failed));
+    EXPECT_THAT(ids(run), ElementsAre(SaveErrorId::WriteFailed));
+    EXPECT_TRUE(isUntouched());
+    EXPECT_EQ(session.folder().saveErrors, 1);
+    session.files.failingWrite = 0;
+    EXPECT_THAT(results(session.save()), ElementsAre(Saved, Saved));
+    EXPECT_EQ(content("a.JPG"), replaced(jpeg, {{"ExifDateTimeOriginal", "2024:05:06 08:08:10"}}))
+        << "shifted once, whatever happened in between";
+    expectModelIsWhatAFreshImportShows();
+}
+
+TEST_F(PairSaveTest, AHarmonisedJpegTakesTheDateOfItsRawWhichStaysAsItIs) {
+    session.defaults.setForThisRun("harmonizingRawJpgsTypeDefault", "1");
+    importPair({.original = rawStamp}, {.original = "2024:05:06 09:00:00"});
+    EXPECT_EQ(session.folder().unsavedImagesCount(), 1);
+    const SaveRunResult run = session.save();
+    EXPECT_THAT(names(run.items), ElementsAre("a.JPG"));
+    EXPECT_THAT(results(run), ElementsAre(Saved));
+    EXPECT_EQ(content("a.CR2"), raw.bytes);
+    EXPECT_EQ(content("a.JPG"), replaced(jpeg, {{"ExifDateTimeOriginal", rawStamp}}));
+    EXPECT_FALSE(session.folder().isUnsavedFolder());
+    expectModelIsWhatAFreshImportShows();
+}
+
+TEST_F(PairSaveTest, AHalfWithEmptyTagsIsSavedForItsOwnSake) {
+    using EmptyTags = PerFolderImportOptions::EmptyTags;
+    for (const EmptyTags answer : {EmptyTags::FileDate, EmptyTags::LeaveAlone}) {
+        session.emptyTags.withEmptyExifFixDate = answer;
+        session.folder().perFolderImportOptions.reset();
+        importPair({.original = rawStamp}, {.original = "0000:00:00 00:00:00"});
+        const bool isLeftAlone = answer == EmptyTags::LeaveAlone;
+        EXPECT_EQ(session.folder().isUnsavedFolder(), !isLeftAlone);
+        shift(isLeftAlone ? absl::Hours(1) : absl::ZeroDuration());
+        EXPECT_THAT(names(session.save().items), ElementsAre(isLeftAlone ? "a.CR2" : "a.JPG"));
+        EXPECT_EQ(content("a.CR2") == raw.bytes, !isLeftAlone);
+        EXPECT_EQ(content("a.JPG") == jpeg.bytes, isLeftAlone);
+    }
+}
+
+TEST_F(PairSaveTest, ARawDatedByItsFileHasItsJpegCalculatedToo) {
+    importPair({.modified = "2024:07:01 00:00:00"}, {.original = jpegStamp});
+    ASSERT_EQ(session.item("a.CR2").spType, SpTypeTiffYoungerThanFile);
+    for (int time = 0; time < 2; ++time) {
+        shift(absl::Hours(1));
+        EXPECT_THAT(results(session.save()), ElementsAre(Saved, Saved));
+    }
+    EXPECT_EQ(content("a.JPG"), replaced(jpeg, {{"ExifDateTimeOriginal", "2024:05:06 09:08:10"}}));
+}
+
+TEST_F(PairSaveTest, ATargetZoneRewritesBothFiles) {
+    importPair();
+    session.folder().sourceTimeZones.folderDefault = ZoneChoice::system();
+    targetZone("Asia/Tokyo");
+    validateTZCUnsaved(session.folder(), session.zones);
+    EXPECT_THAT(results(session.save()), ElementsAre(Saved, Saved));
+    EXPECT_EQ(content("a.CR2"), replaced(raw, {{"ExifDateTimeOriginal", "2024:05:06 14:08:09"}}));
+    EXPECT_EQ(content("a.JPG"), replaced(jpeg, {{"ExifDateTimeOriginal", "2024:05:06 14:08:10"}}));
+    EXPECT_FALSE(session.folder().isUnsavedFolder());
+    EXPECT_EQ(session.item("a.JPG").spDateTimeOriginal, utc(2024, 5, 6, 5, 8, 10));
+}
+
+} // namespace
+} // namespace chronomender
