@@ -115,7 +115,9 @@ std::size_t SaveReport::count(ReportedResult result) const {
     std::size_t sum = 0;
     for (const ItemOutcome &outcome : m_items)
         sum += resultOf(outcome) == result ? 1 : 0;
-    const std::size_t all = m_controller.source_full().size();
+    std::size_t all = 0;
+    for (const MySinglePicPtr &pic : m_controller.source_full())
+        all += pic->group.bundleDependentImage ? 2 : 1;
     return result == ReportedResult::Unchanged && all > m_items.size() ? sum + all - m_items.size()
                                                                        : sum;
 }
@@ -140,8 +142,11 @@ void SaveReport::appendItem(std::string &buffer, const MySinglePic &pic,
 std::string SaveReport::jsonLines(const Summary &summary) const {
     std::string buffer;
     for (const MySinglePicPtr &pic : m_controller.source_full())
-        if (const MySingleFolderPtr folder = pic->spSingleRealFolder())
+        if (const MySingleFolderPtr folder = pic->spSingleRealFolder()) {
             appendItem(buffer, *pic, *folder);
+            if (const MySinglePicPtr &dependent = pic->group.bundleDependentImage)
+                appendItem(buffer, *dependent, *folder);
+        }
     JsonLine line(buffer);
     line.beginObject("summary");
     for (const ResultName &named : resultNames)

@@ -36,7 +36,8 @@ public:
         bool isDryRun = false, wasInterrupted = false;
         int exitCode = 0;
     };
-    /// A line for each item of the session, in display order, and a summary.
+    /// A line for each file of the session, in display order (a dependent behind its master), and
+    /// a summary.
     std::string jsonLines(const Summary &summary) const;
     /// Every slot old → new, for a dry run.
     std::string plannedText() const;
