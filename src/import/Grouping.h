@@ -44,8 +44,8 @@ struct GroupingResult {
 /// A dependent hands its marks, its own shift and its zone to the master, leaves the folder's main
 /// list and `picsImportedAndTempStoredUntilAllReady`, and joins the folder's list of dependents.
 /// The caller adds those of `newItems` to the main list that are not in `newDependents`, tells
-/// views of `merged`, and recounts the folder. The run's count of fixed dates must be in the
-/// folder's already. Main thread.
+/// views of `merged`, and recounts the folder. Of the folder's `fixedDates`, a dependent's empty
+/// tags are taken off where the master has none. Main thread.
 ///
 ///     new "a.CR2", visible "a.JPG"   merged {a.JPG, a.CR2}, newDependents {}
 ///     new "a.CR2" and "a.JPG"        merged {a.JPG, a.CR2}, newDependents {a.JPG}

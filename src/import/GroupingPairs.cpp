@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "GroupingPairs.h"
 
+#include "MovieFilling.h"
+#include "MovieStampConversions.h"
 #include "StampConversions.h"
 
 #include <algorithm>
 #include <array>
-#include <string>
-#include <utility>
 
 namespace chronomender {
 namespace {
@@ -34,29 +34,13 @@ bool hasSaveError(const MySinglePic &pic) {
     return pic.save.saveErrorType != 0;
 }
 
-/// The first 19 characters of "2024-05-06T07:08:09+0200" read as UTC, whatever zone follows.
-OptionalDate wallClockOfMetaDate(const Bytes &bytes) {
-    constexpr std::size_t length = 19;
-    constexpr std::array<std::pair<std::size_t, char>, 3> marks{{{4, '-'}, {7, '-'}, {10, 'T'}}};
-    if (bytes.size() < length)
-        return std::nullopt;
-    std::string stamp = bytes.substr(0, length);
-    for (const auto &[place, mark] : marks) {
-        if (stamp[place] != mark)
-            return std::nullopt;
-        stamp[place] = ':';
-    }
-    const auto fields = civilFromExifTimeStamp(stamp);
-    return fields ? OptionalDate(instantFromCivil(*fields, absl::UTCTimeZone())) : std::nullopt;
-}
-
+/// What both clocks showed; zones are left out of it, as a movie says its own and a still may not.
 bool areStampsOfOneMoment(const MySinglePic &movie, const MySinglePic &still) {
-    const auto &stillStamp = still.singlePicAttributes.exifDateTimeOriginal;
-    const auto &movieStamp = movie.singlePicAttributes.qtMetaDate;
-    if (!stillStamp || !movieStamp)
-        return false;
-    const OptionalDate stillDate = dateFromExifData(stillStamp->data, nullptr, absl::UTCTimeZone());
-    const OptionalDate movieDate = wallClockOfMetaDate(movieStamp->data);
+    const auto &stamp = still.singlePicAttributes.exifDateTimeOriginal;
+    const absl::TimeZone utc = absl::UTCTimeZone();
+    const OptionalDate stillDate =
+        stamp ? dateFromExifData(stamp->data, nullptr, utc) : std::nullopt;
+    const OptionalDate movieDate = dateIgnoringFromMDTATimeStamp(qTMetaDateString(movie), utc);
     return isCleanDate(stillDate) && isCleanDate(movieDate) &&
            isBundlingAllowedForUtcDates(*stillDate, *movieDate);
 }

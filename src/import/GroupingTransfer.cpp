@@ -2,6 +2,7 @@
 #include "GroupingTransfer.h"
 
 #include "DateModifications.h"
+#include "MovieFilling.h"
 #include "ZoneLookup.h"
 
 #include <algorithm>
@@ -51,6 +52,8 @@ void makeTheDependentImageTo(const MySinglePicPtr &dependent, const MySinglePicP
 
 void moveInfosFromDependentToMaster(MySinglePic &dependent, MySinglePic &master,
                                     MySingleFolder &folder) {
+    if (dependent.isMovie() && !folder.isEXIFIgnored)
+        transformToLivePhotoMovie(dependent);
     moveMarks(dependent.marks, master.marks);
     moveShift(dependent, master, folder);
     if (hasImportOptionChanges(dependent.spType) && !hasImportOptionChanges(master.spType))
