@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ZoneLookup.h"
 
+#include "IsoStamp.h"
 #include "StampConversions.h"
 #include "StampSyntax.h"
 #include "XmpStampConversions.h"
@@ -27,19 +28,35 @@ const ZoneChoice *targetChoiceForPic(const MySinglePic &pic, const MySingleFolde
     return sourceDefault ? &*sourceDefault : nullptr;
 }
 
-/// The fixed offset that an XMP stamp tells.
-std::optional<Zone> ownZoneOfXmpStamp(const XmpStamp *stamp) {
-    const auto seconds = secondsFromXmpStamp(stamp);
+/// The fixed offset that a stamp tells.
+std::optional<Zone> fixedZone(const std::optional<std::int32_t> &seconds) {
     const auto text = seconds ? exifOffsetDataFromSeconds(*seconds) : std::nullopt;
     const auto offset = text ? exifOffsetFromData(*text) : std::nullopt;
     return offset ? std::optional(Zone{*offset, absl::FixedTimeZone(*seconds)}) : std::nullopt;
 }
 
-/// The fixed offset that a slot's own zone stamp tells, or its XMP stamp.
+/// What a movie's metadata date tells of its zone.
+std::optional<IsoStamp> metaDateOf(const MySinglePic &pic) {
+    const auto &date = pic.singlePicAttributes.qtMetaDate;
+    return date ? readIsoStamp(date->data) : std::nullopt;
+}
+
+std::optional<Zone> ownZoneOfMetaDate(const MySinglePic &pic) {
+    const auto stamp = metaDateOf(pic);
+    return stamp ? fixedZone(stamp->secondsEastOfUtc) : std::nullopt;
+}
+
+bool isMetaDate(const MySinglePic &pic, StampSlot slot) {
+    return pic.spType == SpTypeMovieMdta && slot == StampSlot::Original;
+}
+
+/// The fixed offset that a slot's own zone stamp tells, or its XMP stamp or metadata date.
 std::optional<Zone> ownZoneOfSlot(const MySinglePic &pic, StampSlot slot) {
+    if (isMetaDate(pic, slot))
+        return ownZoneOfMetaDate(pic);
     const XmpStamp *fromXmp = pic.xmpStamp(slot);
     if (fromXmp && !pic.stamp(slot))
-        return ownZoneOfXmpStamp(fromXmp);
+        return fixedZone(secondsFromXmpStamp(fromXmp));
     const LocatedBytes *zoneStamp = pic.zoneStamp(slot);
     const auto text = zoneStamp ? exifOffsetFromData(zoneStamp->data) : std::nullopt;
     const auto seconds = text ? secondsFromExifOffset(*text) : std::nullopt;
@@ -84,10 +101,22 @@ Zone sourceZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFol
 
 Zone targetZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFolder &folder,
                        const Zones &zones) {
+    if (isMetaDate(pic, slot))
+        return targetZoneForMetaDate(pic, folder, zones);
     const ZoneChoice *choice = targetChoiceForPic(pic, folder);
     if (choice && choice->is(Kind::Own))
         return sourceZoneForSlot(pic, slot, folder, zones);
     return targetTimeZoneForPic(pic, folder, zones);
+}
+
+Zone targetZoneForMetaDate(const MySinglePic &pic, const MySingleFolder &folder,
+                           const Zones &zones) {
+    const auto stamp = metaDateOf(pic);
+    if (stamp && stamp->form.zone == IsoZone::Letter)
+        return Zones::utc();
+    const ZoneChoice *choice = targetChoiceForPic(pic, folder);
+    auto own = choice && choice->is(Kind::Own) ? ownZoneOfMetaDate(pic) : std::nullopt;
+    return own ? *std::move(own) : targetTimeZoneForPic(pic, folder, zones);
 }
 
 bool hasAssignedTargetZone(const MySinglePic &pic, const MySingleFolder &folder) {

@@ -41,6 +41,10 @@ Zone sourceZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFol
 Zone targetZoneForSlot(const MySinglePic &pic, StampSlot slot, const MySingleFolder &folder,
                        const Zones &zones);
 
+/// The same for a movie's metadata date: UTC where its form says so by a letter.
+Zone targetZoneForMetaDate(const MySinglePic &pic, const MySingleFolder &folder,
+                           const Zones &zones);
+
 /// A target was chosen for the item or its folder: a zone, the system's zone, the source or `_OWN`.
 /// A target that merely follows the folder's source was chosen by nobody.
 bool hasAssignedTargetZone(const MySinglePic &pic, const MySingleFolder &folder);

@@ -13,10 +13,14 @@ namespace chronomender {
 constexpr std::optional<StampSlot> sourceSlot(SpType type) {
     switch (typeAfterFillingEmptyTags(type)) {
     case SpTypeExifOriginal:
+    case SpTypeMovieRiff:
+    case SpTypeMovieMvhdCreation:
+    case SpTypeMovieMdta:
         return StampSlot::Original;
     case SpTypeExifDigitized:
         return StampSlot::Digitized;
     case SpTypeTiffDateTime:
+    case SpTypeMovieMvhdModification:
         return StampSlot::Modification;
     default:
         return std::nullopt;

@@ -4,6 +4,7 @@
 #include "DateModifications.h"
 #include "DaylightSavingChecks.h"
 #include "ItemFilling.h"
+#include "SourceSlot.h"
 #include "ZoneLookup.h"
 
 #include <algorithm>
@@ -15,17 +16,13 @@ namespace {
 constexpr unsigned kDateError = 4;
 constexpr unsigned kTagAddError = 2;
 
-bool isFileDateType(SpType type) {
-    return hasNoDateTags(type) || isPreferringFileDate(type);
-}
-
 void updateMainDate(MySinglePic &pic) {
+    const auto slot = sourceSlot(pic.spType);
+    const OptionalDate &ofSlot =
+        slot ? pic.slots.*description(*slot).oldDate : pic.slots.fileCreationDateOLD;
+    // A header of a movie can hold nothing but its modification time.
     const OptionalDate &source =
-        isFileDateType(pic.spType)          ? pic.slots.fileCreationDateOLD
-        : pic.spType == SpTypeExifOriginal  ? pic.slots.exifDateTimeOriginalOLD
-        : pic.spType == SpTypeExifDigitized ? pic.slots.exifDateTimeDigitizedOLD
-        : pic.spType == SpTypeTiffDateTime  ? pic.slots.tiffDateTimeOLD
-                                            : pic.slots.fileCreationDateOLD;
+        !ofSlot && isQtMovie(pic.spType) ? pic.slots.tiffDateTimeOLD : ofSlot;
     if (isCleanDate(source))
         pic.spDateTimeOriginal = *source;
 }
@@ -91,8 +88,7 @@ void dropSingleShifts(MySingleFolder &folder, const std::vector<MySinglePicPtr> 
 } // namespace
 
 bool needsFullUpdate(const MySinglePic &pic, const PatchPlan &plan) {
-    const SpType type = typeAfterFillingEmptyTags(pic.spType);
-    return type == SpTypeTiffDateTime || type == SpTypeTiffYoungerThanFile ||
+    return isEligibleForYoungerThanFile(typeAfterFillingEmptyTags(pic.spType)) ||
            std::any_of(plan.stamps.begin(), plan.stamps.end(),
                        [](const StampPlan &stamp) { return stamp.isAmbiguous; });
 }

@@ -14,7 +14,7 @@ namespace chronomender {
 /// One run of bytes to be overwritten: as many new ones as old ones.
 class Patch {
 public:
-    static constexpr std::size_t mostBytes = 24; ///< the three rationals of a GPS time
+    static constexpr std::size_t mostBytes = 26; ///< the date text of an AVI
 
     /// `before` and `after` have the same length, at most `mostBytes`.
     Patch(std::uint64_t offset, std::string_view before, std::string_view after);

@@ -2,6 +2,7 @@
 #include "PatchPlan.h"
 
 #include "GpsTimePlan.h"
+#include "MoviePlan.h"
 #include "SourceSlot.h"
 #include "StampPlan.h"
 
@@ -111,7 +112,9 @@ PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context) {
     patches.reserve(2 * stampSlots.size() + 2);
     for (std::size_t i = 0; i < stampSlots.size(); ++i) {
         PlanObstacle obstacle{};
-        plan.stamps[i] = planStamp(pic, stampSlots[i], context, patches, obstacle);
+        plan.stamps[i] = pic.isMovie()
+                             ? planMovieStamp(pic, stampSlots[i], context, patches, obstacle)
+                             : planStamp(pic, stampSlots[i], context, patches, obstacle);
         if (isInTheWay(obstacle, stampSlots[i], pic.spType))
             plan.obstacle = obstacle;
     }
