@@ -3,6 +3,7 @@
 
 #include "DatesData.h"
 #include "MovieData.h"
+#include "XmpFormat.h"
 
 #include <map>
 #include <optional>
@@ -54,6 +55,26 @@ inline std::map<std::string, LocatedBytes> valuesByName(const MovieHeader &heade
         add("location" + std::to_string(i), header.qtLocations[i].value);
         add("accuracy" + std::to_string(i), header.qtLocations[i].hAccuracy);
     }
+    return values;
+}
+
+/// The same for XMP, by the properties' names.
+inline std::map<std::string, LocatedBytes> valuesByName(const XmpDateInfos &infos) {
+    std::map<std::string, LocatedBytes> values;
+    for (const XmpStamp &stamp : infos.stamps)
+        values[std::string(xmpPropertyName(stamp.property))] = stamp.value;
+    return values;
+}
+inline std::map<std::string, LocatedBytes> valuesByName(const XmpLocation &location) {
+    std::map<std::string, LocatedBytes> values;
+    for (const auto &[name, value] :
+         {std::pair{"exif:GPSLatitude", &location.gpsLat},
+          std::pair{"exif:GPSLatitudeRef", &location.gpsLatRef},
+          std::pair{"exif:GPSLongitude", &location.gpsLon},
+          std::pair{"exif:GPSLongitudeRef", &location.gpsLonRef},
+          std::pair{"exif:GPSHPositioningError", &location.gpsPosError}})
+        if (*value)
+            values[name] = **value;
     return values;
 }
 
