@@ -62,7 +62,8 @@ TEST_F(XmpFilling, SlotsTakeTheFirstChoiceAndTellWhereTheyComeFrom) {
 }
 
 TEST_F(XmpFilling, ATiffStampOverwritesTheSlotAndKeepsTheXmpBesideIt) {
-    const auto pic = read(SpTypeExifDigitized, xmpJpeg(packet.bytes(), {.modified = "2024:06:01 12:00:00"}));
+    const auto pic =
+        read(SpTypeExifDigitized, xmpJpeg(packet.bytes(), {.modified = "2024:06:01 12:00:00"}));
     EXPECT_EQ(pic->slots.tiffDateTimeOLD, utc(2024, 6, 1, 10));
     EXPECT_TRUE(pic->xmp.hasModiXmp);
     EXPECT_FALSE(pic->xmp.isModiXmp);
@@ -114,7 +115,7 @@ TEST_F(XmpFilling, ALocationIsTakenWhereTheItemHasNone) {
         const char *latitude, *longitude;
         bool isTaken;
     } rows[] = {
-        {"48,30.6N", "11,15.0W", true}, {"0,0N", "0,0E", false},      {"90,0.1N", "11,0E", false},
+        {"48,30.6N", "11,15.0W", true}, {"0,0N", "0,0E", false},  {"90,0.1N", "11,0E", false},
         {"48,0N", "180,0.1E", false},   {"48,0N", "11,0", false},
     };
     for (const auto &row : rows) {
