@@ -103,6 +103,7 @@ private:
             isLivePhoto ? m_folder.bundleDependentsLivePhotos : m_folder.bundleDependentsRawAndJPG;
         list.push_back(dependent);
         dependent->positions = {};
+        master->livePhoto.livePhotoExactTimeCached.reset();
         changeDependentAndMaster(*dependent, *master, m_folder, m_context.zones,
                                  m_dateComparisonThresold);
         m_merged.push_back(group);

@@ -112,6 +112,7 @@ void applySavedPlan(MySinglePic &pic, const PatchPlan &plan, const PatchOutcome 
         pic.zones.usesAltTimeAtAmbiguityReason = 1;
     checkImportDivergencyAndAmbiguityUsingZone(pic, target.rules);
     pic.zones.isUnsavedDueToTZC = false;
+    pic.livePhoto.livePhotoExactTimeCached.reset();
     pic.save.saveErrorType = 0;
     pic.save.fileUnchangedState = FileUnchangedState::Unchanged;
     pic.save.isInvalidDueToChangesAfterImport = false;

@@ -2,6 +2,7 @@
 #include "FolderSave.h"
 
 #include "AfterSave.h"
+#include "CompoundLivePhotos.h"
 #include "MainThread.h"
 #include "Parallel.h"
 #include "Texts.h"
@@ -172,6 +173,7 @@ void FolderSave::applyToModel(std::vector<Step> &steps) const {
     }
     clearDateValuesAfterSavingFolder(*m_folder, summary, m_services.undo, m_services.zones,
                                      m_services.defaults.integerForKey("dateComparisonThresold"));
+    refreshCompoundLivePhotosStates(*m_folder, m_services.defaults);
 }
 
 } // namespace chronomender
