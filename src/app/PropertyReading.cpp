@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PropertyReading.h"
 
-#include "LateCompletion.h"
 #include "Parallel.h"
 
 namespace chronomender {
@@ -27,20 +26,15 @@ PropertyDictionaries readDictionaries(const std::vector<MySinglePicPtr> &items,
                                       const Cancellation &cancellation) {
     PropertyDictionaries dictionaries(items.size());
     parallelFor(
-        items.size(),
-        [&](std::size_t i) { dictionaries[i] = readPropertyDictionary(items[i]->spPath()); },
+        items.size(), [&](std::size_t i) { dictionaries[i] = readLateProperties(*items[i]); },
         [&] { return cancellation.isRequested(); });
     return dictionaries;
 }
 
 void completeItems(const std::vector<MySinglePicPtr> &items,
                    const PropertyDictionaries &dictionaries) {
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (!dictionaries[i])
-            continue;
-        completeItem(*items[i], *dictionaries[i]);
-        items[i]->camera.lens = dictionaries[i]->lens;
-    }
+    for (std::size_t i = 0; i < items.size(); ++i)
+        completeItem(*items[i], dictionaries[i]);
 }
 
 } // namespace chronomender

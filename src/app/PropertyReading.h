@@ -2,11 +2,10 @@
 #pragma once
 
 #include "Cancellation.h"
+#include "LateCompletion.h"
 #include "MySinglePic.h"
-#include "PropertyDictionary.h"
 
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 namespace chronomender {
@@ -18,10 +17,11 @@ enum class CompletionScope : std::uint8_t { None, WhereCameraIsMissing, All };
 std::vector<MySinglePicPtr> itemsToComplete(const std::vector<MySinglePicPtr> &items,
                                             CompletionScope scope);
 
-using PropertyDictionaries = std::vector<std::optional<PropertyDictionary>>;
+using PropertyDictionaries = std::vector<LateProperties>;
 
-/// Reads the dictionaries of the items' files in parallel; one answer for each item, none where the
-/// library knows nothing or the run was cancelled. Reads the items and changes nothing. Any thread.
+/// Reads the dictionaries of the items' files in parallel; one answer for each item, empty where
+/// the libraries know nothing or the run was cancelled. Reads the items and changes nothing. Any
+/// thread.
 PropertyDictionaries readDictionaries(const std::vector<MySinglePicPtr> &items,
                                       const Cancellation &cancellation);
 

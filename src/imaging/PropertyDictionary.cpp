@@ -4,6 +4,7 @@
 #include "CameraText.h"
 #include "ExifGps.h"
 #include "FileLayer.h"
+#include "MovieProperties.h"
 
 #include <exiv2/exiv2.hpp>
 
@@ -28,10 +29,18 @@ void lockXmp(void *mutex, bool shouldLock) {
         recursive.unlock();
 }
 
-bool isReadableSize(const std::string &path) {
+constexpr off_t mostSidecarBytes = off_t{16} << 20;
+
+bool isReadableSize(const std::string &path, off_t most) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0 &&
-           status.st_size <= mostBytes;
+           status.st_size <= most;
+}
+
+/// Containers whose parser in this library writes beyond its buffers when they are damaged. The
+/// library goes by content, so a photo's name does not keep them away.
+bool isMovie(const Exiv2::Image &image) {
+    return image.mimeType().starts_with("video/");
 }
 
 using Find = Exiv2::ExifData::const_iterator (*)(const Exiv2::ExifData &);
@@ -57,27 +66,50 @@ int orientationOf(const Exiv2::ExifData &exif) {
     return value >= 1 && value <= 8 ? static_cast<int>(value) : 1;
 }
 
-std::int32_t pixelsOf(const Exiv2::ExifData &exif, int measured, const char *key) {
-    if (measured > 0)
-        return measured;
+std::int32_t pixelsOf(const Exiv2::ExifData &exif, const char *key) {
     const auto found = exif.findKey(Exiv2::ExifKey(key));
     const long stated = found == exif.end() || found->count() == 0 ? 0 : found->toLong();
     return static_cast<std::int32_t>(std::clamp<long>(stated, 0, INT32_MAX));
 }
 
+std::string objectNameOf(const Exiv2::IptcData &iptc) {
+    const auto found = iptc.findKey(Exiv2::IptcKey("Iptc.Application2.ObjectName"));
+    return found == iptc.end() ? std::string() : cameraText(found->toString());
+}
+
 PropertyDictionary dictionaryOf(const Exiv2::Image &image) {
+    constexpr int kFirstTurned = 5; // from here on width and height are exchanged
     const Exiv2::ExifData &exif = image.exifData();
     PropertyDictionary dictionary;
     dictionary.make = textOf(exif, Exiv2::make);
     dictionary.model = textOf(exif, Exiv2::model);
     dictionary.lens = textOf(exif, "Exif.Photo.LensModel", Exiv2::lensName);
     dictionary.serialNumber = textOf(exif, "Exif.Photo.BodySerialNumber", Exiv2::serialNumber);
-    dictionary.pixelWidth = pixelsOf(exif, image.pixelWidth(), "Exif.Photo.PixelXDimension");
-    dictionary.pixelHeight = pixelsOf(exif, image.pixelHeight(), "Exif.Photo.PixelYDimension");
+    dictionary.pixelWidth = std::max(image.pixelWidth(), 0);
+    dictionary.pixelHeight = std::max(image.pixelHeight(), 0);
     dictionary.orientation = orientationOf(exif);
+    dictionary.exifWidth = pixelsOf(exif, "Exif.Photo.PixelXDimension");
+    dictionary.exifHeight = pixelsOf(exif, "Exif.Photo.PixelYDimension");
+    if (dictionary.orientation >= kFirstTurned)
+        std::swap(dictionary.exifWidth, dictionary.exifHeight);
     dictionary.gps = gpsOfExif(exif);
+    dictionary.objectName = objectNameOf(image.iptcData());
     dictionary.mimeType = image.mimeType();
     return dictionary;
+}
+
+/// What the library tells of the picture that `open` gives; none when it fails.
+template<class Open>
+std::optional<PropertyDictionary> readWith(Open open) {
+    try {
+        const std::unique_ptr<Exiv2::Image> image(open().release());
+        if (!image || isMovie(*image))
+            return std::nullopt;
+        image->readMetadata();
+        return dictionaryOf(*image);
+    } catch (...) { // damaged files are daily life, and the library throws more than its own type
+        return std::nullopt;
+    }
 }
 
 } // namespace
@@ -90,21 +122,29 @@ void initialiseImaging() {
         Exiv2::LogMsg::setHandler(nullptr);
         Exiv2::XmpParser::initialize(lockXmp, &xmpMutex);
         Exiv2::enableBMFF(true);
+        muteMovieLibrary();
     });
 }
 
 std::optional<PropertyDictionary> readPropertyDictionary(const std::string &path) {
-    try {
-        if (!isReadableSize(path))
-            return std::nullopt;
-        const std::unique_ptr<Exiv2::Image> image(Exiv2::ImageFactory::open(path).release());
-        if (!image)
-            return std::nullopt;
-        image->readMetadata();
-        return dictionaryOf(*image);
-    } catch (...) { // damaged files are daily life, and the library throws more than its own type
+    if (!isReadableSize(path, mostBytes))
         return std::nullopt;
-    }
+    return readWith([&] { return Exiv2::ImageFactory::open(path); });
+}
+
+std::optional<PropertyDictionary> readPropertyDictionaryOf(std::string_view bytes) {
+    const auto *data = reinterpret_cast<const Exiv2::byte *>(bytes.data());
+    return readWith(
+        [&] { return Exiv2::ImageFactory::open(data, static_cast<long>(bytes.size())); });
+}
+
+std::optional<PropertyDictionary> readSidecarDictionary(const std::string &path) {
+    constexpr std::string_view sidecarType = "application/rdf+xml";
+    if (!isReadableSize(path, mostSidecarBytes))
+        return std::nullopt;
+    // The library tells the properties of a packet as the Exif tags that they stand for.
+    auto dictionary = readWith([&] { return Exiv2::ImageFactory::open(path); });
+    return dictionary && dictionary->mimeType == sidecarType ? dictionary : std::nullopt;
 }
 
 } // namespace chronomender

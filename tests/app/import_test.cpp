@@ -137,7 +137,7 @@ TEST_F(Import, CameraIsReadLateOnlyWhereTheFileNamesNone) {
     dictionary.make = "Other";
     dictionary.model = "Other Two";
     dictionary.lens = "50 mm";
-    completeItems(items, {dictionary, std::nullopt});
+    completeItems(items, {{dictionary, {}}, {}});
     EXPECT_EQ(items[0]->camera.pivMakeModel, "Other Two");
     EXPECT_EQ(items[0]->camera.lens, "50 mm");
     EXPECT_EQ(items[1]->camera.pivMakeModel, "Little One");

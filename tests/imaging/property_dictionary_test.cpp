@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CameraText.h"
-#include "LittlePhoto.h"
+#include "LittleHeif.h"
+#include "LittlePng.h"
+#include "LittleWebp.h"
 #include "PropertyDictionary.h"
 #include "TemporaryFolder.h"
 
@@ -51,6 +53,67 @@ TEST_F(PropertyDictionaryTest, TellsWhatWasPutIntoTheFile) {
     ASSERT_TRUE(found->gps);
     EXPECT_NEAR(found->gps->latitude, 48 + 51 / 60.0 + 24.3 / 3600, 1e-9);
     EXPECT_NEAR(found->gps->longitude, 2 + 17 / 60.0 + 40.2 / 3600, 1e-9);
+}
+
+TEST_F(PropertyDictionaryTest, OfEveryContainerThatTheLibraryReads) {
+    const PhotoFields fields = fullPhotoFields();
+    const std::tuple<const char *, std::string, const char *> files[]{
+        {"a.heic", heifPhoto(fields).bytes, "image/heic"},
+        {"a.avif", heifPhoto(fields, {.brand = "avif"}).bytes, "image/avif"},
+        {"a.cr3", cr3Photo(fields).bytes, "image/x-canon-cr3"},
+        {"a.png", pngPhoto(fields).bytes, "image/png"},
+        {"a.webp", webpPhoto(fields).bytes, "image/webp"},
+        {"a.tif", tiffPhoto(fields).bytes, "image/tiff"},
+    };
+    for (const auto &[name, bytes, mimeType] : files) {
+        const auto found = readPropertyDictionary(m_folder.write(name, bytes));
+        ASSERT_TRUE(found) << name;
+        EXPECT_EQ(found->model, "Little One") << name;
+        EXPECT_EQ(found->mimeType, mimeType);
+        ASSERT_TRUE(found->gps) << name;
+        EXPECT_NEAR(found->gps->longitude, 2 + 17 / 60.0 + 40.2 / 3600, 1e-9) << name;
+    }
+}
+
+TEST_F(PropertyDictionaryTest, SizesOfExifStandUpright) {
+    const std::pair<std::uint32_t, std::pair<int, int>> cases[]{
+        {1, {6000, 4000}}, {4, {6000, 4000}}, {5, {4000, 6000}}, {8, {4000, 6000}}};
+    for (const auto &[orientation, size] : cases) {
+        const Tiff tiff = Tiff()
+                              .field(Directory::First, 274, 3, 1, orientation)
+                              .field(Directory::Exif, 0xA002, 4, 1, 6000)
+                              .field(Directory::Exif, 0xA003, 4, 1, 4000);
+        const std::string bytes = Jpeg().exif(tiff.build().bytes).frame().body(9).bytes();
+        const auto found = readPropertyDictionaryOf(bytes);
+        ASSERT_TRUE(found);
+        EXPECT_EQ(std::pair(found->exifWidth, found->exifHeight), size) << orientation;
+        EXPECT_EQ(found->pixelWidth, 1);
+    }
+}
+
+TEST_F(PropertyDictionaryTest, TitleOfIptc) {
+    const std::string record = "\x1C\2\5" + number(5, 2, Endian::Motorola) + "Title";
+    const std::string block = std::string("Photoshop 3.0\0", 14) + std::string("8BIM\4\4\0\0", 8) +
+                              number(record.size(), 4, Endian::Motorola) + record;
+    const std::string bytes = Jpeg().segment(0xED, block).frame().body(9).bytes();
+    EXPECT_EQ(readPropertyDictionaryOf(bytes)->objectName, "Title");
+}
+
+TEST_F(PropertyDictionaryTest, SidecarsTellCameraAndPosition) {
+    const std::string packet =
+        "<?xpacket begin='' id='W5M0MpCehiHzreSzNTczkc9d'?><x:xmpmeta xmlns:x='adobe:ns:meta/'>"
+        "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description "
+        "xmlns:tiff='http://ns.adobe.com/tiff/1.0/' xmlns:exif='http://ns.adobe.com/exif/1.0/' "
+        "tiff:Make='Little' tiff:Model='Little One' exif:GPSLatitude='33,30.0S' "
+        "exif:GPSLongitude='70,0.6W'/></rdf:RDF></x:xmpmeta><?xpacket end='w'?>";
+    const auto found = readSidecarDictionary(m_folder.write("a.xmp", packet));
+    ASSERT_TRUE(found && found->gps);
+    EXPECT_EQ(found->make + '/' + found->model, "Little/Little One");
+    EXPECT_NEAR(found->gps->latitude, -33.5, 1e-6);
+    EXPECT_NEAR(found->gps->longitude, -70.01, 1e-6);
+    EXPECT_FALSE(readSidecarDictionary(m_folder.write("b.xmp", "<x:xmpmeta")));
+    EXPECT_FALSE(
+        readSidecarDictionary(m_folder.write("c.xmp", jpegPhoto(fullPhotoFields()).bytes)));
 }
 
 TEST_F(PropertyDictionaryTest, LocationsOnTheGlobeOnly) {

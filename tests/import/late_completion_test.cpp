@@ -61,19 +61,42 @@ TEST_F(LateCompletionTest, ALocationOfTheFilesOwnTagsStays) {
     EXPECT_EQ(pic->location.gpsLat, 10);
 }
 
-TEST_F(LateCompletionTest, SizesAreOfStillImagesOnly) {
-    completeItem(*pic, sized(6000, 4000));
+TEST_F(LateCompletionTest, SizesAreThoseOfThePixelsElseThoseOfExif) {
+    PropertyDictionary both = sized(6000, 4000);
+    both.exifWidth = both.exifHeight = 10;
+    completeItem(*pic, both);
     EXPECT_EQ(pic->camera.pivImageWidth, 6000);
-    completeItem(*pic, {});
+    completeItem(*pic, PropertyDictionary());
     EXPECT_EQ(pic->camera.pivImageHeight, 4000);
-    pic->fileFormatType = FileFormatQuickTime;
+    PropertyDictionary stated;
+    stated.exifWidth = 300;
+    stated.exifHeight = 200;
+    completeItem(*pic, stated);
+    EXPECT_EQ(pic->camera.pivImageHeight, 200);
+    pic->fileFormatType = FileFormatNone;
     completeItem(*pic, sized(1, 1));
     EXPECT_EQ(pic->camera.pivImageWidth, -1);
 }
 
+TEST_F(LateCompletionTest, MoviesTakeWhatTheirHeaderDidNotTell) {
+    pic->fileFormatType = FileFormatOtherMovie;
+    pic->camera.pivMakeModel = "-";
+    EXPECT_TRUE(lacksCamera(*pic));
+    completeItem(*pic, sized(1, 1));
+    EXPECT_EQ(pic->camera.pivImageWidth, 0);
+    completeItem(*pic, LateProperties{{}, MovieProperties{2.5, 640, 360, "SONY", "HDR-CX"}});
+    EXPECT_EQ(pic->movie.movDuration, 2.5);
+    EXPECT_EQ(pic->camera.pivImageHeight, 360);
+    EXPECT_EQ(pic->camera.pivMakeModel, "SONY HDR-CX");
+    completeItem(*pic, LateProperties{{}, MovieProperties{9, 0, 0, "", ""}});
+    EXPECT_EQ(pic->movie.movDuration, 2.5);
+    EXPECT_EQ(pic->camera.pivImageHeight, 360);
+    EXPECT_FALSE(lacksCamera(*pic));
+}
+
 TEST_F(LateCompletionTest, AnItemIsAskedForOnce) {
     EXPECT_TRUE(lacksCamera(*pic));
-    completeItem(*pic, {});
+    completeItem(*pic, PropertyDictionary());
     EXPECT_FALSE(lacksCamera(*pic));
 }
 
@@ -89,6 +112,19 @@ TEST_F(SecondOpinionTest, AgreesOnCameraAndLocation) {
     EXPECT_EQ(completeMakerModelString(found->make, found->model), pic->camera.pivMakeModel);
     EXPECT_NEAR(found->gps->latitude, pic->location.gpsLat.value_or(0), 1e-9);
     EXPECT_NEAR(found->gps->longitude, pic->location.gpsLong.value_or(0), 1e-9);
+}
+
+TEST_F(SecondOpinionTest, IsThatOfThePreviewWhereARawFileSaysNothing) {
+    initialiseImaging();
+    const std::string exif = little::photoEntries(little::fullPhotoFields()).build().bytes;
+    const std::string preview = little::Jpeg().exif(exif).frame(0xC0, 1620, 1080).body(99).bytes();
+    file("a.raf", "RAWHEADER" + preview + "sensor");
+    const MySinglePicPtr pic = import().items.at(0);
+    pic->camera = {};
+    completeItem(*pic, readLateProperties(*pic));
+    EXPECT_EQ(pic->camera.pivImageWidth, 1620);
+    EXPECT_EQ(pic->camera.pivImageHeight, 1080);
+    EXPECT_EQ(pic->camera.pivMakeModel, "Little One");
 }
 
 } // namespace
