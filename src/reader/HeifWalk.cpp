@@ -2,17 +2,17 @@
 #include "HeifWalk.h"
 
 #include "BoxCursor.h"
+#include "HeifLocations.h"
 
 #include <algorithm>
 #include <array>
-#include <limits>
-#include <string>
 
 namespace chronomender {
 
 namespace {
 
 constexpr unsigned kMostTopLevelBoxes = 51; // `ftyp` and what is in front of `meta`
+constexpr unsigned kMostMetaChildren = 50;
 constexpr unsigned kMostItems = 65536;
 /// Item name, content type and encoding are looked at as far as this.
 constexpr std::uint64_t kLongestItemTexts = 256;
@@ -43,7 +43,7 @@ std::optional<Box> findMeta(const ByteRange &file) {
 
 MetaBoxes findMetaBoxes(const Box &meta) {
     MetaBoxes found;
-    BoxCursor children(metaChildren(meta), BoxLevel::Inside);
+    BoxCursor children(metaChildren(meta), BoxLevel::Inside, kMostMetaChildren);
     while (const auto child = children.next()) {
         if (!child->isComplete)
             break;
@@ -121,93 +121,6 @@ bool readItemList(const Box &list, const ReadBudget &budget, Wanted &wanted,
     return true;
 }
 
-/// Reads the numbers of a location record one after the other. A number that is not there makes
-/// all that follow absent.
-class RecordReader {
-public:
-    RecordReader(const ByteRange &table, std::uint64_t at) : m_table(table), m_at(at) {}
-
-    std::uint64_t next(std::uint64_t width) {
-        if (width == 0)
-            return 0;
-        const auto number = m_table.number(m_at, static_cast<std::size_t>(width));
-        m_isIntact = m_isIntact && number;
-        m_at += width;
-        return number.value_or(0);
-    }
-    void skip(std::uint64_t count, std::uint64_t width) { m_at += count * width; }
-    bool isIntact() const { return m_isIntact; }
-
-private:
-    ByteRange m_table;
-    std::uint64_t m_at;
-    bool m_isIntact = true;
-};
-
-/// The widths in bytes of the numbers in the records.
-struct RecordForm {
-    unsigned version = 0;
-    std::uint64_t offset = 0, length = 0, base = 0, index = 0;
-
-    bool isUsable() const {
-        return version <= kLocationVersionMost &&
-               std::ranges::all_of(
-                   std::array{offset, length, base, index},
-                   [](std::uint64_t width) { return width == 0 || width == 4 || width == 8; });
-    }
-};
-
-RecordForm recordForm(const ByteRange &table) {
-    RecordForm form;
-    form.version = static_cast<unsigned>(table.number(0, 1).value_or(kLocationVersionMost + 1));
-    const std::uint64_t widths = table.number(kLocationWidthsAt, 2).value_or(0);
-    form.offset = widths >> 12 & 0xF;
-    form.length = widths >> 8 & 0xF;
-    form.base = widths >> 4 & 0xF;
-    form.index = form.version >= kLocationVersionMethods ? widths & 0xF : 0;
-    return form;
-}
-
-struct ItemLocation {
-    std::uint64_t number = 0;
-    std::uint64_t method = 0;
-    std::uint64_t extents = 0;
-    std::uint64_t base = 0, offset = 0, length = 0; ///< of the first extent
-};
-
-ItemLocation nextLocation(RecordReader &reader, const RecordForm &form) {
-    constexpr std::uint64_t kMethodMask = 0xF, kReferenceWidth = 2;
-    ItemLocation location;
-    location.number = reader.next(form.version >= kLocationVersionLong ? 4 : 2);
-    if (form.version >= kLocationVersionMethods)
-        location.method = reader.next(2) & kMethodMask;
-    reader.skip(1, kReferenceWidth);
-    location.base = reader.next(form.base);
-    location.extents = reader.next(2);
-    if (location.extents == 0)
-        return location;
-    reader.skip(1, form.index);
-    location.offset = reader.next(form.offset);
-    location.length = reader.next(form.length);
-    reader.skip(location.extents - 1, form.index + form.offset + form.length);
-    return location;
-}
-
-/// The first extent of an item, which is all that is looked at. A length of 0 means up to the end.
-std::optional<ByteRange> firstExtent(const ItemLocation &location, const ByteRange &file,
-                                     const std::optional<Box> &itemData) {
-    const bool isInside = location.method == static_cast<std::uint64_t>(LocationMethod::ItemData);
-    if (location.extents == 0 || (isInside && !itemData) ||
-        location.method > static_cast<std::uint64_t>(LocationMethod::ItemData))
-        return std::nullopt;
-    const ByteRange &source = isInside ? itemData->body : file;
-    if (location.offset > std::numeric_limits<std::uint64_t>::max() - location.base)
-        return std::nullopt;
-    const ByteRange extent = source.part(location.base + location.offset,
-                                         location.length > 0 ? location.length : source.length());
-    return extent.length() > 0 ? std::optional(extent) : std::nullopt;
-}
-
 bool isPlacedOrUnlisted(const WantedItem &item) {
     return !item.number || item.place;
 }
@@ -216,24 +129,21 @@ bool isPlacedOrUnlisted(const WantedItem &item) {
 bool readLocations(const ByteRange &file, const MetaBoxes &boxes, const ReadBudget &budget,
                    Wanted &wanted, MetadataBlocks &blocks) {
     const ByteRange &table = boxes.itemLocations->body;
-    const RecordForm form = recordForm(table);
-    const std::size_t countWidth = form.version >= kLocationVersionLong ? 4 : 2;
-    const std::uint64_t count = table.number(kLocationCountAt, countWidth).value_or(0);
-    if (!form.isUsable())
-        return false;
-    RecordReader reader(table, kLocationCountAt + countWidth);
-    for (std::uint64_t i = 0; i < count && !std::ranges::all_of(wanted, isPlacedOrUnlisted); ++i) {
-        if (budget.isSpent())
+    ItemLocations locations(table);
+    while (!std::ranges::all_of(wanted, isPlacedOrUnlisted)) {
+        if (budget.isSpent()) {
             blocks.findings.push_back({"iloc", table.absolute(0), FindingReason::ScanLimit});
-        const ItemLocation location = nextLocation(reader, form);
-        if (budget.isSpent() || !reader.isIntact())
+            return false;
+        }
+        const auto location = locations.next();
+        if (!location)
             return false;
         for (WantedItem &item : wanted) {
-            if (item.number == location.number && !item.place)
-                item.place = firstExtent(location, file, boxes.itemData);
+            if (item.number == location->number && !item.place)
+                item.place = firstExtent(*location, file, boxes.itemData);
         }
     }
-    return std::ranges::all_of(wanted, isPlacedOrUnlisted);
+    return true;
 }
 
 /// The Exif item from its TIFF header on.

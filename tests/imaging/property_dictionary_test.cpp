@@ -177,12 +177,16 @@ TEST_F(PropertyDictionaryTest, NothingOfFilesThatAreNoPictures) {
 }
 
 TEST_F(PropertyDictionaryTest, DamagedFilesNeitherCrashNorThrow) {
-    const std::string good = jpegPhoto(fullPhotoFields()).bytes;
-    for (std::size_t i = 2; i < good.size(); i += 3) {
-        std::string bad = good;
-        bad[i] = static_cast<char>(bad[i] ^ 0xFF);
-        const auto found = readPropertyDictionary(m_folder.write("bad.jpg", bad));
-        EXPECT_TRUE(!found || found->orientation == 1) << i;
+    const PhotoFields fields = fullPhotoFields();
+    for (const std::string &good :
+         {jpegPhoto(fields).bytes, heifPhoto(fields).bytes, cr3Photo(fields).bytes,
+          pngPhoto(fields).bytes, webpPhoto(fields).bytes}) {
+        for (std::size_t i = 0; i < good.size(); i += 7) {
+            std::string bad = good;
+            bad[i] = static_cast<char>(bad[i] ^ 0xFF);
+            const auto found = readPropertyDictionary(m_folder.write("bad.jpg", bad));
+            EXPECT_TRUE(!found || found->orientation == 1) << i;
+        }
     }
 }
 
