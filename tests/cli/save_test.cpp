@@ -10,6 +10,7 @@ namespace chronomender {
 namespace {
 
 using ::testing::AllOf;
+using ::testing::ContainsRegex;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -51,9 +52,10 @@ TEST_F(Save, DryRunTellsOldDatesAsTheFileDoes) {
     writeZonedPhoto("nikon/b.jpg", "2024:05:06 02:00:00", "-05:00");
     const Arguments arguments{"save",        "--system-zone", "UTC",        "--folder",
                               path("nikon"), "--target-zone", "Asia/Tokyo", "--dry-run"};
+    // The file dates beside them are of any width, so the column is, too.
     EXPECT_THAT(mend(arguments).output,
-                AllOf(HasSubstr("2024-05-06 02:00:00 +00:00      → 2024-05-06 11:00:00 +09:00"),
-                      HasSubstr("2024-05-06 02:00:00 -05:00      → 2024-05-06 16:00:00 +09:00")));
+                AllOf(ContainsRegex("2024-05-06 02:00:00 [+]00:00 +→ 2024-05-06 11:00:00 [+]09:00"),
+                      ContainsRegex("2024-05-06 02:00:00 -05:00 +→ 2024-05-06 16:00:00 [+]09:00")));
     Arguments json = arguments;
     json.push_back("--json");
     EXPECT_FALSE(mend(json).lines().at(0).at("slots").at("exifDateTimeOriginal").at("stays"));
