@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "GroupingPairs.h"
 
-#include "MovieFilling.h"
-#include "MovieStampConversions.h"
-#include "StampConversions.h"
+#include "WallClocks.h"
 
 #include <algorithm>
 #include <array>
@@ -11,9 +9,6 @@
 namespace chronomender {
 namespace {
 
-constexpr absl::Duration sameMoment = absl::Seconds(300);
-constexpr absl::Duration clockStep = absl::Hours(1);
-constexpr int lastHourOfSteps = 5;
 /// Shorter words are no camera: a dash, a blank.
 constexpr std::size_t shortestCamera = 2;
 
@@ -32,17 +27,6 @@ bool mayCamerasBeOne(const CameraInfo &a, const CameraInfo &b) {
 
 bool hasSaveError(const MySinglePic &pic) {
     return pic.save.saveErrorType != 0;
-}
-
-/// What both clocks showed; zones are left out of it, as a movie says its own and a still may not.
-bool areStampsOfOneMoment(const MySinglePic &movie, const MySinglePic &still) {
-    const auto &stamp = still.singlePicAttributes.exifDateTimeOriginal;
-    const absl::TimeZone utc = absl::UTCTimeZone();
-    const OptionalDate stillDate =
-        stamp ? dateFromExifData(stamp->data, nullptr, utc) : std::nullopt;
-    const OptionalDate movieDate = dateIgnoringFromMDTATimeStamp(qTMetaDateString(movie), utc);
-    return isCleanDate(stillDate) && isCleanDate(movieDate) &&
-           isBundlingAllowedForUtcDates(*stillDate, *movieDate);
 }
 
 } // namespace
@@ -67,29 +51,13 @@ bool isLiveMovieToPic(const MySinglePic &movie, const MySinglePic &still,
     if (!id.empty() && id == movie.livePhoto.UUID && movie.spType != SpTypeMovieFileDate &&
         movie.spType != SpTypeMovieRiff)
         return true;
+    const auto &stillStamp = still.singlePicAttributes.exifDateTimeOriginal;
+    const auto &movieStamp = movie.singlePicAttributes.qtMetaDate;
     return movie.spType == SpTypeMovieMdta && still.spType == SpTypeExifOriginal &&
            !movie.camera.pivMakeModel.empty() &&
            movie.camera.pivMakeModel == still.camera.pivMakeModel && !hasSaveError(movie) &&
-           !hasSaveError(still) && areStampsOfOneMoment(movie, still);
-}
-
-bool isBundlingAllowedForUtcDates(Date still, Date movie) {
-    const absl::Duration difference = distance(still, movie);
-    if (difference <= sameMoment)
-        return true;
-    return difference - clockStep <= sameMoment && isDstExceptionForUtcDate(still, movie);
-}
-
-bool isDstExceptionForUtcDate(Date still, Date movie) {
-    const CivilFields first = civilFromInstant(still, absl::UTCTimeZone());
-    const CivilFields second = civilFromInstant(movie, absl::UTCTimeZone());
-    if (first.hour > lastHourOfSteps)
-        return false;
-    const bool isRising = first.minute == 59 && second.minute == 0;
-    const bool isFalling = first.minute == 0 && second.minute == 59;
-    const int hours = second.hour - first.hour;
-    return (hours == 0 && (isRising || isFalling)) || (hours == 2 && isRising) ||
-           (hours == -2 && isFalling);
+           !hasSaveError(still) && stillStamp && movieStamp &&
+           areStampsOfOneMoment(stillStamp->data, movieStamp->data);
 }
 
 } // namespace chronomender

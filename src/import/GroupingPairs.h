@@ -16,11 +16,4 @@ bool isRawToPic(const MySinglePic &raw, const MySinglePic &other, const MySingle
 bool isLiveMovieToPic(const MySinglePic &movie, const MySinglePic &still,
                       const MySingleFolder &folder);
 
-/// The wall clocks of a still and of a movie, both read as UTC, tell the same moment: at most 300 s
-/// apart, or up to 3900 s on the two sides of a daylight-saving step.
-bool isBundlingAllowedForUtcDates(Date still, Date movie);
-/// The two lie around a full hour of the night as the clock is put forward or back: the still not
-/// later than 05:59, minutes 59 and 0, hours equal or two apart.
-bool isDstExceptionForUtcDate(Date still, Date movie);
-
 } // namespace chronomender

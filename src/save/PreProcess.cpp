@@ -139,8 +139,12 @@ void FolderPreProcess::examine(const MySinglePicPtr &pic, Finding &finding) cons
     if (const auto problem = checkFileUnchangedStateForSaveRenameErrors(spoken))
         speaker.outcome.problems.insert(speaker.outcome.problems.begin(),
                                         {speaker.pic, *problem, {}});
-    if (scope == Scope::Both)
-        alignResults(finding.item.outcome, finding.dependent->outcome);
+    if (scope != Scope::Both)
+        return;
+    ItemOutcome &outcome = finding.item.outcome;
+    if (isDriftingApart(*copy, *outcome.plan, *copyOfDependent, *finding.dependent->outcome.plan))
+        outcome.problems.push_back({pic, PreSaveProblem::error_04_livePhotoDriftingApart, {}});
+    alignResults(outcome, finding.dependent->outcome);
 }
 
 MySinglePicPtr FolderPreProcess::provedCopy(const MySinglePic &pic) const {

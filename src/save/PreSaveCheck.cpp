@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PreSaveCheck.h"
 
+#include "LivePhotoTimes.h"
+#include "SourceSlot.h"
 #include "UnchangedProof.h"
+#include "WallClocks.h"
 
 namespace chronomender {
 namespace {
@@ -17,6 +20,14 @@ void addDetail(std::string &details, std::string_view detail) {
     if (!details.empty())
         details += ", ";
     details += detail;
+}
+
+/// The value's bytes as the plan leaves them in the file.
+Bytes bytesAfter(const LocatedBytes &value, const PatchPlan &plan) {
+    for (const Patch &patch : plan.patches)
+        if (patch.offset() == value.offset)
+            return Bytes(patch.after());
+    return value.data;
 }
 
 } // namespace
@@ -63,6 +74,21 @@ void checkCalculatedValuesForSaveErrors(const MySinglePicPtr &pic, const MySingl
         report(PreSaveProblem::error_12_zoneStampRewritten, std::move(zones));
     if (!unreadable.empty())
         report(PreSaveProblem::error_13_unreadableStamp, std::move(unreadable));
+}
+
+bool isDriftingApart(const MySinglePic &still, const PatchPlan &stillPlan, const MySinglePic &movie,
+                     const PatchPlan &moviePlan) {
+    const auto &stillStamp = still.singlePicAttributes.exifDateTimeOriginal;
+    const auto &movieStamp = movie.singlePicAttributes.qtMetaDate;
+    // The content identifier joins them for good, and a still with its own zone stamp cannot be
+    // taken for another moment.
+    const bool isJoinedByClocks =
+        movie.spType == SpTypeMovieMdta && sourceSlot(still.spType) == StampSlot::Original &&
+        !still.zoneStamp(StampSlot::Original) && !lateValidateLivePhoto(still);
+    return isJoinedByClocks && stillStamp && movieStamp &&
+           areStampsOfOneMoment(stillStamp->data, movieStamp->data) &&
+           !areStampsOfOneMoment(bytesAfter(*stillStamp, stillPlan),
+                                 bytesAfter(*movieStamp, moviePlan));
 }
 
 } // namespace chronomender

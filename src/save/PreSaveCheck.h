@@ -18,4 +18,9 @@ void checkCalculatedValuesForSaveErrors(const MySinglePicPtr &pic, const MySingl
                                         const PatchPlan &plan,
                                         std::vector<PreSaveFinding> &findings);
 
+/// The stamps that the plans leave in the two files of a live photo would not join them again: an
+/// import that goes by their clocks would find two items. Both are calculated copies.
+bool isDriftingApart(const MySinglePic &still, const PatchPlan &stillPlan, const MySinglePic &movie,
+                     const PatchPlan &moviePlan);
+
 } // namespace chronomender

@@ -2,6 +2,7 @@
 #include "Grouping.h"
 #include "GroupingPairs.h"
 #include "LittleItem.h"
+#include "WallClocks.h"
 #include "ZoneLookup.h"
 
 #include <gmock/gmock.h>
