@@ -11,17 +11,25 @@
 
 namespace chronomender::fuzz {
 
-/// Reads the input as a file of this format; what is reported must stand in it.
+/// What is reported must stand in the input.
+template<class Read>
+void requireTruth(const Read &read, std::string_view bytes) {
+    if (const auto untruth = little::firstUntruth(read, bytes)) {
+        std::fprintf(stderr, "%s\n", untruth->c_str());
+        std::abort();
+    }
+}
+
+/// Reads the input as a file of this format, its XMP packet too.
 inline void readAs(std::string_view bytes, FileFormatType format) {
     static little::MemoryFile file;
     static MySingleFolderDataReader reader;
     if (!file.fill(bytes) || !reader.borrow(file.descriptor()))
         std::abort();
-    const DatesData dates = reader.readDates(format, "");
-    if (const auto untruth = little::firstUntruth(dates, bytes)) {
-        std::fprintf(stderr, "%s\n", untruth->c_str());
-        std::abort();
-    }
+    DatesData dates = reader.readDates(format, "");
+    requireTruth(dates, bytes);
+    requireTruth(reader.readXmpDates(format, "", dates).value_or(XmpDateInfos()), bytes);
+    requireTruth(reader.readXmpLocation(format, "", dates), bytes);
 }
 
 /// Reads the input as a movie of this format.
@@ -31,11 +39,7 @@ inline void readMovieAs(std::string_view bytes, FileFormatType format) {
     if (!file.fill(bytes) || !reader.borrow(file.descriptor()))
         std::abort();
     const auto header = reader.readMovieHeader(format);
-    const auto untruth = header ? little::firstUntruth(*header, bytes) : std::nullopt;
-    if (untruth) {
-        std::fprintf(stderr, "%s\n", untruth->c_str());
-        std::abort();
-    }
+    requireTruth(header.value_or(MovieHeader()), bytes);
     (void)reader.readMovieDetails(format);
 }
 

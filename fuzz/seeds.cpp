@@ -5,6 +5,7 @@
 #include "LittlePhoto.h"
 #include "LittlePng.h"
 #include "LittleWebp.h"
+#include "LittleXmp.h"
 
 #include <filesystem>
 #include <fstream>
@@ -19,6 +20,16 @@ void write(const std::filesystem::path &folder, const std::string &name, const s
     std::ofstream(folder / name, std::ios::binary) << bytes;
 }
 
+std::string littleXmp() {
+    return Xmp()
+        .attribute("xmp:CreateDate", "2024-05-06T07:08:09+02:00")
+        .attribute("photoshop:SidecarForExtension", "CR2")
+        .element("exif:DateTimeOriginal", "2024-05-06T07:08")
+        .element("exif:GPSLatitude", "48,30.6N")
+        .end()
+        .bytes();
+}
+
 BuiltTiff embeddedJpegRaw() {
     const Jpeg inner =
         Jpeg().exif(Tiff().text(Directory::First, 306, "2024:05:06 07:08:09").build().bytes);
@@ -30,12 +41,15 @@ void writePhotos(const std::filesystem::path &root) {
     for (const Endian endian : {Endian::Intel, Endian::Motorola}) {
         const std::string name = endian == Endian::Intel ? "intel" : "motorola";
         PhotoFields fields = fullPhotoFields(endian);
-        fields.xmp = "<?xpacket begin=\"\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>";
+        fields.xmp = littleXmp();
         fields.bodyLength = 8;
         write(root / "jpeg_walk", name, jpegPhoto(fields).bytes);
         write(root / "tiff_walk", name, tiffPhoto(fields).bytes);
         write(root / "tiff_walk", name + "_behind", "FUJIFILM" + jpegPhoto(fields).bytes);
     }
+    // Without stamps the packet speaks.
+    write(root / "tiff_walk", "packet",
+          Tiff().field(Directory::First, 700, 1, 600, 26).build().bytes + littleXmp());
     write(root / "jpeg_walk", "segments",
           Jpeg().segment(0xE0, "JFIF").segment(0xFE, "comment").frame(0xC2).body(4).bytes());
     write(root / "tiff_walk", "embedded", embeddedJpegRaw().bytes);
@@ -45,7 +59,7 @@ void writeContainers(const std::filesystem::path &root) {
     PhotoFields fields = fullPhotoFields(Endian::Motorola);
     fields.make = "Apple";
     fields.contentIdentifier = "0C0F5A3E-2B5C-4C8A-9D7C-5F1E2D3C4B5A";
-    fields.xmp = "<x:xmpmeta xmlns:x='adobe:ns:meta/'></x:xmpmeta>";
+    fields.xmp = littleXmp();
     fields.bodyLength = 9;
     write(root / "heif_walk", "plain", heifPhoto(fields).bytes);
     write(
@@ -93,7 +107,11 @@ int main(int count, char **arguments) {
     writePhotos(root);
     writeContainers(root);
     writeMovies(root);
+    write(root / "xmp_scan", "plain", littleXmp());
     int number = 0;
+    for (const char *text : {"2024-05-06T07:08:09.5+02:00", "2024-05-06T07:08-0330", "2024-05-06",
+                             "2024-05-06T07:08:09Z", "48,30.6N", "8,15,30W", "-33.25"})
+        write(root / "xmp_values", std::to_string(number++), text);
     for (const char *text : {"2024:05:06 07:08:09", "2024: 5: 6  7: 8: 9", "0000:00:00 00:00:00",
                              "    :  :     :  :  ", "+02:00", "-11:30", "2024:05:06"})
         write(root / "stamp_texts", std::to_string(number++), std::string(text) + '\0');
