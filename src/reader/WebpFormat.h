@@ -19,5 +19,7 @@ inline constexpr std::size_t kWebpChunkHeader = 8;     ///< type and length
 
 inline constexpr std::string_view kWebpExifChunk = "EXIF";
 inline constexpr std::string_view kWebpXmpChunk = "XMP ";
+/// What some writers put in its place.
+inline constexpr std::string_view kWebpXmpChunkWithZero{"XMP\0", 4};
 
 } // namespace chronomender

@@ -14,9 +14,8 @@ bool isWebp(const ByteRange &file) {
 }
 
 void readChunk(std::string_view type, const ByteRange &data, MetadataBlocks &blocks) {
-    auto *slot = type == kWebpExifChunk  ? &blocks.exif
-                 : type == kWebpXmpChunk ? &blocks.xmp
-                                         : nullptr;
+    const bool isXmp = type == kWebpXmpChunk || type == kWebpXmpChunkWithZero;
+    auto *slot = type == kWebpExifChunk ? &blocks.exif : isXmp ? &blocks.xmp : nullptr;
     if (slot && !*slot && data.length() > 0)
         *slot = ByteBlock{data.absolute(0), data.length()};
 }
