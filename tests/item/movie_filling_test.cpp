@@ -69,15 +69,6 @@ TEST_F(MovieFilling, aRiffDateIsReadInTheFoldersZone) {
     const auto pic = filled(avi().bytes, SpTypeMovieRiff);
     EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2022, 1, 20, 7, 16, 8));
     EXPECT_EQ(pic->camera.pivMakeModel, "CanonMVI01");
-    EXPECT_EQ(pic->movie.seemsRealLivePhotoType, 0);
-}
-
-TEST_F(MovieFilling, aLoneModificationTimeOfAnOlderFileLeavesItsDate) {
-    mainDate = utc(2020, 4, 17, 16, 3, 49);
-    fileDate = utc(2020, 4, 17);
-    const auto pic = filled(movie({.creation = 0}).bytes, SpTypeMovieMvhdModification);
-    EXPECT_EQ(pic->spType, SpTypeMovieMvhdYoungerThanFile);
-    EXPECT_EQ(pic->spDateTimeOriginal, fileDate);
 }
 
 TEST_F(MovieFilling, detailsReachTheItem) {
@@ -116,11 +107,6 @@ TEST_F(MovieFilling, theMovieOfALivePhotoIsDatedByItsMetadata) {
     EXPECT_EQ(pic->spDateTimeOriginal, utc(2020, 4, 17, 16, 3, 40));
     EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, pic->spDateTimeOriginal);
     EXPECT_EQ(pic->slots.tiffDateTimeOLD, utc(2020, 4, 17, 16, 3, 49)) << "UTC beside such a date";
-
-    const auto plain = filled(movie().bytes, SpTypeMovieMvhdCreation);
-    transformToLivePhotoMovie(*plain);
-    EXPECT_EQ(plain->spType, SpTypeMovieMvhdCreation);
-    EXPECT_EQ(plain->slots.exifDateTimeOriginalOLD, mainDate);
 }
 
 } // namespace

@@ -194,14 +194,6 @@ TEST_F(MovieSave, aChangedValueIsNeverOverwritten) {
     }
 }
 
-TEST_F(MovieSave, aWallClockThatOccursTwiceMustBeAccepted) {
-    session.folder().isQuicktimeMVHDTimezoneCorrectionEnabled = true;
-    addMovie(movie(), SpTypeMovieMvhdCreation, utc(2024, 10, 27, 0, 29));
-    shift(absl::Minutes(1));
-    EXPECT_THAT(kinds(session.preProcess().problems),
-                testing::Contains(PreSaveProblem::error_01_ambiguousStamp));
-}
-
 std::string outputOf(const std::string &command) {
     std::string output;
     FILE *const pipe = ::popen(command.c_str(), "r");
