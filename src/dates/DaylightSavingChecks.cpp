@@ -2,6 +2,8 @@
 #include "DaylightSavingChecks.h"
 
 #include "ItemDates.h"
+#include "MovieStampConversions.h"
+#include "MovieStampSyntax.h"
 #include "StampConversions.h"
 #include "XmpStampConversions.h"
 
@@ -45,7 +47,23 @@ const LocatedBytes *readBytes(const MySinglePic &pic, StampSlot slot) {
     return stamp || !fromXmp ? stamp : &fromXmp->value;
 }
 
+/// The wall clock that a movie's file tells for a slot.
+std::optional<CivilFields> movieClock(const MySinglePic &pic, StampSlot slot) {
+    const SinglePicAttributes &read = pic.singlePicAttributes;
+    if (pic.spType == SpTypeMovieRiff)
+        return read.riffCreaDate && slot == StampSlot::Original
+                   ? civilFromRiffTimeStamp(read.riffCreaDate->data)
+                   : std::nullopt;
+    const auto &time = slot == StampSlot::Original ? read.qtMvhdCreaDate : read.qtMvhdModDate;
+    const OptionalDate date = time ? dateFromMVHDData(time->data) : std::nullopt;
+    return date ? std::optional(civilFromInstant(*date, absl::UTCTimeZone())) : std::nullopt;
+}
+
 bool tellsAnotherClock(const MySinglePic &pic, StampSlot slot, const CivilFields &clock) {
+    if (pic.isMovie()) {
+        const auto told = movieClock(pic, slot);
+        return told && *told != clock;
+    }
     const LocatedBytes *stamp = pic.stamp(slot);
     const auto text = stamp ? exifTimeStampFromData(stamp->data) : std::nullopt;
     if (text)
@@ -126,7 +144,8 @@ bool hasDSTAmbiguityForDate(const MySinglePic &pic, Date date, ExportDate which,
 
 DSTState checkDSTDivergence(const MySinglePic &pic, const absl::TimeZone &zone) {
     DSTState state;
-    if (!isPhotoWithStamps(pic.spType))
+    const bool isLocalMovie = isLocalMovieDate(pic) && !isNullerFile(pic.spType);
+    if (!isPhotoWithStamps(pic.spType) && !isLocalMovie)
         return state;
     // The three stamps of a photo are mostly equal: such slots take the verdict of the one before.
     OptionalDate judgedDate;
@@ -167,9 +186,9 @@ void correctAmbiguousDatesBy(MySinglePic &pic, absl::Duration difference) {
         if (date && (pic.zones.dstAmbiguityAtImportState & bit(slot)))
             date = shifted(*date, difference);
     }
-    // A photo that shows its file date is not moved by its stamp.
+    // An item that shows its file date is not moved by its stamp.
     const StampSlot *slot = firstFilledSlot(pic);
-    if (slot && pic.spType != SpTypeTiffYoungerThanFile)
+    if (slot && !isPreferringFileDate(pic.spType))
         pic.spDateTimeOriginal = *(pic.slots.*description(*slot).oldDate);
     if (pic.location.spGpsUTCDate)
         updateGpsDateWithCreationDate(pic, pic.spDateTimeOriginal);

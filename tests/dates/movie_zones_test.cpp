@@ -81,18 +81,29 @@ TEST_F(MovieZones, metadataDatesAndEmptyTimesDoNotMove) {
     }
 }
 
-TEST_F(MovieZones, aWallClockThatOccursTwiceIsAmbiguousWhereItIsWritten) {
-    const Date firstReading = utc(2024, 10, 27, 0, 30); // 02:30 in Berlin, for the first time
+TEST_F(MovieZones, aWallClockThatOccursTwiceIsAmbiguousWhereItIsLocal) {
+    // 02:30 in Berlin, read as the later of its two instants.
+    setTime(pic->singlePicAttributes.qtMvhdCreaDate, utc(2024, 10, 27, 2, 30));
+    pic->singlePicAttributes.riffCreaDate = located("Sun Oct 27 02:30:00 2024\n");
     const auto isAmbiguous = [&](SpType type, bool correction) {
         pic->spType = type;
         folder->isQuicktimeMVHDTimezoneCorrectionEnabled = correction;
-        return hasDSTAmbiguityForDate(*pic, firstReading, ExportDate::Main,
-                                      zone("Europe/Berlin").rules, DSTPreFilter::On);
+        update();
+        const bool isAtExport =
+            hasDSTAmbiguityForDate(*pic, utc(2024, 10, 27, 0, 30), ExportDate::Main,
+                                   zone("Europe/Berlin").rules, DSTPreFilter::On);
+        EXPECT_EQ(isDateSourceAmbiguousAtImport(*pic), isAtExport) << int(type);
+        EXPECT_EQ(pic->zones.dstDivergenceState, 0U) << int(type);
+        return isAtExport;
     };
     EXPECT_TRUE(isAmbiguous(SpTypeMovieRiff, false));
     EXPECT_TRUE(isAmbiguous(SpTypeMovieMvhdCreation, true));
     EXPECT_FALSE(isAmbiguous(SpTypeMovieMvhdCreation, false));
     EXPECT_FALSE(isAmbiguous(SpTypeMovieMdta, true));
+    // The earlier instant, once chosen, stays.
+    pic->zones.usesAltTimeAtAmbiguityReason = 1;
+    isAmbiguous(SpTypeMovieRiff, false);
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 10, 27, 0, 30));
 }
 
 } // namespace
