@@ -4,6 +4,7 @@
 #include "DaylightSavingChecks.h"
 #include "ItemDates.h"
 #include "MovieStampConversions.h"
+#include "SourceSlot.h"
 #include "StampConversions.h"
 #include "XmpStampConversions.h"
 
@@ -25,20 +26,6 @@ struct SeenDates {
 
 SeenDates seenDates(const MySinglePic &pic) {
     return {pic.spType, pic.spDateTimeOriginal, pic.slots};
-}
-
-/// Types whose main date is the date of a stamp, and that stamp.
-std::optional<StampSlot> sourceSlot(SpType type) {
-    switch (type) {
-    case SpTypeExifOriginal:
-        return StampSlot::Original;
-    case SpTypeExifDigitized:
-        return StampSlot::Digitized;
-    case SpTypeTiffDateTime:
-        return StampSlot::Modification;
-    default:
-        return std::nullopt;
-    }
 }
 
 /// What a slot's stamp says in this zone; none without one.

@@ -27,4 +27,10 @@ constexpr std::optional<StampSlot> sourceSlot(SpType type) {
     }
 }
 
+/// The same for the stamp that decided about the date: with a file younger than its modification
+/// stamp, that stamp did, although the date is the file's.
+constexpr std::optional<StampSlot> decidingSlot(SpType type) {
+    return type == SpTypeTiffYoungerThanFile ? StampSlot::Modification : sourceSlot(type);
+}
+
 } // namespace chronomender
