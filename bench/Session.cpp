@@ -38,11 +38,12 @@ Session::Session() {
 
 std::size_t Session::import(const std::string &path) {
     MySingleFolderPtr folder;
-    if (m_controller->addFolder({.path = path, .sourceZone = {}, .targetZone = {}}, &folder) !=
+    if (m_controller->addFolder({.path = path, .keyStates = {}}, &folder) !=
         OpenFolderResult::Opened)
         return 0;
     const auto outcome = waitFor<ImportOutcome>([&](auto finished) {
-        m_controller->startImport({.folder = folder, .names = {}, .progress = {}}, finished);
+        m_controller->startImport({.folder = folder, .names = {}, .keyStates = {}, .progress = {}},
+                                  finished);
     });
     return static_cast<std::size_t>(
         std::count_if(outcome.items.begin(), outcome.items.end(), [](const MySinglePicPtr &pic) {

@@ -599,9 +599,6 @@
     <message id="skipReason_notAMedium">
         <translation>Die Datei ist weder ein Foto noch ein Film.</translation>
     </message>
-    <message id="skipReason_notYetSupported">
-        <translation>Diese Version liest Dateien dieses Formats noch nicht.</translation>
-    </message>
     <message id="skipReason_sameFileTwice">
         <translation>Dieselbe Datei ist unter einem anderen Namen schon vorhanden.</translation>
     </message>

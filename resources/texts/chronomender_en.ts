@@ -599,9 +599,6 @@
     <message id="skipReason_notAMedium">
         <translation>The file is neither a photo nor a movie.</translation>
     </message>
-    <message id="skipReason_notYetSupported">
-        <translation>This version does not read files of this format yet.</translation>
-    </message>
     <message id="skipReason_sameFileTwice">
         <translation>The same file is there already under another name.</translation>
     </message>

@@ -11,6 +11,8 @@
 #include <absl/time/clock.h>
 
 #include <cerrno>
+#include <deque>
+#include <iterator>
 #include <utility>
 
 namespace chronomender {
@@ -28,19 +30,38 @@ OpenFolderResult resultOf(const FileError &error) {
     }
 }
 
-void assignZones(MySingleFolder &folder, const FolderRequest &request) {
-    if (request.sourceZone)
-        setTZDefaultsSource(folder, *request.sourceZone, !request.targetZone);
-    if (request.targetZone)
-        folder.targetTimeZones.folderDefault = request.targetZone;
+void apply(const KeyStates &keyStates, MySingleFolder &folder) {
+    folder.isEXIFIgnored = keyStates.isEXIFIgnored;
+    const AdaptedZone &zone = keyStates.adaptedZone;
+    if (zone.source)
+        setTZDefaultsSource(folder, *zone.source, !zone.target);
+    if (zone.target)
+        folder.targetTimeZones.folderDefault = zone.target;
 }
 
-MediaTypesState mediaStateOf(const MySingleFolder &folder) {
-    unsigned state = 0;
-    for (const MySinglePicPtr &pic : folder.sfPicDetails_fullArray)
-        state |= static_cast<unsigned>(pic->isMovie() ? MediaTypesState::Movies
-                                                      : MediaTypesState::Photos);
-    return static_cast<MediaTypesState>(state);
+/// What was settled for a folder holds for the folders inside it.
+void inherit(MySingleFolder &folder, const MySingleFolder &parent) {
+    folder.importDepth = parent.importDepth + 1;
+    folder.areMovieOptionsSettled = parent.areMovieOptionsSettled;
+    folder.isQuicktimeMDTADateEnabled = parent.isQuicktimeMDTADateEnabled;
+    folder.isQuicktimeMVHDTimezoneCorrectionEnabled =
+        parent.isQuicktimeMVHDTimezoneCorrectionEnabled;
+}
+
+template<class Value>
+void append(std::vector<Value> &all, std::vector<Value> more) {
+    all.insert(all.end(), std::make_move_iterator(more.begin()),
+               std::make_move_iterator(more.end()));
+}
+
+void append(ImportOutcome &total, ImportOutcome outcome) {
+    append(total.items, std::move(outcome.items));
+    append(total.merged, std::move(outcome.merged));
+    append(total.skipped, std::move(outcome.skipped));
+    append(total.importErrors, std::move(outcome.importErrors));
+    append(total.subfolders, std::move(outcome.subfolders));
+    total.wasCancelled = total.wasCancelled || outcome.wasCancelled;
+    total.fixedDates += outcome.fixedDates;
 }
 
 } // namespace
@@ -53,6 +74,10 @@ AppServices systemServices() {
 AppController::AppController(AppServices services, ImportQuestions &questions)
     : m_services(std::move(services)),
       m_questions(questions),
+      m_delayedImports(
+          [this](const MySingleFolderPtr &folder, const std::vector<MySinglePicPtr> &items) {
+              publish(*folder, items);
+          }),
       m_saveDriver(m_droppedFolders.droppedFolders(),
                    SaveServices{*m_services.files, *m_services.zones, *m_services.defaults, m_undo,
                                 m_cancellation, m_services.now,
@@ -86,6 +111,16 @@ void AppController::runOn(QThreadPool &thread, Work work, Finished finished) {
 }
 
 OpenFolderResult AppController::addFolder(const FolderRequest &request, MySingleFolderPtr *folder) {
+    MySingleFolderPtr opened;
+    const OpenFolderResult result = openFolder(request, nullptr, opened);
+    if (folder && opened)
+        *folder = std::move(opened);
+    return result;
+}
+
+OpenFolderResult AppController::openFolder(const FolderRequest &request,
+                                           const MySingleFolderPtr &behind,
+                                           MySingleFolderPtr &folder) {
     FileError error;
     const auto reference = FolderReference::open(request.path, &error);
     const auto attributes = reference ? reference->attributes() : std::nullopt;
@@ -96,56 +131,118 @@ OpenFolderResult AppController::addFolder(const FolderRequest &request, MySingle
         return OpenFolderResult::NameNotUtf8;
     if (isRefusedFolder(path))
         return OpenFolderResult::LibraryOfAnotherProgram;
-    MySingleFolderPtr found = m_droppedFolders.folderWithIdentity(*attributes);
-    const auto result = found ? OpenFolderResult::AlreadyOpen : OpenFolderResult::Opened;
-    if (!found) {
-        found = MySingleFolder::initWithFolder(path, reference, request.mode);
-        assignZones(*found, request);
-        m_droppedFolders.append(found);
-    }
+    folder = m_droppedFolders.folderWithIdentity(*attributes);
     if (folder)
-        *folder = found;
-    return result;
+        return OpenFolderResult::AlreadyOpen;
+    folder = MySingleFolder::initWithFolder(path, reference, request.keyStates.sfEditMode);
+    apply(request.keyStates, *folder);
+    if (behind)
+        m_droppedFolders.insertBehind(folder, behind);
+    else
+        m_droppedFolders.append(folder);
+    return OpenFolderResult::Opened;
 }
+
+/// An import of a folder, and of all folders that turn up inside it.
+struct AppController::ImportJob {
+    std::deque<ImportRequest> waiting;
+    ImportOutcome total;
+    std::function<void(ImportOutcome)> finished;
+};
 
 void AppController::startImport(ImportRequest request,
                                 std::function<void(ImportOutcome)> finished) {
-    auto work = [this, request] {
-        const ImportServices services{*m_services.zones, *m_services.defaults, m_questions,
-                                      m_cancellation,    request.progress,     &m_sessionFiles};
-        return updatePicData(*request.folder, request.names, services);
-    };
-    auto publishAndComplete = [this, request = std::move(request),
-                               finished = std::move(finished)](ImportOutcome outcome) {
-        publish(*request.folder, outcome);
-        completeLate(request, std::move(outcome), finished);
-    };
-    runOn(m_importThread, std::move(work), std::move(publishAndComplete));
+    if (request.keyStates.dateSequence && !m_delayedImports.isDelayed(*request.folder))
+        m_delayedImports.addDrop(*request.keyStates.dateSequence, {request.folder});
+    const auto job = std::make_shared<ImportJob>();
+    job->finished = std::move(finished);
+    job->waiting.push_back(std::move(request));
+    runNext(job);
 }
 
-void AppController::publish(MySingleFolder &folder, const ImportOutcome &outcome) {
+void AppController::runNext(const ImportJobPtr &job) {
+    if (job->waiting.empty()) {
+        job->finished(std::move(job->total));
+        return;
+    }
+    ImportRequest request = std::move(job->waiting.front());
+    job->waiting.pop_front();
+    auto work = [this, request] {
+        const ImportServices services{
+            *m_services.zones,
+            *m_services.defaults,
+            m_questions,
+            m_cancellation,
+            request.progress,
+            &m_sessionFiles,
+            [](std::function<void()> call) { mainThread::callAndWait(std::move(call)); }};
+        return updatePicData(*request.folder, {request.names, request.keyStates}, services);
+    };
+    runOn(m_importThread, std::move(work), [this, job, request](ImportOutcome outcome) {
+        importEnded(job, request, std::move(outcome));
+    });
+}
+
+void AppController::importEnded(const ImportJobPtr &job, const ImportRequest &request,
+                                ImportOutcome outcome) {
+    addSubfolders(job, request, outcome);
+    if (m_delayedImports.isDelayed(*request.folder))
+        m_delayedImports.hold(*request.folder, outcome.items);
+    else
+        publish(*request.folder, outcome.items);
+    m_delayedImports.removeDelayer(*request.folder);
+    const std::vector<MySinglePicPtr> items = outcome.items;
+    append(job->total, std::move(outcome));
+    completeLate(request, items, [this, job] { runNext(job); });
+}
+
+/// Behind their parent, in natural order, each folder once under whatever path.
+void AppController::addSubfolders(const ImportJobPtr &job, const ImportRequest &request,
+                                  ImportOutcome &outcome) {
+    std::vector<ImportRequest> requests;
+    MySingleFolderPtr last = request.folder;
+    for (const std::string &path : outcome.subfolders) {
+        MySingleFolderPtr folder;
+        const OpenFolderResult result = openFolder({path, request.keyStates}, last, folder);
+        if (result == OpenFolderResult::AlreadyOpen)
+            continue;
+        if (result != OpenFolderResult::Opened) {
+            outcome.skipped.push_back({path, SkipReason::Unreadable});
+            continue;
+        }
+        inherit(*folder, *request.folder);
+        m_delayedImports.addDelayer(folder, *request.folder);
+        if (m_folderAdded)
+            m_folderAdded(folder, request.folder);
+        requests.push_back({folder, {}, request.keyStates, request.completion, request.progress});
+        last = folder;
+    }
+    request.folder->importDepth = 0;
+    job->waiting.insert(job->waiting.begin(), requests.begin(), requests.end());
+}
+
+void AppController::publish(MySingleFolder &folder, const std::vector<MySinglePicPtr> &items) {
     auto &list = folder.sfPicDetails_fullArray;
-    list.insert(list.end(), outcome.items.begin(), outcome.items.end());
-    folder.fixedDates += outcome.fixedDates;
+    list.insert(list.end(), items.begin(), items.end());
     sfUpdatePicsFromAndTill(folder);
-    folder.mediaTypesState = mediaStateOf(folder);
+    folder.mediaTypesState = folder.presentMediaTypesState();
     validateTZCUnsaved(folder, *m_services.zones);
 }
 
-void AppController::completeLate(const ImportRequest &request, ImportOutcome outcome,
-                                 std::function<void(ImportOutcome)> finished) {
-    auto wanted = itemsToComplete(outcome.items, request.completion);
+void AppController::completeLate(const ImportRequest &request,
+                                 const std::vector<MySinglePicPtr> &items,
+                                 std::function<void()> finished) {
+    auto wanted = itemsToComplete(items, request.completion);
     if (wanted.empty() || m_cancellation.isRequested()) {
-        finished(std::move(outcome));
+        finished();
         return;
     }
     if (!std::exchange(m_isImagingReady, true))
         initialiseImaging();
     auto work = [this, wanted] { return readDictionaries(wanted, m_cancellation); };
-    auto apply = [wanted, outcome = std::move(outcome),
-                  finished = std::move(finished)](const PropertyDictionaries &found) mutable {
+    auto apply = [wanted, finished = std::move(finished)](const PropertyDictionaries &found) {
         completeItems(wanted, found);
-        finished(std::move(outcome));
+        finished();
     };
     runOn(m_importThread, std::move(work), std::move(apply));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Cancellation.h"
+#include "DelayedImports.h"
 #include "FileLayer.h"
 #include "FolderDrag.h"
 #include "ImportRun.h"
@@ -38,9 +39,7 @@ AppServices systemServices();
 /// One folder to open: what a drop or an option block says about it.
 struct FolderRequest {
     std::string path;
-    EditMode mode = EditMode::Together;
-    /// A source zone alone makes the target follow it, so that no file changes by it.
-    std::optional<ZoneChoice> sourceZone, targetZone;
+    KeyStates keyStates;
 };
 
 enum class OpenFolderResult : std::uint8_t {
@@ -57,6 +56,7 @@ enum class OpenFolderResult : std::uint8_t {
 struct ImportRequest {
     MySingleFolderPtr folder;
     std::vector<std::string> names;
+    KeyStates keyStates;
     CompletionScope completion = CompletionScope::WhereCameraIsMissing;
     std::function<void(ImportProgress)> progress; ///< called on the import thread; may be empty
 };
@@ -70,6 +70,9 @@ struct ImportRequest {
 /// changed while it does.
 class AppController {
 public:
+    /// A folder inside `parent` became part of the session; it is imported next.
+    using FolderAdded =
+        std::function<void(const MySingleFolderPtr &folder, const MySingleFolderPtr &parent)>;
     using Progress = std::function<void(std::size_t done, std::size_t total)>;
 
     AppController(AppServices services, ImportQuestions &questions);
@@ -89,9 +92,16 @@ public:
     /// `folder` takes the new folder, or with AlreadyOpen the one that is there.
     OpenFolderResult addFolder(const FolderRequest &request, MySingleFolderPtr *folder = nullptr);
 
+    /// Called on the main thread for each folder that an import finds inside another.
+    void setFolderAdded(FolderAdded folderAdded) { m_folderAdded = std::move(folderAdded); }
+    /// Folders that are to get one sequence of dates are told here before the first of them is
+    /// imported.
+    DelayedImports &delayedImports() { return m_delayedImports; }
+
     /// Imports on the import thread, publishes the items here, and reads cameras late. Names that
     /// the folder holds already are left out; a file that stands in the session under another name
-    /// is told as skipped.
+    /// is told as skipped. Folders found inside become folders of the session behind their parent
+    /// and are imported with the same choices; `finished` tells of all of them together.
     void startImport(ImportRequest request, std::function<void(ImportOutcome)> finished);
     /// Sorts the visible list again.
     void buildNewSource();
@@ -108,9 +118,17 @@ public:
                               std::function<void(SaveRunResult)> finished);
 
 private:
-    void publish(MySingleFolder &folder, const ImportOutcome &outcome);
-    void completeLate(const ImportRequest &request, ImportOutcome outcome,
-                      std::function<void(ImportOutcome)> finished);
+    struct ImportJob;
+    using ImportJobPtr = std::shared_ptr<ImportJob>;
+    OpenFolderResult openFolder(const FolderRequest &request, const MySingleFolderPtr &behind,
+                                MySingleFolderPtr &folder);
+    void runNext(const ImportJobPtr &job);
+    void importEnded(const ImportJobPtr &job, const ImportRequest &request, ImportOutcome outcome);
+    void addSubfolders(const ImportJobPtr &job, const ImportRequest &request,
+                       ImportOutcome &outcome);
+    void publish(MySingleFolder &folder, const std::vector<MySinglePicPtr> &items);
+    void completeLate(const ImportRequest &request, const std::vector<MySinglePicPtr> &items,
+                      std::function<void()> finished);
     template<class Work, class Finished>
     void runOn(QThreadPool &thread, Work work, Finished finished);
 
@@ -121,6 +139,8 @@ private:
     MyDroppedFolders m_droppedFolders;
     SourceBuilder m_source;
     SessionFiles m_sessionFiles; ///< import thread only
+    DelayedImports m_delayedImports;
+    FolderAdded m_folderAdded;
     Progress m_saveProgress;
     SaveDriver m_saveDriver;
     QThreadPool m_importThread, m_saveWorker;

@@ -121,9 +121,9 @@ std::optional<Complaint> MendSession::addFolders(const FolderPlans &plans) {
 std::optional<Complaint> MendSession::addFolder(const FolderPlan &plan) {
     FolderRequest request;
     request.path = plan.path;
-    request.mode = plan.block.picShifts.empty() ? EditMode::Together : EditMode::Single;
-    request.sourceZone = plan.sourceZone;
-    request.targetZone = plan.targetZone;
+    request.keyStates.sfEditMode =
+        plan.block.picShifts.empty() ? EditMode::Together : EditMode::Single;
+    request.keyStates.adaptedZone = {plan.sourceZone, plan.targetZone};
     MySingleFolderPtr folder;
     const OpenFolderResult result = m_controller->addFolder(request, &folder);
     const std::string message = result == OpenFolderResult::Opened
@@ -216,9 +216,8 @@ MovieOptions MendSession::movieOptions(const MySingleFolder &folder) {
 /// What the block says about movies; where it says nothing, the preferences.
 void MendSession::settleMovieOptions(const FolderBlock &block, MySingleFolder &folder) const {
     const UserDefaults &defaults = m_controller->defaults();
-    folder.isQuicktimeMDTADateEnabled = block.movieDate
-                                            ? *block.movieDate == MovieDate::Mdta
-                                            : defaults.boolForKey("isMDTADateEnabled");
+    folder.isQuicktimeMDTADateEnabled = block.movieDate ? *block.movieDate == MovieDate::Mdta
+                                                        : defaults.boolForKey("isMDTADateEnabled");
     folder.isQuicktimeMVHDTimezoneCorrectionEnabled =
         block.movieClock ? *block.movieClock == MovieClock::Local
                          : defaults.boolForKey("isMVHDTimezoneCorrectionEnabled");

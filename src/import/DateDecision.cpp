@@ -3,6 +3,7 @@
 
 #include "StampConversions.h"
 #include "StampSyntax.h"
+#include "XmpStampConversions.h"
 
 #include <algorithm>
 #include <array>
@@ -42,21 +43,33 @@ public:
                 m_stamps[i] = exifTimeStampFromData(found->data);
     }
 
-    void takeFirstReadableStamp(const absl::TimeZone &systemZone) {
-        for (std::size_t i = 0; i < stampKinds.size() && !m_date; ++i) {
-            if (!m_stamps[i] || isValidZeroStamp(*m_stamps[i]))
-                continue;
-            const auto &zone = m_record.dates.*stampKinds[i].zoneStamp;
-            m_date = dateFromEXIFTimeStampAndOffset(
-                *m_stamps[i], zone ? exifOffsetFromData(zone->data) : std::nullopt, systemZone);
-            m_type = stampKinds[i].readable;
-        }
+    void takeOriginalStamp(const absl::TimeZone &systemZone) { takeStamp(0, systemZone); }
+
+    void takeOtherStamps(const absl::TimeZone &systemZone) {
+        for (std::size_t i = 1; i < stampKinds.size() && !m_date; ++i)
+            takeStamp(i, systemZone);
     }
 
     void askAboutEmptyTags() {
         if (m_date || firstStampKind() == nullptr)
             return;
         m_emptyTags = m_answers.choice();
+    }
+
+    /// A modification date of XMP counts only where the file has no tag for it, not even an empty
+    /// one.
+    void takeXmpDate(const absl::TimeZone &systemZone) {
+        const XmpDateInfos &xmp = m_record.xmpDates;
+        const std::array<const XmpStamp *, stampKinds.size()> found{
+            xmp.xmpCreaDict(), xmp.xmpDigiDict(), m_stamps.back() ? nullptr : xmp.xmpModDict()};
+        for (std::size_t i = 0; i < found.size(); ++i) {
+            const OptionalDate date = xmpDateFromStampInfos(found[i], systemZone);
+            if (!date)
+                continue;
+            m_date = date;
+            m_type = stampKinds[i].readable;
+            return;
+        }
     }
 
     void ignoreEmbeddedDates(EmbeddedData embedded) {
@@ -86,10 +99,19 @@ public:
         if (!m_date)
             return std::nullopt;
         return DateDecision{m_type, *m_date, m_emptyTags.has_value(),
-                            m_emptyTags == EmptyTags::LeaveAlone};
+                            m_emptyTags == EmptyTags::LeaveAlone && isNullerFile(m_type)};
     }
 
 private:
+    void takeStamp(std::size_t kind, const absl::TimeZone &systemZone) {
+        if (!m_stamps[kind] || isValidZeroStamp(*m_stamps[kind]))
+            return;
+        const auto &zone = m_record.dates.*stampKinds[kind].zoneStamp;
+        m_date = dateFromEXIFTimeStampAndOffset(
+            *m_stamps[kind], zone ? exifOffsetFromData(zone->data) : std::nullopt, systemZone);
+        m_type = stampKinds[kind].readable;
+    }
+
     /// The preferred stamp that exists, be it empty; null without any.
     const StampKind *firstStampKind() const {
         const auto found =
@@ -113,8 +135,10 @@ std::optional<DateDecision> decideDate(const FileRecord &record, EmbeddedData em
                                        EmptyTagAnswers &answers, const absl::TimeZone &systemZone) {
     Decision decision(record, answers);
     decision.takeStamps();
-    decision.takeFirstReadableStamp(systemZone);
+    decision.takeOriginalStamp(systemZone);
+    decision.takeOtherStamps(systemZone);
     decision.askAboutEmptyTags();
+    decision.takeXmpDate(systemZone);
     decision.ignoreEmbeddedDates(embedded);
     decision.takeFileDate();
     decision.takeFixedDate();

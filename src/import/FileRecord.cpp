@@ -4,9 +4,8 @@
 #include "FolderNames.h"
 #include "MySingleFolderDataReader.h"
 #include "SystemFiles.h"
+#include "XmpFilling.h"
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
@@ -15,9 +14,6 @@ namespace chronomender {
 
 namespace {
 
-constexpr std::array readFormats{FileFormatJpeg, FileFormatTiff, FileFormatRaw};
-/// The raw format that is a box structure and has no TIFF header of its own.
-constexpr std::string_view boxedRawExtension = "cr3";
 class Descriptor {
 public:
     /// Never waits for a pipe's other end and never follows a link.
@@ -45,22 +41,50 @@ FileRecord refused(SkipReason reason) {
 }
 
 /// Content wins over the extension wherever it answers.
-FileFormatType formatOf(std::string_view firstBytes, const BatchEntry &entry) {
-    return fileFormatTypeForContent(firstBytes, extensionOfName(entry.name))
-        .value_or(entry.promised);
+FileFormatType formatOf(MySingleFolderDataReader &reader, const BatchEntry &entry,
+                        EmbeddedData embedded) {
+    const std::string_view extension = extensionOfName(entry.name);
+    if (embedded == EmbeddedData::Ignored &&
+        (entry.promised != FileFormatNone || extension.empty()))
+        return entry.promised;
+    return fileFormatTypeForContent(reader.firstBytes(), extension).value_or(entry.promised);
+}
+
+/// XMP stands for the file's own tags where those hold no date of the picture. It is dropped when
+/// all it could give is a date of its own writing.
+void readXmpDates(MySingleFolderDataReader &reader, std::string_view extension,
+                  FileRecord &record) {
+    if (!isXmpRead(record.dates, record.format))
+        return;
+    auto found = reader.readXmpDates(record.format, extension, record.dates);
+    if (found && (found->xmpCreaDict() || found->xmpDigiDict() || found->xmpModDict() ||
+                  record.dates.tiffDateTime))
+        record.xmpDates = *std::move(found);
+}
+
+/// Formats that keep a location in XMP and nowhere else.
+bool keepsLocationInXmp(const FileRecord &record) {
+    return !record.dates.gpsLocation &&
+           (record.format == FileFormatPng || record.dates.cr3XmpOffset);
+}
+
+void readStill(MySingleFolderDataReader &reader, std::string_view extension, FileRecord &record) {
+    record.dates = reader.readDates(record.format, extension);
+    readXmpDates(reader, extension, record);
+    if (keepsLocationInXmp(record))
+        record.xmpLocation = reader.readXmpLocation(record.format, extension, record.dates);
+}
+
+void readMovie(MySingleFolderDataReader &reader, FileRecord &record) {
+    record.movieHeader = reader.readMovieHeader(record.format);
+    record.movieDetails = reader.readMovieDetails(record.format);
 }
 
 } // namespace
 
-bool isFormatRead(FileFormatType format, std::string_view extension) {
-    const bool isBoxedRaw = format == FileFormatRaw && isExtension(extension, boxedRawExtension);
-    return !isBoxedRaw && std::ranges::find(readFormats, format) != readFormats.end();
-}
-
 FileRecord readFileRecord(int folder, const BatchEntry &entry, EmbeddedData embedded) {
     if (entry.refusal)
         return refused(*entry.refusal);
-    const std::string_view extension = extensionOfName(entry.name);
     const Descriptor file(folder, entry.name);
     if (file.get() < 0)
         return refused(errno == ELOOP ? SkipReason::SymbolicLink : SkipReason::Unreadable);
@@ -73,13 +97,15 @@ FileRecord readFileRecord(int folder, const BatchEntry &entry, EmbeddedData embe
 
     FileRecord record;
     record.attributes = *attributes;
-    record.format = formatOf(reader.firstBytes(), entry);
+    record.format = formatOf(reader, entry, embedded);
     if (record.format == FileFormatNone)
         return refused(SkipReason::NotAMedium);
-    if (!isFormatRead(record.format, extension))
-        return refused(SkipReason::NotYetSupported);
-    if (embedded == EmbeddedData::Read)
-        record.dates = reader.readDates(record.format, extension);
+    if (embedded == EmbeddedData::Ignored)
+        return record;
+    if (isMovieFormat(record.format))
+        readMovie(reader, record);
+    else
+        readStill(reader, extensionOfName(entry.name), record);
     return record;
 }
 

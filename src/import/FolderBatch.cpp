@@ -41,7 +41,7 @@ FolderEntry entryOfName(const FolderReference &folder, const std::string &name) 
 }
 
 /// Why an entry can be refused by its listing alone.
-std::optional<SkipReason> refusalOf(const FolderEntry &entry, FileFormatType promised) {
+std::optional<SkipReason> refusalOf(const FolderEntry &entry) {
     if (!entry.isValidUtf8)
         return SkipReason::NameNotUtf8;
     if (entry.kind == Kind::SymbolicLink)
@@ -51,26 +51,33 @@ std::optional<SkipReason> refusalOf(const FolderEntry &entry, FileFormatType pro
         return SkipReason::NotAMedium;
     if (entry.kind == Kind::Other || entry.name.find('/') != std::string::npos)
         return SkipReason::Unreadable;
-    // Formats told by the extension alone, whose readers are not part of this version.
-    if (isMovieFormat(promised))
-        return SkipReason::NotYetSupported;
     return std::nullopt;
 }
 
-bool isFolderInside(const FolderReference &folder, const FolderEntry &entry) {
-    return entry.kind == Kind::Directory ||
-           (entry.kind == Kind::SymbolicLink && leadsToFolder(folder, entry.name));
+/// Links to folders are folders from here on: they are followed, unlike links to files.
+std::optional<std::vector<FolderEntry>> listResolvingFolders(const FolderReference &folder) {
+    auto listed = listFolder(folder);
+    if (listed)
+        for (FolderEntry &entry : *listed)
+            if (entry.kind == Kind::SymbolicLink && leadsToFolder(folder, entry.name))
+                entry.kind = Kind::Directory;
+    return listed;
 }
 
-void sortNaturally(std::vector<BatchEntry> &entries) {
+bool isSidecar(const FolderEntry &entry) {
+    return entry.kind == Kind::Regular && entry.isValidUtf8 && !isNamePassedOver(entry.name) &&
+           entry.name.find('/') == std::string::npos && sidecarKindOfName(entry.name);
+}
+
+void sortNaturally(std::vector<FolderEntry> &entries) {
     struct Keyed {
         QCollatorSortKey key;
-        BatchEntry entry;
+        FolderEntry entry;
     };
     const NaturalCompare order;
     std::vector<Keyed> keyed;
     keyed.reserve(entries.size());
-    for (BatchEntry &entry : entries) {
+    for (FolderEntry &entry : entries) {
         const QCollatorSortKey key = order.sortKey(entry.name);
         keyed.push_back({key, std::move(entry)});
     }
@@ -84,7 +91,7 @@ void sortNaturally(std::vector<BatchEntry> &entries) {
 
 BatchEntry batchEntry(FolderEntry entry, bool isNamed) {
     const FileFormatType promised = fileFormatTypeForExtension(extensionOfName(entry.name));
-    const auto refusal = refusalOf(entry, promised);
+    const auto refusal = refusalOf(entry);
     return {std::move(entry.name), promised, isNamed, refusal};
 }
 
@@ -99,25 +106,66 @@ std::vector<FolderEntry> entriesOfNames(const FolderReference &folder,
     return entries;
 }
 
+/// Single files bring their sidecars along, whether those were named or not.
+void addSidecarsOfFolder(const FolderReference &folder, FolderBatch &batch) {
+    auto listed = listFolder(folder);
+    if (!listed)
+        return;
+    std::erase_if(*listed, [&](const FolderEntry &entry) {
+        return !isSidecar(entry) || std::ranges::find(batch.sidecars, entry.name,
+                                                      &SidecarFile::name) != batch.sidecars.end();
+    });
+    sortNaturally(*listed);
+    for (FolderEntry &entry : *listed)
+        batch.sidecars.push_back({std::move(entry.name), true});
+}
+
+FolderBatch batchOfNames(const FolderReference &folder, std::vector<FolderEntry> entries) {
+    FolderBatch batch;
+    for (FolderEntry &entry : entries) {
+        if (isSidecar(entry))
+            batch.sidecars.push_back({std::move(entry.name), false});
+        else
+            batch.entries.push_back(batchEntry(std::move(entry), true));
+    }
+    addSidecarsOfFolder(folder, batch);
+    return batch;
+}
+
+FolderBatch batchOfFolder(const MySingleFolder &folder, std::vector<FolderEntry> entries) {
+    const bool isFirstImport = folder.sfPics < 0;
+    FolderBatch batch;
+    for (FolderEntry &entry : entries) {
+        if (isNamePassedOver(entry.name))
+            continue;
+        if (entry.kind != Kind::Directory) {
+            if (isSidecar(entry))
+                batch.sidecars.push_back({std::move(entry.name), false});
+            else
+                batch.entries.push_back(batchEntry(std::move(entry), false));
+        } else if (isFirstImport && entry.isValidUtf8 && !isFolderNotEntered(entry.name)) {
+            batch.subfolders.push_back(std::move(entry.name));
+        }
+    }
+    return batch;
+}
+
 } // namespace
 
-std::optional<std::vector<BatchEntry>> takeBatch(const MySingleFolder &folder,
-                                                 const FolderReference &reference,
-                                                 std::vector<std::string> names) {
-    const bool isNamed = !names.empty();
-    auto listed = isNamed ? entriesOfNames(reference, std::move(names)) : listFolder(reference);
+std::optional<FolderBatch> takeBatch(const MySingleFolder &folder, const FolderReference &reference,
+                                     ImportBatch batch) {
+    const bool isNamed = !batch.names.empty();
+    auto listed = isNamed ? entriesOfNames(reference, std::move(batch.names))
+                          : listResolvingFolders(reference);
     if (!listed)
         return std::nullopt;
+    if (batch.keyStates.filter)
+        listed = filteredPaths(std::move(*listed), *batch.keyStates.filter);
     const auto held = heldNames(folder);
-    std::vector<BatchEntry> entries;
-    entries.reserve(listed->size());
-    for (FolderEntry &entry : *listed) {
-        const bool isLeftOut = isNamePassedOver(entry.name) || isFolderInside(reference, entry);
-        if (!held.contains(entry.name) && (isNamed || !isLeftOut))
-            entries.push_back(batchEntry(std::move(entry), isNamed));
-    }
-    sortNaturally(entries);
-    return entries;
+    std::erase_if(*listed, [&](const FolderEntry &entry) { return held.contains(entry.name); });
+    sortNaturally(*listed);
+    return isNamed ? batchOfNames(reference, std::move(*listed))
+                   : batchOfFolder(folder, std::move(*listed));
 }
 
 } // namespace chronomender

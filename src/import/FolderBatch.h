@@ -20,11 +20,25 @@ struct BatchEntry {
     bool isMissedByPerson() const { return isNamed || promised != FileFormatNone; }
 };
 
-/// The names that a run has to look at, in natural order: the given ones, or with none given those
-/// of the whole folder. Left out are names that the folder holds already, names to be passed over,
-/// and folders inside the folder (with the links to them). None when the folder cannot be listed.
-std::optional<std::vector<BatchEntry>> takeBatch(const MySingleFolder &folder,
-                                                 const FolderReference &reference,
-                                                 std::vector<std::string> names);
+/// A file that may accompany one of the folder's items.
+struct SidecarFile {
+    std::string name;
+    bool isFoundAutomatically = false; ///< not part of the batch: nothing is said if it fits nobody
+};
+
+/// The work of one run; every list in natural order of names.
+struct FolderBatch {
+    std::vector<BatchEntry> entries;
+    std::vector<SidecarFile> sidecars;
+    std::vector<std::string>
+        subfolders; ///< names of folders inside the folder, and of links to them
+};
+
+/// The names that a run has to look at: the given ones, or with none given those of the whole
+/// folder, as far as they pass the filter. Left out are names that the folder holds already and
+/// names to be passed over. Folders inside are told only by the first import of a folder. None when
+/// the folder cannot be listed.
+std::optional<FolderBatch> takeBatch(const MySingleFolder &folder, const FolderReference &reference,
+                                     ImportBatch batch);
 
 } // namespace chronomender

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace chronomender {
@@ -17,6 +20,18 @@ bool isRefusedFolder(std::string_view path);
 std::string_view extensionOfName(std::string_view name);
 /// The extension is this one, whatever its letter case.
 bool isExtension(std::string_view given, std::string_view lowerCase);
+
+/// The name with its ASCII letters in lower case.
+std::string lowerCaseName(std::string_view name);
+
+/// Files whose names alone make them companions of a medium.
+enum class SidecarKind : std::uint8_t { Xmp, Aae };
+/// None for a name that is no sidecar's.
+std::optional<SidecarKind> sidecarKindOfName(std::string_view name);
+
+/// A folder that is not looked into when folders inside folders are imported: hidden ones, those of
+/// other programs, and bundles, which a person sees as one file on other systems.
+bool isFolderNotEntered(std::string_view name);
 
 /// Sidecars and tracks: files that accompany media and are no media themselves.
 bool isCompanionName(std::string_view name);

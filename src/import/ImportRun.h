@@ -2,7 +2,9 @@
 #pragma once
 
 #include "Cancellation.h"
+#include "Grouping.h"
 #include "ImportQuestions.h"
+#include "KeyStates.h"
 #include "MySingleFolder.h"
 #include "SessionFiles.h"
 #include "UserDefaults.h"
@@ -20,11 +22,10 @@ namespace chronomender {
 enum class SkipReason : std::uint8_t {
     SymbolicLink, ///< links to files are never read: a save would have to replace them
     NameNotUtf8,
-    Unreadable,      ///< cannot be opened or has no attributes
-    Empty,           ///< zero bytes
-    NotAMedium,      ///< no format answers for it; listed only when named by the user
-    NotYetSupported, ///< a medium whose format this version does not read
-    SameFileTwice,   ///< the same file stands in the session already under another name
+    Unreadable,    ///< cannot be opened or has no attributes
+    Empty,         ///< zero bytes
+    NotAMedium,    ///< no format answers for it; listed only when named by the user
+    SameFileTwice, ///< the same file stands in the session already under another name
     NoDate,
     Cancelled, ///< the import was stopped before this file
 };
@@ -36,16 +37,39 @@ struct SkippedEntry {
 /// Text key of a reason, for example "skipReason_symbolicLink".
 const char *textKey(SkipReason reason);
 
+/// What is wrong with a sidecar. The numbers are those of the session's errors.
+enum class ImportErrorId : std::uint8_t {
+    SidecarUnreadable = 1, ///< it is its item's, but nothing of it is known
+    SidecarOfSeveral = 16, ///< several items have its name, and it says of none that it is its own
+    SidecarOfNone = 17,    ///< no item has its name
+};
+struct ImportError {
+    ImportErrorId id{};
+    std::string path;   ///< of the sidecar
+    MySinglePicPtr pic; ///< its item, for SidecarUnreadable
+};
+/// Text key of an error, for example "errorPanelDescriptionText_ID17".
+const char *textKey(ImportErrorId id);
+
+/// What one run is to import.
+struct ImportBatch {
+    std::vector<std::string> names; ///< empty: the whole folder
+    KeyStates keyStates;
+};
+
 struct ImportProgress {
     std::size_t done = 0, total = 0;
 };
 
 /// What one run over one folder gave. `items` are finished and not yet part of the folder.
 struct ImportOutcome {
-    std::vector<MySinglePicPtr> items;
+    std::vector<MySinglePicPtr> items; ///< without those that became the second half of a group
+    std::vector<MergedGroup> merged;   ///< groups that came to be; visible items may be in them
     std::vector<SkippedEntry> skipped;
+    std::vector<ImportError> importErrors;
+    std::vector<std::string> subfolders; ///< paths of folders to be imported next, natural order
     bool wasCancelled = false;
-    int fixedDates = 0; ///< items with empty date tags, to be added to the folder's count
+    int fixedDates = 0; ///< items with empty date tags; the folder's count has them already
 };
 
 /// Everything a run asks of its surroundings; references outlive the run.
@@ -57,13 +81,18 @@ struct ImportServices {
     std::function<void(ImportProgress)> progress; ///< called on the import thread; may be empty
     /// The files of the whole session; null when the run stands alone. Used on the import thread.
     SessionFiles *sessionFiles = nullptr;
+    /// Runs work on the main thread and waits for it; it may drop the work when the program ends.
+    /// Empty: the run calls directly.
+    std::function<void(std::function<void()>)> onMainThread = {};
 };
 
-/// Imports a batch of names of a folder (an empty list: the whole folder) on the calling thread,
-/// with files read ahead in parallel. Items come in natural order of their names, their dates
-/// decided one after the other in that order. Writes nothing to disk and nothing to the folder,
-/// except that it keeps the answer to the empty-tag question in it.
-ImportOutcome updatePicData(MySingleFolder &folder, std::vector<std::string> names,
+/// Imports a batch of a folder on the calling thread, with files read ahead in parallel. Items come
+/// in natural order of their names, their dates decided one after the other in that order. At the
+/// end, pairs become groups, movies that turned out to be no half of a live photo get their date,
+/// and sidecars are given to their items. Writes nothing to disk.
+///
+/// The folder is changed on the main thread only, except that answers to questions are kept in it.
+ImportOutcome updatePicData(MySingleFolder &folder, ImportBatch batch,
                             const ImportServices &services);
 
 } // namespace chronomender

@@ -4,30 +4,29 @@
 #include "CameraText.h"
 #include "DaylightSavingChecks.h"
 #include "ItemFilling.h"
+#include "MovieFilling.h"
+#include "SourceSlot.h"
+#include "XmpFilling.h"
 #include "ZoneLookup.h"
 
 namespace chronomender {
 
 namespace {
 
-/// The slot that the main date was read from; none for types whose date is not a stamp of the file.
-std::optional<StampSlot> sourceSlot(SpType type) {
-    switch (type) {
-    case SpTypeExifOriginal:
-        return StampSlot::Original;
-    case SpTypeExifDigitized:
-        return StampSlot::Digitized;
-    case SpTypeTiffDateTime:
-    case SpTypeTiffYoungerThanFile:
-        return StampSlot::Modification;
-    default:
-        return std::nullopt;
-    }
+/// The date was written with its zone, so that no clock's zone has to be known for it.
+bool hasZonedSource(const MySinglePic &pic) {
+    if (const XmpStampType type = pic.sourceXmpDateType(); type != XmpStampType::Invalid)
+        return type != XmpStampType::Local;
+    const auto slot = decidingSlot(pic.spType);
+    return slot && pic.zoneStamp(*slot) != nullptr;
 }
 
-bool hasZonedSource(const MySinglePic &pic) {
-    const auto slot = sourceSlot(pic.spType);
-    return slot && pic.zoneStamp(*slot) != nullptr;
+/// A GPS time is UTC, except that XMP may have it in local time.
+bool hasGpsInstant(const MySinglePic &pic) {
+    if (!pic.location.spGpsUTCDate)
+        return false;
+    const XmpStamp *stamp = pic.singlePicAttributes.xmpDateInfos.xmpGpsDict();
+    return !pic.location.isGpsXmp || stamp == nullptr || stamp->type != XmpStampType::Local;
 }
 
 /// A folder that says what its cameras' clocks meant has its stamps read so. Without that, stamps
@@ -36,14 +35,43 @@ void settleZones(MySinglePic &pic, const FillContext &context) {
     if (context.folder.sourceTimeZones.folderDefault)
         updateAllDatesAfterUpdatingTimezone(pic, context.folder, context.zones,
                                             context.dateComparisonThresold);
-    else if (!hasZonedSource(pic) && !pic.location.spGpsUTCDate)
+    else if (!hasZonedSource(pic) && !hasGpsInstant(pic))
         checkImportDivergencyAndAmbiguityUsingZone(pic, context.zones.systemZone().rules);
+    // The others' dates can be compared with each other: the place of validateDateDifferences.
 }
 
 void takeCamera(MySinglePic &pic, const DatesData &dates) {
     pic.camera.make = cameraText(dates.make);
     pic.camera.model = cameraText(dates.model);
     pic.camera.pivMakeModel = completeMakerModelString(pic.camera.make, pic.camera.model);
+}
+
+void fillPhoto(MySinglePic &pic, FileRecord &record, const FillContext &context) {
+    takeCamera(pic, record.dates);
+    setImageAttributesFromTheDatesData(pic, std::move(record.dates), context.folder, context.zones,
+                                       std::move(record.xmpDates));
+    setImageAttributesFromFileAttributes(pic, record.attributes, context.dateComparisonThresold);
+    if (!record.xmpLocation.isEmpty())
+        addRelevantXmpInfos(pic, std::move(record.xmpLocation));
+    if (pic.hasCorrectableDate())
+        settleZones(pic, context);
+}
+
+/// Header times that exist and are empty can be filled by a save.
+void markEmptyHeaderTimes(MySinglePic &pic) {
+    pic.slots.exifDateTimeOriginalOLD = InfinitePast();
+    if (pic.spType == SpTypeMovieEmptyFixedDate || !pic.slots.tiffDateTimeOLD)
+        pic.slots.tiffDateTimeOLD = InfinitePast();
+}
+
+void fillMovie(MySinglePic &pic, FileRecord &record, const FillContext &context) {
+    if (pic.hasCorrectableDate())
+        setMovieAttributes(pic, std::move(record.movieHeader).value_or(MovieHeader()),
+                           record.movieDetails, context.folder, context.zones);
+    setImageAttributesFromFileAttributes(pic, record.attributes, context.dateComparisonThresold);
+    if (isNullerFile(pic.spType))
+        markEmptyHeaderTimes(pic);
+    // The place of validateMovieDatesOnImport, which compares header and metadata dates.
 }
 
 } // namespace
@@ -59,11 +87,10 @@ MySinglePicPtr makeItem(std::string name, const MySingleFolderPtr &folder, const
 }
 
 void fillItem(MySinglePic &pic, FileRecord record, const FillContext &context) {
-    takeCamera(pic, record.dates);
-    setImageAttributesFromTheDatesData(pic, std::move(record.dates), context.folder, context.zones);
-    setImageAttributesFromFileAttributes(pic, record.attributes, context.dateComparisonThresold);
-    if (pic.hasCorrectableDate())
-        settleZones(pic, context);
+    if (pic.isMovie())
+        fillMovie(pic, record, context);
+    else
+        fillPhoto(pic, record, context);
 }
 
 } // namespace chronomender

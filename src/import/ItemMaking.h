@@ -6,8 +6,8 @@
 
 namespace chronomender {
 
-/// Makes the item of a photo whose date is decided. Import thread: items are numbered in the order
-/// in which they are made.
+/// Makes the item of a photo or movie whose date is decided. Import thread: items are numbered in
+/// the order in which they are made.
 MySinglePicPtr makeItem(std::string name, const MySingleFolderPtr &folder, const FileRecord &record,
                         const DateDecision &decision);
 

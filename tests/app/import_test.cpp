@@ -87,7 +87,8 @@ TEST_F(Import, SourceZoneAloneChangesNoFile) {
     writePhoto("trip/a.jpg");
     FolderRequest request;
     request.path = disk().path("trip");
-    request.sourceZone = ZoneChoice::named(*app().zones().zoneWithName("Asia/Tokyo"));
+    request.keyStates.adaptedZone.source =
+        ZoneChoice::named(*app().zones().zoneWithName("Asia/Tokyo"));
     MySingleFolderPtr folder;
     ASSERT_EQ(app().addFolder(request, &folder), OpenFolderResult::Opened);
     import(folder);

@@ -22,10 +22,13 @@ inline Date utc(const std::string &text) {
     return date;
 }
 
-/// Answers the empty-tag question and counts how often it was asked.
+/// Answers the questions of an import and counts how often they were asked.
 class ReadyAnswers : public ImportQuestions {
 public:
-    MovieOptions movieOptions(const MySingleFolder &) override { return {}; }
+    MovieOptions movieOptions(const MySingleFolder &) override {
+        ++askedAboutMovies;
+        return movieAnswer;
+    }
     PerFolderImportOptions emptyTagOptions(const MySingleFolder &) override {
         ++asked;
         if (whenAsked)
@@ -34,7 +37,8 @@ public:
     }
     PerFolderImportOptions answer;
     std::function<void()> whenAsked;
-    int asked = 0;
+    MovieOptions movieAnswer;
+    int asked = 0, askedAboutMovies = 0;
 };
 
 /// A folder on disk, the folder of the session that stands for it, and what an import needs.
@@ -60,18 +64,19 @@ protected:
     }
 
     ImportServices services() {
-        return {zones, defaults, questions, cancellation, progress, sessionFiles};
+        return {zones, defaults, questions, cancellation, progress, sessionFiles, {}};
     }
     ImportOutcome import(std::vector<std::string> names = {}) {
         if (!folder)
             openFolder();
-        return updatePicData(*folder, std::move(names), services());
+        return updatePicData(*folder, {std::move(names), keyStates}, services());
     }
     /// Imports and makes the items part of the folder, as the main thread does.
-    ImportOutcome importAndPublish() {
-        ImportOutcome outcome = import();
+    ImportOutcome importAndPublish(std::vector<std::string> names = {}) {
+        ImportOutcome outcome = import(std::move(names));
         auto &list = folder->sfPicDetails_fullArray;
         list.insert(list.end(), outcome.items.begin(), outcome.items.end());
+        folder->sfPics = folder->count();
         return outcome;
     }
     void openFolder() {
@@ -102,6 +107,7 @@ protected:
     Cancellation cancellation;
     std::function<void(ImportProgress)> progress;
     SessionFiles *sessionFiles = nullptr;
+    KeyStates keyStates;
     MySingleFolderPtr folder;
 };
 

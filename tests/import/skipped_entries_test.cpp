@@ -14,8 +14,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-constexpr std::string_view pngStart{"\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16};
-
 class SkippedEntriesTest : public ImportTest {
 protected:
     void link(const std::string &target, const std::string &name) {
@@ -25,10 +23,7 @@ protected:
 
 TEST_F(SkippedEntriesTest, WhatAPersonWouldMissIsListedWithItsReason) {
     file("empty.jpg", "");
-    file("movie.mov", "no matter");
-    file("clip.MTS", "no matter");
-    file("picture.png", std::string(pngStart));
-    file("shot.CR3", "no matter");
+    file("empty.mov", "");
     file("cut\xFF.jpg", "no matter");
     dated("good.jpg");
     ASSERT_EQ(::mkfifo(disk.path("pipe.jpg").c_str(), 0600), 0);
@@ -40,17 +35,16 @@ TEST_F(SkippedEntriesTest, WhatAPersonWouldMissIsListedWithItsReason) {
 
     EXPECT_THAT(namesOf(outcome.items), ElementsAre("good.jpg"));
     EXPECT_THAT(skippedOf(outcome),
-                UnorderedElementsAre("empty.jpg empty", "movie.mov notYetSupported",
-                                     "clip.MTS notYetSupported", "picture.png notYetSupported",
-                                     "shot.CR3 notYetSupported", "cut\xFF.jpg nameNotUtf8",
-                                     "pipe.jpg unreadable", "link.jpg symbolicLink",
-                                     "dangling.jpg symbolicLink", "loop symbolicLink"));
+                UnorderedElementsAre("empty.jpg empty", "empty.mov empty",
+                                     "cut\xFF.jpg nameNotUtf8", "pipe.jpg unreadable",
+                                     "link.jpg symbolicLink", "dangling.jpg symbolicLink",
+                                     "loop symbolicLink"));
     EXPECT_EQ(outcome.skipped.front().path.substr(0, disk.path().size()), disk.path());
 }
 
 TEST_F(SkippedEntriesTest, WhatNobodyLooksForAmongPhotosIsPassedOver) {
-    for (const char *name : {"._good.jpg", ".DS_Store", "notes.txt", "good.xmp", "good.AAE",
-                             "track.gpx", "inside/good.jpg"})
+    for (const char *name :
+         {"._good.jpg", ".DS_Store", "notes.txt", "._good.xmp", "track.gpx", "inside/good.jpg"})
         file(name, "text");
     file("nothing.txt", "");
     link("inside", "linked folder");
@@ -62,18 +56,18 @@ TEST_F(SkippedEntriesTest, WhatNobodyLooksForAmongPhotosIsPassedOver) {
 
 TEST_F(SkippedEntriesTest, EverythingNamedByAPersonIsAnswered) {
     file("notes.txt", "text");
-    file("good.xmp", "text");
+    file("good.gpx", "text");
     file("._good.jpg", "text");
     file("inside/deep.jpg", "text");
     dated("good.jpg");
     dated("other.jpg");
 
-    const ImportOutcome outcome = import({"good.jpg", "notes.txt", "good.xmp", "._good.jpg",
+    const ImportOutcome outcome = import({"good.jpg", "notes.txt", "good.gpx", "._good.jpg",
                                           "inside", "inside/deep.jpg", "absent.jpg", "good.jpg"});
 
     EXPECT_THAT(namesOf(outcome.items), ElementsAre("good.jpg"));
     EXPECT_THAT(skippedOf(outcome),
-                UnorderedElementsAre("notes.txt notAMedium", "good.xmp notAMedium",
+                UnorderedElementsAre("notes.txt notAMedium", "good.gpx notAMedium",
                                      "._good.jpg notAMedium", "inside notAMedium",
                                      "deep.jpg unreadable", "absent.jpg unreadable"));
 }
@@ -127,6 +121,9 @@ TEST_F(SkippedEntriesTest, EveryReasonHasItsText) {
         const char *key = textKey(static_cast<SkipReason>(reason));
         EXPECT_NE(text(key), key);
     }
+    for (const auto id : {ImportErrorId::SidecarUnreadable, ImportErrorId::SidecarOfSeveral,
+                          ImportErrorId::SidecarOfNone})
+        EXPECT_NE(text(textKey(id)), textKey(id));
 }
 
 class ContentTest : public ImportTest {};
@@ -158,12 +155,51 @@ TEST_F(ContentTest, ContentWinsOverTheExtension) {
 }
 
 TEST_F(ContentTest, TheExtensionCountsWhereContentSaysNothing) {
-    file("text.jpg", "this is no picture");
-    file("png.jpg", std::string(pngStart));
-    const ImportOutcome outcome = import();
-    ASSERT_THAT(namesOf(outcome.items), ElementsAre("text.jpg"));
-    EXPECT_EQ(outcome.items[0]->spType, SpTypeNoTagsFileDate);
-    EXPECT_THAT(skippedOf(outcome), ElementsAre("png.jpg notYetSupported"));
+    struct Case {
+        const char *name;
+        FileFormatType format;
+        SpType type;
+    };
+    constexpr Case cases[]{{"a.jpg", FileFormatJpeg, SpTypeNoTagsFileDate},
+                           {"b.CR3", FileFormatRaw, SpTypeNoTagsFileDate},
+                           {"c.heic", FileFormatHeif, SpTypeNoTagsFileDate},
+                           {"d.gif", FileFormatGif, SpTypeNoTagsFileDate},
+                           {"e.pict", FileFormatPict, SpTypeNoTagsFileDate},
+                           {"f.mov", FileFormatQuickTime, SpTypeMovieFileDate},
+                           {"g.3gp", FileFormatMpeg4, SpTypeMovieFileDate},
+                           {"h.MTS", FileFormatOtherMovie, SpTypeMovieFileDate},
+                           {"i.avi", FileFormatOtherMovie, SpTypeMovieFileDate},
+                           {"j.mkv", FileFormatOtherMovie, SpTypeMovieFileDate}};
+    for (const Case &c : cases)
+        file(c.name, "nothing that anybody knows");
+    const auto items = import().items;
+    ASSERT_EQ(items.size(), std::size(cases));
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        EXPECT_EQ(items[i]->spName, cases[i].name);
+        EXPECT_EQ(items[i]->fileFormatType, cases[i].format) << cases[i].name;
+        EXPECT_EQ(items[i]->spType, cases[i].type) << cases[i].name;
+        EXPECT_EQ(items[i]->spDateTimeOriginal, fileDate) << cases[i].name;
+    }
+}
+
+TEST_F(ContentTest, IgnoredDataLeavesTheExtensionToDecide) {
+    const std::string jpeg = little::jpegPhoto({.original = "2024:05:06 07:08:09"}).bytes;
+    for (const char *name : {"a.tif", "b.mov", "c.unknown", "d"})
+        file(name, jpeg);
+    openFolder();
+    folder->isEXIFIgnored = true;
+    const auto items = import().items;
+    ASSERT_THAT(namesOf(items), ElementsAre("a.tif", "b.mov", "c.unknown"));
+    EXPECT_EQ(items[0]->fileFormatType, FileFormatTiff);
+    EXPECT_EQ(items[0]->spType, SpTypeUnsupported);
+    EXPECT_EQ(items[1]->spType, SpTypeMovieIgnored);
+    EXPECT_EQ(items[2]->fileFormatType, FileFormatJpeg);
+    for (const MySinglePicPtr &pic : items) {
+        EXPECT_EQ(pic->spDateTimeOriginal, InfinitePast()) << pic->spName;
+        EXPECT_FALSE(pic->singlePicAttributes.exifDateTimeOriginal) << pic->spName;
+        EXPECT_EQ(pic->camera.pivMakeModel, "") << pic->spName;
+    }
+    EXPECT_EQ(questions.askedAboutMovies, 0);
 }
 
 TEST_F(ContentTest, FilesOfManyGigabytesThatHoldNothing) {
