@@ -124,6 +124,8 @@ MetadataBlocks findPngBlocks(const ByteRange &file) {
     const bool isPng =
         file.length() >= kPngShortestFile && file.header(0, kPngSignature.size()) == kPngSignature;
     blocks.isBroken = !isPng || !walkChunks(file, blocks);
+    if (blocks.isBroken)
+        blocks.findings.push_back({"PNG", 0, FindingReason::BrokenStructure});
     return blocks;
 }
 
