@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "LittleMovie.h"
 #include "SaveTest.h"
 #include "ZoneLookup.h"
 
@@ -155,6 +156,57 @@ TEST_F(PairSaveTest, ARawDatedByItsFileHasItsJpegCalculatedToo) {
         EXPECT_THAT(results(session.save()), ElementsAre(Saved, Saved));
     }
     EXPECT_EQ(content("a.JPG"), replaced(jpeg, {{"ExifDateTimeOriginal", "2024:05:06 09:08:10"}}));
+}
+
+/// A still without a zone and a movie of the same camera, "a.JPG" and "a.MOV", joined by their
+/// clocks; the movie is the dependent.
+class LivePhotoSaveTest : public PairSaveTest {
+protected:
+    void importLivePhoto(const std::string &stillStamp, const std::string &movieDate) {
+        jpeg = jpegPhoto({.original = stillStamp});
+        film = movie({.date = movieDate, .make = "Little", .model = "Little One"});
+        session.write("a.JPG", jpeg.bytes);
+        session.write("a.MOV", film.bytes);
+        session.import();
+        ASSERT_THAT(session.folder().bundleDependentsLivePhotos, SizeIs(1));
+    }
+    std::string movieDate() const { return content("a.MOV").substr(film.at("date"), 24); }
+
+    Part film;
+};
+
+TEST_F(LivePhotoSaveTest, StillAndMovieMoveTogetherAndComeBack) {
+    importLivePhoto(rawStamp, "2024-05-06T07:08:10+0200");
+    for (const int hours : {25, -25}) {
+        shift(absl::Hours(hours));
+        const SaveRunResult run = session.save();
+        EXPECT_THAT(names(run.items), ElementsAre("a.MOV", "a.JPG"));
+        EXPECT_THAT(results(run), ElementsAre(Saved, Saved));
+        EXPECT_EQ(movieDate(), hours > 0 ? "2024-05-07T08:08:10+0200" : "2024-05-06T07:08:10+0200");
+        expectModelIsWhatAFreshImportShows();
+    }
+    EXPECT_EQ(content("a.JPG"), jpeg.bytes);
+}
+
+TEST_F(LivePhotoSaveTest, AcrossADaylightSavingStepTheyStayOne) {
+    importLivePhoto("2024:03:31 01:59:58", "2024-03-31T03:00:02+0200");
+    shift(absl::Hours(-24));
+    EXPECT_THAT(kinds(session.preProcess().problems),
+                ElementsAre(PreSaveProblem::error_12_zoneStampRewritten))
+        << "to winter's offset";
+    EXPECT_THAT(results(session.save()), ElementsAre(Saved, Saved));
+    EXPECT_EQ(movieDate(), "2024-03-30T02:00:02+0100");
+    expectModelIsWhatAFreshImportShows();
+}
+
+TEST_F(LivePhotoSaveTest, ClocksThatWouldPartAreSaidFirst) {
+    importLivePhoto(rawStamp, "2024-05-06T07:08:10-0800");
+    shift(absl::Hours(1));
+    EXPECT_THAT(kinds(session.preProcess().problems),
+                testing::UnorderedElementsAre(PreSaveProblem::error_12_zoneStampRewritten,
+                                              PreSaveProblem::error_04_livePhotoDriftingApart));
+    keepOwnZones();
+    EXPECT_THAT(session.preProcess().problems, IsEmpty());
 }
 
 TEST_F(PairSaveTest, ATargetZoneRewritesBothFiles) {
