@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppController.h"
 
+#include "CompoundLivePhotos.h"
 #include "DateModifications.h"
 #include "FolderAccess.h"
 #include "FolderNames.h"
@@ -227,6 +228,7 @@ void AppController::publish(MySingleFolder &folder, const std::vector<MySinglePi
     sfUpdatePicsFromAndTill(folder);
     folder.mediaTypesState = folder.presentMediaTypesState();
     validateTZCUnsaved(folder, *m_services.zones);
+    refreshCompoundLivePhotosStates(folder, *m_services.defaults);
 }
 
 void AppController::completeLate(const ImportRequest &request,
@@ -240,8 +242,10 @@ void AppController::completeLate(const ImportRequest &request,
     if (!std::exchange(m_isImagingReady, true))
         initialiseImaging();
     auto work = [this, wanted] { return readDictionaries(wanted, m_cancellation); };
-    auto apply = [wanted, finished = std::move(finished)](const PropertyDictionaries &found) {
+    auto apply = [this, folder = request.folder, wanted,
+                  finished = std::move(finished)](const PropertyDictionaries &found) {
         completeItems(wanted, found);
+        refreshCompoundLivePhotosStates(*folder, *m_services.defaults);
         finished();
     };
     runOn(m_importThread, std::move(work), std::move(apply));

@@ -8,6 +8,7 @@
 #include "Utf8Text.h"
 
 #include <algorithm>
+#include <set>
 
 namespace chronomender {
 namespace {
@@ -29,10 +30,13 @@ const char *complaintKey(OpenFolderResult result) {
     }
 }
 
+/// The item with the file of that name; the other half of a group stands for its item.
 MySinglePicPtr itemWithName(const MySingleFolder &folder, const std::string &name) {
     const auto &items = folder.sfPicDetails_fullArray;
-    const auto found = std::find_if(items.begin(), items.end(),
-                                    [&](const auto &pic) { return pic->spName == name; });
+    const auto found = std::find_if(items.begin(), items.end(), [&](const auto &pic) {
+        const MySinglePicPtr &dependent = pic->group.bundleDependentImage;
+        return pic->spName == name || (dependent && dependent->spName == name);
+    });
     return found == items.end() ? nullptr : *found;
 }
 
@@ -197,11 +201,15 @@ std::optional<Complaint> MendSession::shiftSingly(const FolderBlock &block,
         if (auto complaint = complaintOf(outcome, block.path))
             return complaint;
     }
+    std::set<MySinglePicPtr> shifted;
     for (const auto &[name, shift] : block.picShifts) {
         const MySinglePicPtr pic = itemWithName(folder, name);
         if (!pic)
             return Complaint{2,
                              text("cli_error_noSuchPic", {printable(name), printable(block.path)})};
+        // Both files of a group named one by one: the item would move twice.
+        if (!shifted.insert(pic).second)
+            return Complaint{2, text("cli_error_picTwice", {printable(name)})};
         if (auto complaint = complaintOf(m_controller->shiftItems({pic}, shift), name))
             return complaint;
     }

@@ -65,5 +65,13 @@ TEST_F(Pairs, AWriteProtectedHalfKeepsTheOtherAsItWas) {
     EXPECT_EQ(little::fileContent(path("trip/a.CR2")), raw);
 }
 
+TEST_F(Pairs, EitherNameMeansTheItemAndBothAreTooMany) {
+    const Arguments byDependent{"--pic", "a.JPG", "--shift", "1:00:00"};
+    EXPECT_THAT(savedNames(mend(save(byDependent))), ElementsAre("a.CR2", "a.JPG"));
+    Arguments both = byDependent;
+    both.insert(both.end(), {"--pic", "a.CR2", "--shift", "1:00:00"});
+    EXPECT_EQ(mend(save(both)).exitCode, 2) << "the item would move twice";
+}
+
 } // namespace
 } // namespace chronomender
