@@ -192,6 +192,8 @@ void AppController::importEnded(const ImportJobPtr &job, const ImportRequest &re
     else
         publish(*request.folder, outcome.items);
     m_delayedImports.removeDelayer(*request.folder);
+    if (m_cancellation.isRequested())
+        m_delayedImports.finishAll();
     const std::vector<MySinglePicPtr> items = outcome.items;
     append(job->total, std::move(outcome));
     completeLate(request, items, [this, job] { runNext(job); });

@@ -67,6 +67,10 @@ std::optional<int> MendSession::open(const Opening &opening) {
         ImportQuestions &questions = *this;
         m_controller = std::make_unique<AppController>(std::move(services), questions);
         m_interruption.emplace(m_controller->cancellation());
+        m_controller->setFolderAdded(
+            [this](const MySingleFolderPtr &folder, const MySingleFolderPtr &parent) {
+                m_importOptions[folder.get()] = m_importOptions.at(parent.get());
+            });
         complaint = addFolders(plans);
     }
     if (!complaint && m_hasFailedPaths && opening.badPath == BadPath::Stop)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ImportSteps.h"
+#include "LittleXmp.h"
 
 namespace chronomender {
 namespace {
@@ -225,6 +226,35 @@ TEST_F(FolderChoicesTest, AStampInTheHourThatCameTwiceIsMarked) {
     EXPECT_EQ(items[0]->spDateTimeOriginal, utc("2024-10-27 01:30:00"));
     EXPECT_EQ(items[1]->zones.dstAmbiguityAtImportState, 0U);
     EXPECT_EQ(items[2]->zones.dstAmbiguityAtImportState, 0U);
+}
+
+TEST_F(FolderChoicesTest, AnXmpStampInThatHourIsMarkedUnlessItsZoneOrGpsTellsTheInstant) {
+    const auto xmp = [](const char *created, const char *gps) {
+        little::Xmp packet;
+        packet.attribute("photoshop:DateCreated", created);
+        if (gps)
+            packet.attribute("exif:GPSTimeStamp", gps);
+        return packet.end().bytes();
+    };
+    struct Case {
+        const char *created, *gps;
+        bool isMarked;
+    };
+    constexpr Case cases[]{{"2024-10-27T02:30:00", nullptr, true},
+                           {"2024-10-27T02:30:00+02:00", nullptr, false},
+                           {"2024-10-27T00:30:00Z", nullptr, false},
+                           {"2024-10-27T02:30:00", "2024-10-27T02:30:00", true},
+                           {"2024-10-27T02:30:00", "2024-10-27T00:30:00Z", false}};
+    for (const Case &c : cases)
+        photo(std::to_string(&c - cases) + ".jpg", {.xmp = xmp(c.created, c.gps)});
+    const auto items = import().items;
+    ASSERT_EQ(items.size(), std::size(cases));
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        EXPECT_EQ(items[i]->spType, SpTypeExifOriginal) << i;
+        EXPECT_EQ(items[i]->zones.dstAmbiguityAtImportState == bit(StampSlot::Original),
+                  cases[i].isMarked)
+            << i;
+    }
 }
 
 TEST_F(FolderChoicesTest, IgnoredEmbeddedDataAreNotRead) {

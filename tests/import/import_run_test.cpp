@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ImportSteps.h"
+#include "LittlePng.h"
+#include "LittleXmp.h"
 
 #include <filesystem>
 
@@ -66,6 +68,21 @@ TEST_F(ImportRunTest, AnItemIsCompleteButForWhatTheImageLibraryAdds) {
     EXPECT_EQ(pic.singlePicAttributes.fileSize, built.bytes.size());
     EXPECT_EQ(pic.spPath(), disk.path("a.jpg"));
     EXPECT_FALSE(pic.importState.wasLocationDataSearched);
+}
+
+TEST_F(ImportRunTest, APngKeepsItsPlaceInXmpOnly) {
+    const std::string packet = little::Xmp()
+                                   .attribute("exif:GPSLatitude", "48,30.0N")
+                                   .attribute("exif:GPSLongitude", "11,15.0W")
+                                   .end()
+                                   .bytes();
+    file("a.png", little::pngPhoto({.original = "2024:05:06 07:08:09", .xmp = packet}).bytes);
+    photo("b.jpg", {.original = "2024:05:06 07:08:09", .xmp = packet});
+    const auto items = import().items;
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_NEAR(items[0]->location.gpsLong.value_or(0), -11.25, 1e-9);
+    EXPECT_TRUE(items[0]->singlePicAttributes.xmpLocation.gpsLat);
+    EXPECT_FALSE(items[1]->hasLocation());
 }
 
 TEST_F(ImportRunTest, ASecondImportTakesNewNamesOnly) {
