@@ -386,6 +386,33 @@
     <message id="dateSource_13">
         <translation>keine, da die Daten dieser Datei nicht gelesen werden</translation>
     </message>
+    <message id="dateSource_14">
+        <translation>Dateidatum, da kein Datum im Film steht</translation>
+    </message>
+    <message id="dateSource_15">
+        <translation>Datumstext der AVI-Datei</translation>
+    </message>
+    <message id="dateSource_16">
+        <translation>Erstellungszeit im Filmkopf</translation>
+    </message>
+    <message id="dateSource_17">
+        <translation>Änderungszeit im Filmkopf</translation>
+    </message>
+    <message id="dateSource_18">
+        <translation>Dateidatum, da die Änderungszeit im Filmkopf nach der Datei liegt</translation>
+    </message>
+    <message id="dateSource_19">
+        <translation>Dateidatum, da die Zeiten im Filmkopf leer sind</translation>
+    </message>
+    <message id="dateSource_20">
+        <translation>beim Einlesen vorgegeben, da die Zeiten im Filmkopf leer sind</translation>
+    </message>
+    <message id="dateSource_21">
+        <translation>Erstellungsdatum in den Metadaten des Films</translation>
+    </message>
+    <message id="dateSource_22">
+        <translation>keine, da Daten in den Dateien nicht beachtet werden</translation>
+    </message>
     <message id="dragInSingleMode">
         <translation>Aufnahmen zeitlich verschieben</translation>
     </message>

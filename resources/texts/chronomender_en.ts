@@ -386,6 +386,33 @@
     <message id="dateSource_13">
         <translation>none, as dates of this file are not read</translation>
     </message>
+    <message id="dateSource_14">
+        <translation>file date, as there is no date in the movie</translation>
+    </message>
+    <message id="dateSource_15">
+        <translation>date text of the AVI</translation>
+    </message>
+    <message id="dateSource_16">
+        <translation>creation time of the movie header</translation>
+    </message>
+    <message id="dateSource_17">
+        <translation>modification time of the movie header</translation>
+    </message>
+    <message id="dateSource_18">
+        <translation>file date, as the modification time of the movie header is later than the file</translation>
+    </message>
+    <message id="dateSource_19">
+        <translation>file date, as the times of the movie header are empty</translation>
+    </message>
+    <message id="dateSource_20">
+        <translation>given at import, as the times of the movie header are empty</translation>
+    </message>
+    <message id="dateSource_21">
+        <translation>creation date of the movie metadata</translation>
+    </message>
+    <message id="dateSource_22">
+        <translation>none, as dates inside the files are ignored</translation>
+    </message>
     <message id="dragInSingleMode">
         <translation>Move Items in Time</translation>
     </message>

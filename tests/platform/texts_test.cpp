@@ -89,6 +89,13 @@ TEST(TextsTest, EveryKeyThatTheSourcesNameHasAText) {
     EXPECT_THAT(missing, testing::IsEmpty());
 }
 
+TEST(TextsTest, EverySourceOfADateHasAText) {
+    const Texts english = messagesOf("en");
+    constexpr int lastType = 22; // a movie of a folder whose metadata are ignored
+    for (int type = 1; type <= lastType; ++type)
+        EXPECT_TRUE(english.contains("dateSource_" + std::to_string(type))) << type;
+}
+
 TEST(TextsTest, LoadsTheChosenLanguageAndFillsInArguments) {
     for (const std::string language : {"en", "de", "de_AT"}) {
         loadTexts(language);

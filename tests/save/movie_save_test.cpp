@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ItemFilling.h"
 #include "LittleAvi.h"
 #include "LittleMovie.h"
-#include "MovieFilling.h"
 #include "MovieStampConversions.h"
-#include "MySingleFolderDataReader.h"
 #include "SaveTest.h"
 
 #include <cstdio>
@@ -17,120 +14,91 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 const std::string kMetaDate = "2020-04-17T10:03:47-0600";
+const Date kCreation = utc(2020, 4, 17, 16, 3, 47);
 
 std::string headerTime(Date date) {
     return mvhdDataFromDate(date, MvhdCorrection::Off, absl::UTCTimeZone()).value_or("none");
 }
 
-/// The folder's one movie, read from a file in its place as an item of a given type.
+/// A folder with one movie.
 class MovieSave : public SaveTest {
 protected:
-    MySinglePic &addMovie(const Part &built, SpType type, Date date) {
-        original = built.bytes;
+    MySinglePic &addMovie(const Part &built, const MovieOptions &options = {}) {
+        name = built.bytes.starts_with("RIFF") ? "a.avi" : "a.mov";
+        for (const char *old : {"a.mov", "a.avi"})
+            std::filesystem::remove(session.path(old));
         session.write(name, built.bytes);
-        return addWritten(type, date);
+        return imported(options);
     }
-    MySinglePic &addWritten(SpType type, Date date) {
+    MySinglePic &imported(const MovieOptions &options = {}) {
         MySingleFolder &folder = session.folder();
-        const auto format = type == SpTypeMovieRiff ? FileFormatOtherMovie : FileFormatQuickTime;
-        MySingleFolderDataReader reader;
-        EXPECT_TRUE(reader.open(session.path(name)));
-        auto header = reader.readMovieHeader(format);
-        const auto pic = MySinglePic::create(name, session.folders[0], type, date);
-        setMovieAttributes(*pic, *std::move(header), reader.readMovieDetails(format), folder,
-                           session.zones);
-        setImageAttributesFromFileAttributes(*pic, attributesOf(session.path(name)), 3);
-        if (isNullerFile(type))
-            pic->slots.exifDateTimeOriginalOLD = InfinitePast();
-        pic->positions.indexInSource_full = 0;
-        folder.sfPicDetails_fullArray = {pic};
         folder.sfEditMode = EditMode::Together; // a failed item keeps its shift as its own
-        return *pic;
+        folder.sourceTimeZones = folder.targetTimeZones = {};
+        folder.areMovieOptionsSettled = false;
+        session.movieAnswer = options;
+        session.import();
+        return session.item(name);
     }
     /// The movie's bytes with some values replaced.
-    std::string with(const Part &built, const std::map<std::string, std::string> &values) const {
+    static std::string with(const Part &built, const std::map<std::string, std::string> &values) {
         std::string bytes = built.bytes;
         for (const auto &[value, after] : values)
             bytes.replace(built.at(value), after.size(), after);
         return bytes;
     }
-    void saves() { EXPECT_THAT(results(session.save()), ElementsAre(ItemResult::Saved)); }
-    void refuses() {
-        const SaveRunResult run = session.save();
-        EXPECT_THAT(ids(run), ElementsAre(SaveErrorId::NotWrittenUnreadableBack));
-        EXPECT_EQ(content(name), original);
+    void saves() {
+        EXPECT_THAT(results(session.save()), ElementsAre(ItemResult::Saved));
+        expectModelIsWhatAFreshImportShows();
     }
 
-    std::string name = "a.mov", original;
-    Date creation = utc(2020, 4, 17, 16, 3, 47), modification = utc(2020, 4, 17, 16, 3, 49);
-};
-
-struct SavedMovie {
-    const char *what;
-    SpType type;
-    Part built;
-    bool isCorrected;
-    std::map<std::string, std::string> after;
+    std::string name;
 };
 
 TEST_F(MovieSave, everyTypeWritesItsValuesAndNotOneOtherByte) {
     const absl::Duration by = absl::Hours(25);
-    const Date date = creation;
-    const std::string moved = headerTime(date + by), later = headerTime(modification + by);
-    const Part both = movie({.date = kMetaDate});
-    const SavedMovie table[] = {
-        {"header",
-         SpTypeMovieMvhdCreation,
-         movie(),
-         false,
-         {{"creation", moved}, {"modification", later}}},
-        {"64-bit header",
-         SpTypeMovieMvhdCreation,
-         movie({.version = 1}, MoovPlace::First),
-         true,
-         {{"creation", moved}, {"modification", later}}},
-        {"modification alone",
-         SpTypeMovieMvhdModification,
-         movie({.creation = 0}),
-         false,
-         {{"modification", later}}},
-        {"header with metadata",
-         SpTypeMovieMvhdCreation,
-         both,
-         false,
-         {{"creation", moved}, {"modification", later}, {"date", "2020-04-18T11:03:47-0600"}}},
-        {"metadata",
-         SpTypeMovieMdta,
-         both,
-         true,
-         {{"creation", moved}, {"modification", later}, {"date", "2020-04-18T11:03:47-0600"}}},
-        {"metadata in UTC",
-         SpTypeMovieMdta,
+    const std::string moved = headerTime(kCreation + by);
+    const std::string later = headerTime(kCreation + absl::Seconds(2) + by);
+    const std::map<std::string, std::string> header{{"creation", moved}, {"modification", later}};
+    const MovieOptions local{.isMVHDTimezoneCorrectionEnabled = true};
+    const auto alsoDate = [&](const std::string &text) {
+        auto values = header;
+        values["date"] = text;
+        return values;
+    };
+    const struct {
+        SpType type;
+        Part built;
+        MovieOptions options;
+        std::map<std::string, std::string> after;
+    } table[] = {
+        {SpTypeMovieMvhdCreation, movie(), {}, header},
+        {SpTypeMovieMvhdCreation, movie({.version = 1}, MoovPlace::First), local, header},
+        {SpTypeMovieMvhdModification, movie({.creation = 0}), {}, {{"modification", later}}},
+        {SpTypeMovieMvhdCreation,
+         movie({.date = kMetaDate}),
+         {.isMDTADateEnabled = false},
+         alsoDate("2020-04-18T11:03:47-0600")},
+        {SpTypeMovieMdta, movie({.date = kMetaDate}), local, alsoDate("2020-04-18T11:03:47-0600")},
+        {SpTypeMovieMdta,
          movie({.date = "2020-04-17T16:03:47Z"}),
-         false,
-         {{"creation", moved}, {"modification", later}, {"date", "2020-04-18T17:03:47Z"}}},
-        {"RIFF",
-         SpTypeMovieRiff,
+         {},
+         alsoDate("2020-04-18T17:03:47Z")},
+        {SpTypeMovieRiff,
          avi({.date = "FRI APR 17 18:03:47 2020\n" + zeros(1)}),
-         false,
+         {},
          {{"date", "SAT APR 18 19:03:47 2020\n" + zeros(1)}}},
     };
     shiftAllSlotsAlike();
-    for (const SavedMovie &row : table) {
-        SCOPED_TRACE(row.what);
-        session.folder().isQuicktimeMVHDTimezoneCorrectionEnabled = row.isCorrected;
-        session.folder().targetTimeZones = {};
+    for (const auto &row : table) {
+        const MySinglePic &pic = addMovie(row.built, row.options);
+        const Date main = pic.spDateTimeOriginal;
+        SCOPED_TRACE(testing::Message() << int(row.type) << ' ' << main);
+        ASSERT_EQ(pic.spType, row.type);
         keepOwnZones();
-        const bool isLocal = row.isCorrected && row.type != SpTypeMovieMdta;
-        const Date main = row.type == SpTypeMovieMvhdModification ? modification
-                          : isLocal                               ? date - absl::Hours(2)
-                                                                  : date;
-        MySinglePic &pic = addMovie(row.built, row.type, main);
         shift(by);
         saves();
         EXPECT_EQ(content(name), with(row.built, row.after));
         EXPECT_EQ(pic.spDateTimeOriginal, main + by);
-        EXPECT_FALSE(session.folder().isUnsavedFolder());
         shift(-by);
         saves();
         EXPECT_EQ(content(name), row.built.bytes);
@@ -139,19 +107,17 @@ TEST_F(MovieSave, everyTypeWritesItsValuesAndNotOneOtherByte) {
 
 TEST_F(MovieSave, aTargetZoneMovesTheWallClocksOfTheFile) {
     const Part built = movie({.date = kMetaDate});
-    session.folder().isQuicktimeMVHDTimezoneCorrectionEnabled = true;
-    const Date main = creation - absl::Hours(2); // read in Berlin
-    addMovie(built, SpTypeMovieMvhdCreation, main);
+    addMovie(built, {.isMDTADateEnabled = false, .isMVHDTimezoneCorrectionEnabled = true});
     targetZone("Asia/Tokyo");
     shift(absl::Minutes(1));
     saves();
     EXPECT_EQ(content(name).substr(built.at("creation"), 4),
-              headerTime(creation + absl::Hours(7) + absl::Minutes(1)));
+              headerTime(kCreation + absl::Hours(7) + absl::Minutes(1)));
     EXPECT_EQ(content(name).substr(built.at("date"), 24), "2020-04-17T23:04:47+0900");
 }
 
 TEST_F(MovieSave, aMetadataDateOfAnotherZoneIsNotRewrittenUnasked) {
-    addMovie(movie({.date = kMetaDate}), SpTypeMovieMdta, creation);
+    addMovie(movie({.date = kMetaDate}));
     shift(absl::Hours(1));
     const PreProcessResult dry = session.preProcess();
     ASSERT_THAT(kinds(dry.problems), ElementsAre(PreSaveProblem::error_12_zoneStampRewritten));
@@ -161,28 +127,32 @@ TEST_F(MovieSave, aMetadataDateOfAnotherZoneIsNotRewrittenUnasked) {
 }
 
 TEST_F(MovieSave, emptyHeaderTimesAreFilled) {
+    using enum PerFolderImportOptions::EmptyTags;
     const Part built = movie({.creation = 0, .modification = 0});
-    for (const SpType type : {SpTypeMovieEmptyFileDate, SpTypeMovieEmptyFixedDate}) {
-        MySinglePic &pic = addMovie(built, type, creation);
+    for (const auto answer : {FileDate, FixedDate}) {
+        session.emptyTags = {.withEmptyExifFixDate = answer, .prefFixDateDate = kCreation};
+        session.folder().perFolderImportOptions.reset();
+        MySinglePic &pic = addMovie(built);
+        const Date date = pic.spDateTimeOriginal;
         saves();
         EXPECT_EQ(pic.spType, SpTypeMovieMvhdCreation);
-        EXPECT_EQ(pic.spDateTimeOriginal, creation);
-        EXPECT_EQ(content(name).substr(built.at("creation"), 4), headerTime(creation));
+        EXPECT_EQ(content(name).substr(built.at("creation"), 4), headerTime(date));
     }
 }
 
 TEST_F(MovieSave, whatTheHeaderCannotSayIsAnErrorOfTheItem) {
     for (const Date wanted : {utc(1904, 1, 1), utc(1903, 6, 1), utc(2040, 2, 6, 6, 28, 16)}) {
-        addMovie(movie(), SpTypeMovieMvhdCreation, creation);
-        shift(wanted - creation);
-        refuses();
+        addMovie(movie());
+        shift(wanted - kCreation);
+        EXPECT_THAT(ids(session.save()), ElementsAre(SaveErrorId::NotWrittenUnreadableBack));
+        EXPECT_EQ(content(name), movie().bytes);
     }
 }
 
 TEST_F(MovieSave, aChangedValueIsNeverOverwritten) {
     const Part built = movie({.date = kMetaDate, .userLocation = "+48.1-011.5/"});
     for (const char *value : {"creation", "modification", "date", "userLocation"}) {
-        addMovie(built, SpTypeMovieMdta, creation);
+        addMovie(built);
         const std::string changed = with(built, {{value, "+12."}});
         std::fstream(session.path(name), std::ios::in | std::ios::out)
             .write(changed.data(), static_cast<std::streamsize>(changed.size()));
@@ -194,30 +164,27 @@ TEST_F(MovieSave, aChangedValueIsNeverOverwritten) {
     }
 }
 
-std::string outputOf(const std::string &command) {
-    std::string output;
-    FILE *const pipe = ::popen(command.c_str(), "r");
-    for (int c = std::fgetc(pipe); c != EOF; c = std::fgetc(pipe))
-        output.push_back(static_cast<char>(c));
-    ::pclose(pipe);
-    return output;
-}
-
 TEST_F(MovieSave, exifToolSeesTheNewDatesBehindFiveGigabytes) {
     const std::uint64_t length = 5ULL << 30;
-    const std::string head = ftyp().bytes + big(1) + "mdat" + big(length - 20, 8);
-    const std::string path = session.write(name, head);
+    name = "a.mov";
+    const std::string path =
+        session.write(name, ftyp().bytes + big(1) + "mdat" + big(length - 20, 8));
     std::filesystem::resize_file(path, length);
     std::ofstream(path, std::ios::binary | std::ios::app) << moov({.date = kMetaDate}).bytes;
     setFileDate(path, session.fileDate);
-    addWritten(SpTypeMovieMdta, creation);
+    imported();
     shiftAllSlotsAlike();
     keepOwnZones();
     shift(absl::Hours(-25));
     saves();
-    const std::string seen = outputOf("exiftool -api largefilesupport=1 -s3 -CreationDate "
-                                      "-CreateDate -ModifyDate '" +
-                                      path + "' 2>/dev/null");
+    const std::string command = "exiftool -api largefilesupport=1 -s3 -CreationDate -CreateDate "
+                                "-ModifyDate '" +
+                                path + "' 2>/dev/null";
+    FILE *const pipe = ::popen(command.c_str(), "r");
+    std::string seen;
+    for (int c = std::fgetc(pipe); c != EOF; c = std::fgetc(pipe))
+        seen.push_back(static_cast<char>(c));
+    ::pclose(pipe);
     if (seen.empty())
         GTEST_SKIP() << "no exiftool";
     EXPECT_EQ(seen, "2020:04:16 09:03:47-06:00\n2020:04:16 15:03:47\n2020:04:16 15:03:49\n");
