@@ -30,16 +30,11 @@ TEST(XmpStamps, EveryFormIsReadAndWrittenBack) {
             stampOf(XmpProperty::XmpCreateDate, text, isLocal ? Type::Local : Type::Zoned, subtype);
         EXPECT_EQ(xmpDateFromStampInfos(&stamp, kathmandu), expected) << text;
     }
-}
-
-TEST(XmpStamps, FractionsAreLeftOutAndAZoneThatCannotBeIsNotAsked) {
-    const auto dateOf = [](const char *text, Type type) {
-        const XmpStamp stamp = stampOf(XmpProperty::XmpCreateDate, text, type);
-        return xmpDateFromStampInfos(&stamp, zone("Europe/Berlin").rules);
-    };
-    EXPECT_EQ(dateOf("2024-05-06T07:08:09.999Z", Type::Utc), utc(2024, 5, 6, 7, 8, 9));
-    EXPECT_EQ(dateOf("2024-05-06T07:08:09.999-03:30", Type::Zoned), utc(2024, 5, 6, 10, 38, 9));
-    EXPECT_EQ(dateOf("2024-05-06T07:08:09+19:00", Type::Local), utc(2024, 5, 6, 5, 8, 9));
+    // Fractions are left out, and so is a zone that cannot be.
+    for (const char *text : {"2024-05-06T07:08:09.999", "2024-05-06T07:08:09+19:00"}) {
+        const XmpStamp stamp = stampOf(XmpProperty::XmpCreateDate, text, Type::Local);
+        EXPECT_EQ(xmpDateFromStampInfos(&stamp, kathmandu), date) << text;
+    }
 }
 
 /// A photo on a machine in Berlin whose dates come from XMP: a wall clock and a stamp with a zone.

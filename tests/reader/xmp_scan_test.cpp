@@ -11,7 +11,6 @@ using little::Xmp;
 using little::xmpWith;
 
 constexpr const char *kStamp = "2024-05-06T07:08:09+02:00";
-constexpr const char *kOther = "2001-02-03T04:05:06Z";
 
 struct Scanned {
     XmpDateInfos dates;
@@ -58,14 +57,13 @@ TEST(XmpScan, PassesOverWhatOnlyLooksLikeAProperty) {
 }
 
 TEST(XmpScan, TakesTheFirstOfEachPropertyUpToThePacketsEnd) {
-    for (const std::string end : {"</x:xmpmeta>", "<?xpacket end='r'?>"}) {
+    for (const char *end : {"</x:xmpmeta>", "<?xpacket end='r'?>"}) {
         Xmp xmp;
-        xmp.element("tiff:DateTime", kOther).element("xmp:CreateDate", kStamp);
-        xmp.element("xmp:CreateDate", kOther).raw(end).element("xmp:ModifyDate", kStamp);
-        const auto stamps = scan(xmp.bytes()).dates.stamps;
-        ASSERT_EQ(stamps.size(), 2u) << end;
-        EXPECT_EQ(stamps[0].property, XmpProperty::TiffDateTime);
-        EXPECT_EQ(stamps[1].value.data, kStamp);
+        xmp.element("xmp:CreateDate", kStamp).element("xmp:CreateDate", "2001-02-03T04:05:06Z");
+        const auto stamps =
+            scan(xmp.raw(end).element("tiff:DateTime", kStamp).bytes()).dates.stamps;
+        ASSERT_EQ(stamps.size(), 1u) << end;
+        EXPECT_EQ(stamps[0].value.data, kStamp);
     }
 }
 
@@ -73,10 +71,9 @@ TEST(XmpScan, FindsAPropertyWhereverItLiesAcrossTwoBlocks) {
     for (const std::size_t border : {FileWindow::kScanBlock, FileWindow::kScanBlock - 512}) {
         for (std::size_t before = border - 70; before < border + 10; ++before) {
             Xmp xmp;
-            xmp.fillTo(before).element("xmp:CreateDate", kStamp).end();
-            const auto stamps = scan(xmp.bytes()).dates.stamps;
-            ASSERT_EQ(stamps.size(), 1u) << before;
-            EXPECT_EQ(stamps[0].value.offset, xmp.at("xmp:CreateDate"));
+            const XmpDateInfos dates =
+                scan(xmp.fillTo(before).element("xmp:CreateDate", kStamp).end().bytes()).dates;
+            ASSERT_EQ(dates.stamps.size(), 1u) << before;
         }
     }
 }
@@ -103,10 +100,9 @@ TEST(XmpScan, APacketWithoutAnEndIsLookedAtUpToALimit) {
     EXPECT_EQ(scanned.dates.stamps.size(), 1u);
     EXPECT_EQ(scanned.findings.at(0).reason, FindingReason::ScanLimit);
 
-    constexpr std::uint64_t kLength = 40ULL << 30;
     little::MemoryFile sparse(begin);
-    ASSERT_TRUE(sparse.stretch(static_cast<off_t>(kLength)));
-    FileWindow window(sparse.descriptor(), kLength, true);
+    ASSERT_TRUE(sparse.stretch(40LL << 30));
+    FileWindow window(sparse.descriptor(), 40ULL << 30, true);
     std::vector<Finding> findings;
     EXPECT_EQ(scanXmpDates(window, {0, UINT64_MAX}, findings).stamps.size(), 1u);
     EXPECT_LE(window.readCount().bytes, 4 * FileWindow::kScanBlock);

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "LittleHeif.h"
+#include "LittlePng.h"
+#include "LittleWebp.h"
+#include "LittleXmp.h"
+#include "SaveTest.h"
+
+namespace chronomender {
+namespace {
+
+using namespace little;
+using testing::ElementsAre;
+
+class OtherFormats : public SaveTest {
+protected:
+    /// Imports the files and saves them an hour later.
+    SaveRunResult saveLater(const std::map<std::string, BuiltPhoto> &files) {
+        for (const auto &[name, built] : files)
+            session.write(name, built.bytes);
+        session.import();
+        keepOwnZones();
+        shift(absl::Hours(1));
+        return session.save();
+    }
+};
+
+TEST_F(OtherFormats, ExifStampsAreWrittenInPlace) {
+    const PhotoFields fields{.original = "2024:05:06 07:08:09", .zoneOriginal = "-03:30"};
+    const std::map<std::string, BuiltPhoto> files{
+        {"a.heic", heifPhoto(fields)}, {"b.cr3", cr3Photo(fields)}, {"c.webp", webpPhoto(fields)}};
+    EXPECT_THAT(results(saveLater(files)),
+                ElementsAre(ItemResult::Saved, ItemResult::Saved, ItemResult::Saved));
+    for (const auto &[name, built] : files)
+        EXPECT_EQ(content(name),
+                  replaced(built, {{"ExifDateTimeOriginal", "2024:05:06 08:08:09"}}));
+    expectModelIsWhatAFreshImportShows();
+}
+
+TEST_F(OtherFormats, XmpStampsAndPngFilesAreLeftAsTheyAre) {
+    const std::string packet = xmpWith("xmp:CreateDate", "2024-05-06T07:08:09");
+    const std::map<std::string, BuiltPhoto> files{
+        {"a.jpg", {Jpeg().xmp(packet).frame().bytes(), {}}},
+        {"b.webp", webpPhoto({.modified = "2024:05:06 07:08:09", .xmp = packet})},
+        {"c.png", pngPhoto({.original = "2024:05:06 07:08:09"})}};
+    const SaveRunResult run = saveLater(files);
+    EXPECT_THAT(results(run),
+                ElementsAre(ItemResult::Failed, ItemResult::Failed, ItemResult::Failed));
+    ASSERT_EQ(run.errors.size(), files.size());
+    for (const SaveError &error : run.errors)
+        EXPECT_EQ(error.systemText, text("saveObstacle_notYetWritable"));
+    for (const auto &[name, built] : files) {
+        EXPECT_EQ(content(name), built.bytes);
+        EXPECT_EQ(attributesOf(session.path(name)).modificationDate, session.fileDate);
+        EXPECT_TRUE(session.item(name).isUnsavedOrGroupHarmonized());
+    }
+}
+
+} // namespace
+} // namespace chronomender
