@@ -29,18 +29,9 @@ TEST_F(MovieZones, headerTimesMoveWithTheZoneOnlyWhereTheyAreLocal) {
     assign("Asia/Tokyo", "");
     update();
     EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 12));
-    folder->isQuicktimeMVHDTimezoneCorrectionEnabled = true;
-    EXPECT_TRUE(update());
+    EXPECT_EQ(setQuicktimeMVHDTimezoneCorrection(*folder, true, zones, 3), 1U);
     EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 3));
     EXPECT_EQ(pic->slots.tiffDateTimeOLD, utc(2024, 6, 1, 4));
-    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
-}
-
-TEST_F(MovieZones, aChangedClockReadsTheFoldersMoviesAgain) {
-    assign("Asia/Tokyo", "");
-    update();
-    folder->sfPicDetails_fullArray = {pic};
-    EXPECT_EQ(setQuicktimeMVHDTimezoneCorrection(*folder, true, zones, 3), 1U);
     EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
     EXPECT_EQ(setQuicktimeMVHDTimezoneCorrection(*folder, true, zones, 3), 0U);
 }
@@ -58,15 +49,6 @@ TEST_F(MovieZones, aLoneModificationTimeGivesWayToAnOlderFile) {
     update();
     EXPECT_EQ(pic->spType, SpTypeMovieMvhdModification);
     EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 4));
-}
-
-TEST_F(MovieZones, aRiffDateIsAlwaysLocal) {
-    pic->spType = SpTypeMovieRiff;
-    pic->singlePicAttributes.riffCreaDate = located("Sat Jun 01 12:00:00 2024\n");
-    assign("Asia/Tokyo", "");
-    EXPECT_TRUE(update());
-    EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 3));
-    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
 }
 
 TEST_F(MovieZones, metadataDatesAndEmptyTimesDoNotMove) {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ItemFilling.h"
-#include "LittleAvi.h"
 #include "LittleItem.h"
 #include "LittleMovie.h"
 #include "MemoryFile.h"
@@ -23,12 +22,11 @@ protected:
         const MemoryFile memory(bytes);
         MySingleFolderDataReader reader;
         EXPECT_TRUE(reader.borrow(memory.descriptor()));
-        const auto format = type == SpTypeMovieRiff ? FileFormatOtherMovie : FileFormatQuickTime;
-        auto header = reader.readMovieHeader(format);
+        auto header = reader.readMovieHeader(FileFormatQuickTime);
         EXPECT_TRUE(header);
         auto pic = MySinglePic::create("a.mov", folder, type, mainDate);
-        setMovieAttributes(*pic, *std::move(header), reader.readMovieDetails(format), *folder,
-                           zones);
+        setMovieAttributes(*pic, *std::move(header), reader.readMovieDetails(FileFormatQuickTime),
+                           *folder, zones);
         setImageAttributesFromFileAttributes(
             *pic, {.size = 7, .modificationDate = fileDate, .birthDate = {}}, 3);
         return pic;
@@ -40,7 +38,7 @@ protected:
 };
 
 TEST_F(MovieFilling, slotsComeFromTheValuesOfTheType) {
-    const Date creation = utc(2020, 4, 17, 16, 3, 47), modification = utc(2020, 4, 17, 16, 3, 49);
+    const Date modification = mainDate + absl::Seconds(2);
     const absl::Duration berlin = absl::Hours(2);
     const MovieFields fields{.date = "2020-04-17T10:03:40-0600"};
     const std::string bytes = movie(fields).bytes;
@@ -49,8 +47,8 @@ TEST_F(MovieFilling, slotsComeFromTheValuesOfTheType) {
         bool isCorrected;
         OptionalDate original, modified;
     } table[] = {
-        {SpTypeMovieMvhdCreation, false, creation, modification},
-        {SpTypeMovieMvhdCreation, true, creation - berlin, modification - berlin},
+        {SpTypeMovieMvhdCreation, false, mainDate, modification},
+        {SpTypeMovieMvhdCreation, true, mainDate - berlin, modification - berlin},
         {SpTypeMovieMdta, true, utc(2020, 4, 17, 16, 3, 40), modification},
         {SpTypeMovieEmptyFileDate, false, std::nullopt, fileDate},
         {SpTypeMovieEmptyFixedDate, false, std::nullopt, std::nullopt},
@@ -63,12 +61,6 @@ TEST_F(MovieFilling, slotsComeFromTheValuesOfTheType) {
         EXPECT_EQ(qTMetaDateString(*pic), *fields.date);
         EXPECT_FALSE(isMdtaUtc(*pic));
     }
-}
-
-TEST_F(MovieFilling, aRiffDateIsReadInTheFoldersZone) {
-    const auto pic = filled(avi().bytes, SpTypeMovieRiff);
-    EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2022, 1, 20, 7, 16, 8));
-    EXPECT_EQ(pic->camera.pivMakeModel, "CanonMVI01");
 }
 
 TEST_F(MovieFilling, detailsReachTheItem) {
