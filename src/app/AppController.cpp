@@ -187,6 +187,9 @@ void AppController::runNext(const ImportJobPtr &job) {
 void AppController::importEnded(const ImportJobPtr &job, const ImportRequest &request,
                                 ImportOutcome outcome) {
     addSubfolders(job, request, outcome);
+    // What a dependent's own steps would take back belongs to its master now.
+    for (const MergedGroup &group : outcome.merged)
+        m_undo.removeAllActionsWithTarget(group.dependent.get());
     if (m_delayedImports.isDelayed(*request.folder))
         m_delayedImports.hold(*request.folder, outcome.items);
     else

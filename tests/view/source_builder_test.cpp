@@ -51,6 +51,20 @@ TEST_F(SourceBuilderTest, AShiftedFolderTakesItsPlace) {
     EXPECT_EQ(canon->sfPicDetails_fullArray[0]->spDateTimeModified(), noon);
 }
 
+TEST_F(SourceBuilderTest, ALivePhotoTakesThePlaceOfItsMovieWhereTheFolderSaysSo) {
+    const auto still = add(canon, "live.heic", noon);
+    add(canon, "other.jpg", noon + absl::Seconds(1));
+    const auto movie =
+        MySinglePic::create("live.mov", canon, SpTypeMovieMdta, noon + absl::Seconds(2));
+    still->group.bundleDependentImage = movie;
+    movie->group.bundleMasterImage = still;
+    build({canon});
+    EXPECT_THAT(names(), ElementsAre("live.heic", "other.jpg"));
+    canon->sortFolderLPsByMov = true;
+    build({canon});
+    EXPECT_THAT(names(), ElementsAre("other.jpg", "live.heic"));
+}
+
 TEST_F(SourceBuilderTest, TiesGoByNameThenFolderThenCreation) {
     add(nikon, "IMG_10.jpg", noon);
     add(nikon, "IMG_9.jpg", noon);
