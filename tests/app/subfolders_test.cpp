@@ -67,13 +67,6 @@ TEST_F(Subfolders, AreEnteredAsDeepAsWanted) {
     EXPECT_THAT(session(), ElementsAre("trip 0", "trip/1 0", "trip/1/2 0"));
 }
 
-TEST_F(Subfolders, AreLeftOutUnlessAskedFor) {
-    writePhoto("trip/inside/a.jpg");
-    choices.isSubFolderAutoImportEnabled.reset();
-    importTrip();
-    EXPECT_THAT(session(), ElementsAre("trip 0"));
-}
-
 TEST_F(Subfolders, EachDirectoryOnceAndNoneOfAnotherProgram) {
     for (const char *name : {"trip/inside/a.jpg", "elsewhere/b.jpg", "trip/.hidden/c.jpg",
                              "trip/Old.photoslibrary/d.jpg", "trip/Film.app/e.jpg"})

@@ -89,28 +89,6 @@ TEST_F(DelayedImportsTest, AFolderWithAChangeOfItsOwnKeepsIt) {
     EXPECT_EQ(fixed->spDateTimeOriginal, start + absl::Minutes(10));
 }
 
-TEST_F(DelayedImportsTest, FoldersInsideWaitToo) {
-    const auto inside = folderAt("/trip/canon/inside");
-    imports.addDrop(everyTenMinutes, {canon});
-    imports.addDelayer(inside, *canon);
-    const auto second = hold(canon, "b");
-    imports.removeDelayer(*canon);
-    const auto first = hold(inside, "a");
-    imports.removeDelayer(*inside);
-    EXPECT_EQ(minutes(first), 0);
-    EXPECT_EQ(minutes(second), 10);
-}
-
-TEST_F(DelayedImportsTest, WhatIsThereAfterAnInterruptionIsNotLost) {
-    imports.addDrop(everyTenMinutes, {canon, phone});
-    const auto pic = hold(canon, "a");
-    imports.removeDelayer(*canon);
-    imports.finishAll();
-    EXPECT_THAT(canon->sfPicDetails_fullArray, ElementsAre(pic));
-    EXPECT_EQ(minutes(pic), 0);
-    EXPECT_FALSE(imports.isDelayed(*phone));
-}
-
 TEST(DateSequenceTest, Steps) {
     using enum DateSequence::StepperKind;
     for (const auto &[kind, seconds] : {std::pair{Seconds, 7}, {Minutes, 420}, {Hours, 25200}})

@@ -50,12 +50,5 @@ TEST_F(FilteredImportTest, TheRestOfTheFolderCanComeLater) {
     EXPECT_THAT(namesOf(importAndPublish().items), ElementsAre("a.jpg", "c.jpg"));
 }
 
-TEST_F(FilteredImportTest, NamedFilesAreFilteredToo) {
-    dated("a.jpg");
-    dated("b.tif");
-    keyStates.filter = ExtensionFilter{"jpg", Kind::Keep};
-    EXPECT_THAT(namesOf(import({"a.jpg", "b.tif"}).items), ElementsAre("a.jpg"));
-}
-
 } // namespace
 } // namespace chronomender

@@ -49,7 +49,8 @@ protected:
 
 TEST_F(SidecarsTest, EachFindsItsItem) {
     keyStates.createFileGroups = false;
-    for (const char *name : {"only.jpg", "both.jpg", "named.jpg", "two.jpg", "two.png", "same.jpg"})
+    for (const char *name :
+         {"only.jpg", "both.jpg", "named.jpg", "two.jpg", "two.png", "same.jpg", "other.jpg"})
         dated(name);
     for (const char *name : {"both.CR2", "named.CR2", "same.CR2"})
         raw(name);
@@ -58,6 +59,7 @@ TEST_F(SidecarsTest, EachFindsItsItem) {
     file("named.xmp", xmpFor("JPG"));    // says whose it is
     file("two.xmp", silentXmp);          // no raw file among the two
     file("same.CR2.xmp", xmpFor("jpg")); // the whole name counts before all it says
+    file("other.xmp", xmpFor("nef"));    // says that it is not the one that is there
     file("nobody.xmp", silentXmp);
     file("only.AAE", "text");
     file("two.aae", "text");
@@ -70,17 +72,9 @@ TEST_F(SidecarsTest, EachFindsItsItem) {
                                      Pair("both.CR2", ElementsAre("xmp")),
                                      Pair("named.jpg", ElementsAre("xmp")),
                                      Pair("same.CR2", ElementsAre("CR2.xmp"))));
-    EXPECT_THAT(errorsOf(outcome),
-                UnorderedElementsAre("two.xmp 16", "two.aae 16", "nobody.xmp 17", "nobody.aae 17"));
+    EXPECT_THAT(errorsOf(outcome), UnorderedElementsAre("two.xmp 16", "two.aae 16", "other.xmp 16",
+                                                        "nobody.xmp 17", "nobody.aae 17"));
     EXPECT_THAT(skippedOf(outcome), IsEmpty());
-}
-
-TEST_F(SidecarsTest, ASidecarThatNamesAnotherKindOfFileIsNobodysOwn) {
-    dated("a.jpg");
-    file("a.xmp", xmpFor("nef"));
-    const ImportOutcome outcome = import();
-    EXPECT_THAT(owners(outcome), IsEmpty());
-    EXPECT_THAT(errorsOf(outcome), ElementsAre("a.xmp 16"));
 }
 
 TEST_F(SidecarsTest, AGroupIsOneShot) {
