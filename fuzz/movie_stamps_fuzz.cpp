@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     (void)isValidQtLocationData(text);
     if (const auto fields = civilFromRiffTimeStamp(text))
         require(fields->year >= 1 && fields->month <= 12 && fields->day <= 31);
-    if (const auto measure = measureLocation(text)) {
+    if (const auto measure = measureData(text)) {
         require(measure->int1() > 0 && measure->frac1() > 0);
         require(measure->int2() > 0 && measure->frac2() > 0);
         require(measure->longitudeEnd <= size);

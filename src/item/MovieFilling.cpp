@@ -88,26 +88,23 @@ void setMovieAttributes(MySinglePic &pic, MovieHeader header, const MovieDetails
     setSlots(pic, MvhdCorrection{folder.isQuicktimeMVHDTimezoneCorrectionEnabled}, zone.rules);
     takeCamera(pic, details, header.infoString);
     takeLivePhoto(pic, details);
-    setQTLocation(pic);
+    for (const QtLocation &location : pic.singlePicAttributes.qtLocations)
+        setQTLocationFromLocDic(pic, location);
 }
 
-void setQTLocation(MySinglePic &pic) {
-    for (const QtLocation &location : pic.singlePicAttributes.qtLocations) {
-        if (pic.hasLocation())
-            return;
-        const std::string_view text = location.value.data;
-        const auto measure = measureLocation(text);
-        if (!measure)
-            continue;
-        const std::size_t start = measure->longitudeStart;
-        const auto latitude = decimal(text.substr(0, start));
-        const auto longitude = decimal(text.substr(start, measure->longitudeEnd - start));
-        if (!latitude || !longitude || (*latitude == 0 && *longitude == 0) ||
-            std::fabs(*latitude) > kMostLatitude || std::fabs(*longitude) > kMostLongitude)
-            continue;
-        pic.location.gpsLat = latitude;
-        pic.location.gpsLong = longitude;
-    }
+void setQTLocationFromLocDic(MySinglePic &pic, const QtLocation &location) {
+    const std::string_view text = location.value.data;
+    const auto measure = pic.hasLocation() ? std::nullopt : measureData(text);
+    if (!measure)
+        return;
+    const std::size_t start = measure->longitudeStart;
+    const auto latitude = decimal(text.substr(0, start));
+    const auto longitude = decimal(text.substr(start, measure->longitudeEnd - start));
+    if (!latitude || !longitude || (*latitude == 0 && *longitude == 0) ||
+        std::fabs(*latitude) > kMostLatitude || std::fabs(*longitude) > kMostLongitude)
+        return;
+    pic.location.gpsLat = latitude;
+    pic.location.gpsLong = longitude;
 }
 
 void transformToLivePhotoMovie(MySinglePic &movie) {

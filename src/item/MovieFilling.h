@@ -15,9 +15,9 @@ namespace chronomender {
 void setMovieAttributes(MySinglePic &pic, MovieHeader header, const MovieDetails &details,
                         const MySingleFolder &folder, const Zones &zones);
 
-/// The first recorded location that is a place on earth becomes the item's; 0/0 is none. A location
-/// that the item has already stays.
-void setQTLocation(MySinglePic &pic);
+/// The place becomes the item's location, unless it has one already: so the first of a movie that
+/// is a place on earth wins. 0/0 is none.
+void setQTLocationFromLocDic(MySinglePic &pic, const QtLocation &location);
 
 /// The movie becomes the moving half of a live photo: it is dated by its metadata, whatever the
 /// folder says of others, as the still has the same moment there.

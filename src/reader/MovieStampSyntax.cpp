@@ -60,7 +60,7 @@ bool isValidQtLocationData(std::string_view data) {
            (data.back() == '/' || kDigits.find(data.back()) != std::string_view::npos);
 }
 
-std::optional<QTMovLocDataMeasure> measureLocation(std::string_view text) {
+std::optional<QTMovLocDataMeasure> measureData(std::string_view text) {
     const std::size_t second = text.find_first_of("+-", 1);
     if (second == std::string_view::npos)
         return std::nullopt;

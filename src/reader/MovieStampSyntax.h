@@ -34,7 +34,7 @@ struct QTMovLocDataMeasure {
 };
 
 /// Measures a text of two signed numbers, each with digits around a dot; none for other forms.
-std::optional<QTMovLocDataMeasure> measureLocation(std::string_view text);
+std::optional<QTMovLocDataMeasure> measureData(std::string_view text);
 
 /// Reads "Thu Jan 20 08:16:08 2022" by position, in any case, with a blank or a zero before a short
 /// day; the day's name is not looked at. None for anything else.

@@ -83,17 +83,17 @@ TEST(MovieStamps, riffDatesKeepTheirManner) {
 }
 
 TEST(MovieStamps, locationsAreMeasuredByTheirDigits) {
-    const auto measure = measureLocation("+48.1234-011.56789+520.1/");
+    const auto measure = measureData("+48.1234-011.56789+520.1/");
     ASSERT_TRUE(measure);
     EXPECT_EQ(measure->int1() * 1000 + measure->frac1() * 100 + measure->int2() * 10 +
                   measure->frac2(),
               2435U);
     EXPECT_EQ(measure->longitudeEnd, 18U);
     EXPECT_TRUE(measure->isEditable());
-    EXPECT_FALSE(measureLocation("+4807.4-01133.6/")->isEditable()); // degrees and minutes
+    EXPECT_FALSE(measureData("+4807.4-01133.6/")->isEditable()); // degrees and minutes
     for (const char *text : {"", "+48.1", "+48.1/", "+48+011/", "+48.1+.5/", "+48.+011.5/",
                              "48.1+011.5/", "+4x.1+011.5/", "+48.1.2+011.5/"})
-        EXPECT_FALSE(measureLocation(text)) << text;
+        EXPECT_FALSE(measureData(text)) << text;
 }
 
 } // namespace
