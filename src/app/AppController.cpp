@@ -213,7 +213,9 @@ void AppController::addSubfolders(const ImportJobPtr &job, const ImportRequest &
         if (result == OpenFolderResult::AlreadyOpen)
             continue;
         if (result != OpenFolderResult::Opened) {
-            outcome.skipped.push_back({path, SkipReason::Unreadable});
+            outcome.skipped.push_back({path, result == OpenFolderResult::NameNotUtf8
+                                                 ? SkipReason::NameNotUtf8
+                                                 : SkipReason::Unreadable});
             continue;
         }
         inherit(*folder, *request.folder);

@@ -56,7 +56,7 @@ enum class OpenFolderResult : std::uint8_t {
 struct ImportRequest {
     MySingleFolderPtr folder;
     std::vector<std::string> names;
-    KeyStates keyStates;
+    KeyStates keyStates; ///< those that the folder was opened with, or new ones for a later batch
     CompletionScope completion = CompletionScope::WhereCameraIsMissing;
     std::function<void(ImportProgress)> progress; ///< called on the import thread; may be empty
 };

@@ -143,7 +143,7 @@ FolderBatch batchOfFolder(const MySingleFolder &folder, std::vector<FolderEntry>
                 batch.sidecars.push_back({std::move(entry.name), false});
             else
                 batch.entries.push_back(batchEntry(std::move(entry), false));
-        } else if (isFirstImport && entry.isValidUtf8 && !isFolderNotEntered(entry.name)) {
+        } else if (isFirstImport && !isFolderNotEntered(entry.name)) {
             batch.subfolders.push_back(std::move(entry.name));
         }
     }

@@ -9,7 +9,6 @@ namespace chronomender {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class Subfolders : public AppSession {
 protected:
@@ -68,15 +67,17 @@ TEST_F(Subfolders, AreEnteredAsDeepAsWanted) {
 }
 
 TEST_F(Subfolders, EachDirectoryOnceAndNoneOfAnotherProgram) {
-    for (const char *name : {"trip/inside/a.jpg", "elsewhere/b.jpg", "trip/.hidden/c.jpg",
-                             "trip/Old.photoslibrary/d.jpg", "trip/Film.app/e.jpg"})
+    for (const char *name :
+         {"trip/inside/a.jpg", "elsewhere/b.jpg", "trip/.hidden/c.jpg",
+          "trip/Old.photoslibrary/d.jpg", "trip/Film.app/e.jpg", "trip/\xFF/f.jpg"})
         writePhoto(name);
     link("trip", "trip/inside/loop");
     link("trip/inside", "trip/again");
     link("elsewhere", "trip/linked");
     const ImportOutcome outcome = importTrip();
     EXPECT_THAT(session(), ElementsAre("trip 0", "trip/inside 1", "elsewhere 1"));
-    EXPECT_THAT(outcome.skipped, IsEmpty());
+    ASSERT_EQ(outcome.skipped.size(), 1U);
+    EXPECT_EQ(outcome.skipped[0].reason, SkipReason::NameNotUtf8);
 }
 
 TEST_F(Subfolders, ASecondImportTakesOnlyNewNames) {
