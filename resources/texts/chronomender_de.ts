@@ -6,6 +6,9 @@
     <message id="cli_emptyTagsLeftAlone">
         <translation>%1 Dateien haben leere Zeitfelder und bleiben, wie sie sind. --empty-tags sagt, was sie bedeuten sollen.</translation>
     </message>
+    <message id="cli_error_badDateSequence">
+        <translation>%1 ist keine Folge von Daten. Angegeben werden das erste Datum und ein Schritt, etwa 2024-05-01T10:00+60.</translation>
+    </message>
     <message id="cli_error_badDepth">
         <translation>%1 ist keine Anzahl von Ordnerebenen. Angegeben werden kann 0 bis 100.</translation>
     </message>
@@ -95,6 +98,9 @@
     </message>
     <message id="cli_help_all">
         <translation>Auch Dateien ohne Korrektur schreiben</translation>
+    </message>
+    <message id="cli_help_dateSequence">
+        <translation>Gibt den Bildern aller Ordner ein Datum nach dem anderen, in der Folge ihrer Namen: das erste Datum und den Schritt STEP (Sekunden oder H:MM:SS) zum nächsten</translation>
     </message>
     <message id="cli_help_dryRun">
         <translation>Jede Zeit alt und neu zeigen und nichts schreiben</translation>

@@ -6,6 +6,9 @@
     <message id="cli_emptyTagsLeftAlone">
         <translation>%1 files have empty date tags and are left alone. --empty-tags says what they are to mean.</translation>
     </message>
+    <message id="cli_error_badDateSequence">
+        <translation>%1 is no sequence of dates. Give the first date and a step, such as 2024-05-01T10:00+60.</translation>
+    </message>
     <message id="cli_error_badDepth">
         <translation>%1 is no number of folder levels. Give 0 to 100.</translation>
     </message>
@@ -95,6 +98,9 @@
     </message>
     <message id="cli_help_all">
         <translation>Write files without a correction as well</translation>
+    </message>
+    <message id="cli_help_dateSequence">
+        <translation>Gives the items of all folders one date after the other, in the order of their names: the first date, and the STEP (seconds or H:MM:SS) to the next</translation>
     </message>
     <message id="cli_help_dryRun">
         <translation>Show every date old and new, and write nothing</translation>

@@ -94,6 +94,9 @@ void BlockCollector::addToRun(OptionId id, const std::string &value) {
     case OptionId::All:
         m_line.savesAll = true;
         break;
+    case OptionId::DateSequence:
+        addDateSequence(value);
+        break;
     case OptionId::Set:
         addSetting(value);
         break;
@@ -106,6 +109,14 @@ void BlockCollector::addToRun(OptionId id, const std::string &value) {
     default:
         break;
     }
+}
+
+void BlockCollector::addDateSequence(const std::string &value) {
+    const auto spec = parseEmptyTags(value);
+    if (spec && spec->choice == PerFolderImportOptions::EmptyTags::FixedDate)
+        m_line.dateSequence = spec;
+    else
+        fail(text("cli_error_badDateSequence", {printable(value)}));
 }
 
 void BlockCollector::addSetting(const std::string &value) {

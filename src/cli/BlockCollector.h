@@ -28,6 +28,7 @@ private:
     void addShift(FolderBlock &block, const char *name, const std::string &value);
     void addFilter(std::optional<std::string> &filter, const std::optional<std::string> &opposite,
                    const char *name, const std::string &value);
+    void addDateSequence(const std::string &value);
     void addSetting(const std::string &value);
     void addAccepted(const std::string &value);
     template<class Value>

@@ -43,6 +43,8 @@ struct CommandLine {
     std::vector<FolderBlock> blocks; ///< in the order given
     std::vector<std::pair<std::string, std::string>> settings;
     std::optional<std::string> systemZone;
+    /// Dates that all items of all folders get, one after the other in the order of their names.
+    std::optional<EmptyTagsSpec> dateSequence;
     bool isJson = false, isDryRun = false, savesAll = false;
     bool acceptsAll = false;
     std::set<PreSaveProblem> accepted;

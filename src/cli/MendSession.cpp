@@ -46,6 +46,34 @@ std::optional<Complaint> complaintOf(DateChangeOutcome outcome, const std::strin
     return Complaint{2, text("cli_error_shiftOutOfBounds", {printable(what)})};
 }
 
+std::optional<ExtensionFilter> filterOf(const FolderBlock &block) {
+    if (block.filterExt)
+        return ExtensionFilter{*block.filterExt, ExtensionFilter::Kind::Keep};
+    if (block.filterExtNot)
+        return ExtensionFilter{*block.filterExtNot, ExtensionFilter::Kind::Remove};
+    return std::nullopt;
+}
+
+KeyStates keyStates(const FolderPlan &plan) {
+    KeyStates states;
+    states.sfEditMode = plan.block.picShifts.empty() ? EditMode::Together : EditMode::Single;
+    states.adaptedZone = {plan.sourceZone, plan.targetZone};
+    states.filter = filterOf(plan.block);
+    if (plan.block.subfolderDepth) {
+        states.isSubFolderAutoImportEnabled = *plan.block.subfolderDepth > 0;
+        states.subFolderAutoImportMaxDepth = plan.block.subfolderDepth;
+    }
+    return states;
+}
+
+/// Without a zone the first date is one of the system's.
+DateSequence dateSequence(const EmptyTagsSpec &spec, const Zones &zones) {
+    const PerFolderImportOptions options = importOptions(spec, zones.systemZone().rules);
+    return {options.prefFixDateDate.value_or(Date()),
+            static_cast<int>(absl::ToInt64Seconds(options.step)),
+            DateSequence::StepperKind::Seconds};
+}
+
 void tell(const std::string &message) {
     writeError("mend: " + message + '\n');
 }
@@ -75,11 +103,10 @@ std::optional<int> MendSession::open(const Opening &opening) {
     }
     if (!complaint && m_hasFailedPaths && opening.badPath == BadPath::Stop)
         complaint = Complaint{2, text("cli_error_nothingWritten")};
-    for (std::size_t i = 0; i < m_folders.size() && !complaint; ++i) {
-        import(m_plans[i], m_folders[i], opening.completion);
-        if (!wasInterrupted())
-            complaint = shift(m_plans[i].block, *m_folders[i]);
-    }
+    if (!complaint)
+        importAll(opening.completion);
+    for (std::size_t i = 0; i < m_folders.size() && !complaint && !wasInterrupted(); ++i)
+        complaint = shift(m_plans[i].block, *m_folders[i]);
     if (complaint) {
         tell(complaint->message);
         return complaint->exitCode;
@@ -127,13 +154,8 @@ std::optional<Complaint> MendSession::addFolders(const FolderPlans &plans) {
 }
 
 std::optional<Complaint> MendSession::addFolder(const FolderPlan &plan) {
-    FolderRequest request;
-    request.path = plan.path;
-    request.keyStates.sfEditMode =
-        plan.block.picShifts.empty() ? EditMode::Together : EditMode::Single;
-    request.keyStates.adaptedZone = {plan.sourceZone, plan.targetZone};
     MySingleFolderPtr folder;
-    const OpenFolderResult result = m_controller->addFolder(request, &folder);
+    const OpenFolderResult result = m_controller->addFolder({plan.path, keyStates(plan)}, &folder);
     const std::string message = result == OpenFolderResult::Opened
                                     ? ""
                                     : text(complaintKey(result), {printable(plan.path)});
@@ -150,6 +172,38 @@ std::optional<Complaint> MendSession::addFolder(const FolderPlan &plan) {
     return std::nullopt;
 }
 
+/// A folder found inside another goes behind it, with the same options. Names that the user gave
+/// are names of the outer folder only.
+void MendSession::addInnerFolder(const MySingleFolderPtr &folder, const MySingleFolderPtr &parent) {
+    const auto outer = std::ranges::find(m_folders, parent) - m_folders.begin();
+    auto place = outer + 1;
+    while (place < std::ssize(m_folders) &&
+           m_innerFolders.contains(m_folders[static_cast<std::size_t>(place)].get()))
+        ++place;
+    FolderPlan plan = m_plans[static_cast<std::size_t>(outer)];
+    plan.path = folder->sfFolderPath();
+    plan.names.clear();
+    plan.block.picShifts.clear();
+    m_importOptions[folder.get()] = plan.importOptions;
+    m_innerFolders.insert(folder.get());
+    m_folders.insert(m_folders.begin() + place, folder);
+    m_plans.insert(m_plans.begin() + place, std::move(plan));
+}
+
+void MendSession::importAll(CompletionScope completion) {
+    m_controller->setFolderAdded(
+        [this](const auto &folder, const auto &parent) { addInnerFolder(folder, parent); });
+    DelayedImports &delayed = m_controller->delayedImports();
+    if (m_line.dateSequence)
+        delayed.addDrop(dateSequence(*m_line.dateSequence, m_controller->zones()), m_folders);
+    const std::vector<MySingleFolderPtr> named = m_folders;
+    const std::vector<FolderPlan> plans = m_plans;
+    for (std::size_t i = 0; i < named.size(); ++i)
+        import(plans[i], named[i], completion);
+    if (wasInterrupted())
+        delayed.finishAll();
+}
+
 void MendSession::import(const FolderPlan &plan, const MySingleFolderPtr &folder,
                          CompletionScope completion) {
     if (wasInterrupted())
@@ -158,6 +212,7 @@ void MendSession::import(const FolderPlan &plan, const MySingleFolderPtr &folder
     ImportRequest request;
     request.folder = folder;
     request.names = plan.names;
+    request.keyStates = keyStates(plan);
     request.completion = completion;
     request.progress = [&bar](ImportProgress progress) {
         bar.update(progress.done, progress.total);
@@ -165,6 +220,8 @@ void MendSession::import(const FolderPlan &plan, const MySingleFolderPtr &folder
     const auto outcome = waitFor<ImportOutcome>(
         [&](auto finished) { m_controller->startImport(std::move(request), finished); });
     tellSkipped(plan, outcome.skipped);
+    for (const ImportError &error : outcome.importErrors)
+        tell(text("cli_skipped", {printable(error.path), text(textKey(error.id))}));
 }
 
 void MendSession::tellSkipped(const FolderPlan &plan, const std::vector<SkippedEntry> &skipped) {
@@ -190,7 +247,7 @@ void MendSession::tellLeftAlone() const {
 }
 
 std::optional<Complaint> MendSession::shift(const FolderBlock &block, MySingleFolder &folder) {
-    if (!block.picShifts.empty())
+    if (folder.sfEditMode == EditMode::Single)
         return shiftSingly(block, folder);
     if (!block.shift)
         return std::nullopt;

@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,8 @@ private:
     std::optional<Complaint> addFolders(const FolderPlans &plans);
     std::optional<Complaint> addFolder(const FolderPlan &plan);
     void settleMovieOptions(const FolderBlock &block, MySingleFolder &folder) const;
+    void addInnerFolder(const MySingleFolderPtr &folder, const MySingleFolderPtr &parent);
+    void importAll(CompletionScope completion);
     void import(const FolderPlan &plan, const MySingleFolderPtr &folder,
                 CompletionScope completion);
     void tellSkipped(const FolderPlan &plan, const std::vector<SkippedEntry> &skipped);
@@ -60,6 +63,7 @@ private:
     std::optional<Interruption> m_interruption;
     std::vector<FolderPlan> m_plans; ///< of `m_folders`, one for one
     std::vector<MySingleFolderPtr> m_folders;
+    std::set<const MySingleFolder *> m_innerFolders; ///< found inside those that the user named
     std::map<const MySingleFolder *, PerFolderImportOptions> m_importOptions;
     bool m_hasFailedPaths = false;
 };

@@ -21,6 +21,7 @@ enum class OptionId : std::uint8_t {
     FilterExt,
     FilterExtNot,
     Subfolders,
+    DateSequence,
     Set,
     SystemZone,
     All,
@@ -46,7 +47,7 @@ inline constexpr unsigned ofInfo = commandBit(Command::Info);
 inline constexpr unsigned ofSave = commandBit(Command::Save);
 inline constexpr unsigned ofFolders = commandBit(Command::List) | ofInfo | ofSave;
 
-inline constexpr std::array<OptionDescription, 17> optionTable{{
+inline constexpr std::array<OptionDescription, 18> optionTable{{
     {OptionId::Folder, "--folder", "PATH", "cli_help_folder", true, ofFolders},
     {OptionId::Shift, "--shift", "SPEC", "cli_help_shift", true, ofFolders},
     {OptionId::Pic, "--pic", "NAME", "cli_help_pic", true, ofFolders},
@@ -59,6 +60,8 @@ inline constexpr std::array<OptionDescription, 17> optionTable{{
     {OptionId::FilterExt, "--filter-ext", "LIST", "cli_help_filterExt", true, ofFolders},
     {OptionId::FilterExtNot, "--filter-ext-not", "LIST", "cli_help_filterExtNot", true, ofFolders},
     {OptionId::Subfolders, "--subfolders", "DEPTH", "cli_help_subfolders", true, ofFolders},
+    {OptionId::DateSequence, "--date-sequence", "DATE[+STEP]", "cli_help_dateSequence", false,
+     ofFolders},
     {OptionId::DryRun, "--dry-run", "", "cli_help_dryRun", false, ofSave},
     {OptionId::Accept, "--accept", "KEY|all", "cli_help_accept", false, ofSave},
     {OptionId::All, "--all", "", "cli_help_all", false, ofSave},
