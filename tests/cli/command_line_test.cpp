@@ -43,8 +43,8 @@ TEST_F(CommandLineUse, MistakesAreNamedAndNothingIsWritten) {
     expectUsageError({"list", "--folder", canon, "--movie-date", "tkhd"}, "mdta");
     expectUsageError({"list", "--folder", canon, "--movie-clock", "gmt"}, "local");
     expectUsageError({"list", "--folder", canon, "--subfolders", "-1"}, "0 to 100");
-    expectUsageError(
-        {"list", "--folder", canon, "--filter-ext", "jpg", "--filter-ext-not", "mov"}, "one of");
+    expectUsageError({"list", "--folder", canon, "--filter-ext", "jpg", "--filter-ext-not", "mov"},
+                     "one of");
     expectUsageError({"save", "--accept", "error_99", canon}, "no problem error_99");
     expectUsageError({"save", "--folder", canon, "--shift", "2000000d"}, "out of the years");
     expectUsageError({"save", "--folder", canon, "--shift", "60", path("missing")},
