@@ -6,6 +6,7 @@
 #include "FolderAccess.h"
 #include "FolderNames.h"
 #include "MainThread.h"
+#include "MovieClock.h"
 #include "SupportFolders.h"
 #include "ZoneLookup.h"
 
@@ -269,6 +270,14 @@ DateChangeOutcome AppController::shiftFolder(MySingleFolder &folder, absl::Durat
 DateChangeOutcome AppController::shiftItems(const std::vector<MySinglePicPtr> &items,
                                             absl::Duration difference) {
     return dragMovesValuesBy(difference, items, m_undo);
+}
+
+std::size_t AppController::setMovieClock(MySingleFolder &folder, bool isLocal) {
+    const std::size_t changed = setQuicktimeMVHDTimezoneCorrection(
+        folder, isLocal, *m_services.zones, defaults().integerForKey("dateComparisonThresold"));
+    if (changed > 0)
+        sfUpdatePicsFromAndTill(folder);
+    return changed;
 }
 
 void AppController::startPreProcess(SaveRequest request, Progress progress,

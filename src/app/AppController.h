@@ -110,6 +110,10 @@ public:
     DateChangeOutcome shiftItems(const std::vector<MySinglePicPtr> &items,
                                  absl::Duration difference);
 
+    /// Says whether header times of the folder's movies are the camera's own clock or UTC, and
+    /// reads them again. The number of items that show another date now.
+    std::size_t setMovieClock(MySingleFolder &folder, bool isLocal);
+
     /// Stage one of a save; nothing is written.
     void startPreProcess(SaveRequest request, Progress progress,
                          std::function<void(PreProcessResult)> finished);

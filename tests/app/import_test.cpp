@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AppSession.h"
+#include "LittleMovie.h"
 
 #include "MainThread.h"
 
@@ -68,6 +69,20 @@ TEST_F(Import, SecondImportOfAFolderAddsOnlyNewNames) {
     EXPECT_THAT(namesOf(outcome.items), ElementsAre("b.jpg"));
     EXPECT_TRUE(outcome.skipped.empty());
     EXPECT_EQ(folder->sfPics, 2);
+}
+
+TEST_F(Import, AMovieClockToldLaterReadsTheMoviesAgain) {
+    disk().write("trip/a.mov", little::movie().bytes); // 2020-04-17 16:03:47 in its header
+    MySingleFolderPtr folder;
+    KeyStates keyStates;
+    keyStates.adaptedZone.source = ZoneChoice::named(*app().zones().zoneWithName("Asia/Tokyo"));
+    ASSERT_EQ(app().addFolder({disk().path("trip"), keyStates}, &folder), OpenFolderResult::Opened);
+    import(folder);
+    const Date asUtc = folder->sfPicDetails_fullArray.at(0)->spDateTimeOriginal;
+    EXPECT_EQ(app().setMovieClock(*folder, true), 1U);
+    EXPECT_EQ(folder->sfFrom, asUtc - absl::Hours(9));
+    EXPECT_EQ(app().setMovieClock(*folder, false), 1U);
+    EXPECT_EQ(folder->sfPicDetails_fullArray.at(0)->spDateTimeOriginal, asUtc);
 }
 
 TEST_F(Import, OneFileInTwoFoldersIsOneItem) {
