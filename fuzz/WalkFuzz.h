@@ -28,8 +28,8 @@ inline void readAs(std::string_view bytes, FileFormatType format) {
         std::abort();
     DatesData dates = reader.readDates(format, "");
     requireTruth(dates, bytes);
-    requireTruth(reader.readXmpDates(format, "", dates).value_or(XmpDateInfos()), bytes);
-    requireTruth(reader.readXmpLocation(format, "", dates), bytes);
+    requireTruth(reader.readXmpDates(format, dates).value_or(XmpDateInfos()), bytes);
+    requireTruth(reader.readXmpLocation(format, dates), bytes);
 }
 
 /// Reads the input as a movie of this format.

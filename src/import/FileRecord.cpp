@@ -50,29 +50,11 @@ FileFormatType formatOf(MySingleFolderDataReader &reader, const BatchEntry &entr
     return fileFormatTypeForContent(reader.firstBytes(), extension).value_or(entry.promised);
 }
 
-/// XMP stands for the file's own tags where those hold no date of the picture. It is dropped when
-/// all it could give is a date of its own writing.
-void readXmpDates(MySingleFolderDataReader &reader, std::string_view extension,
-                  FileRecord &record) {
-    if (!isXmpRead(record.dates, record.format))
-        return;
-    auto found = reader.readXmpDates(record.format, extension, record.dates);
-    if (found && (found->xmpCreaDict() || found->xmpDigiDict() || found->xmpModDict() ||
-                  record.dates.tiffDateTime))
-        record.xmpDates = *std::move(found);
-}
-
-/// Formats that keep a location in XMP and nowhere else.
-bool keepsLocationInXmp(const FileRecord &record) {
-    return !record.dates.gpsLocation &&
-           (record.format == FileFormatPng || record.dates.cr3XmpOffset);
-}
-
 void readStill(MySingleFolderDataReader &reader, std::string_view extension, FileRecord &record) {
     record.dates = reader.readDates(record.format, extension);
-    readXmpDates(reader, extension, record);
-    if (keepsLocationInXmp(record))
-        record.xmpLocation = reader.readXmpLocation(record.format, extension, record.dates);
+    record.xmpDates = readXmpDates(reader, record.format, record.dates);
+    if (!record.dates.gpsLocation && isLocationSearchedInXmp(record.format, extension))
+        record.xmpLocation = reader.readXmpLocation(record.format, record.dates);
 }
 
 void readMovie(MySingleFolderDataReader &reader, FileRecord &record) {

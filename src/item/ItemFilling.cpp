@@ -202,15 +202,12 @@ bool refreshInternalData(MySinglePic &pic, const MySingleFolder &folder, const Z
         return false;
     const std::string extension = pic.extension();
     DatesData dates = reader.readDates(pic.fileFormatType, extension);
-    auto xmp = isXmpRead(dates, pic.fileFormatType)
-                   ? reader.readXmpDates(pic.fileFormatType, extension, dates)
-                   : std::nullopt;
+    XmpDateInfos xmp = readXmpDates(reader, pic.fileFormatType, dates);
     XmpLocation xmpLocation = std::exchange(pic.singlePicAttributes.xmpLocation, {});
     if (!xmpLocation.isEmpty())
-        xmpLocation = reader.readXmpLocation(pic.fileFormatType, extension, dates);
+        xmpLocation = reader.readXmpLocation(pic.fileFormatType, dates);
     cleanupBeforeRefreshInternalData(pic);
-    setImageAttributesFromTheDatesData(pic, std::move(dates), folder, zones,
-                                       std::move(xmp).value_or(XmpDateInfos()));
+    setImageAttributesFromTheDatesData(pic, std::move(dates), folder, zones, std::move(xmp));
     addRelevantXmpInfos(pic, std::move(xmpLocation));
     if (!pic.hasLocation())
         setLocationFromXmp(pic, pic.relevantSidecarInfos.location);

@@ -2,7 +2,6 @@
 #include "XmpFilling.h"
 
 #include "ItemFilling.h"
-#include "MySingleFolderDataReader.h"
 #include "XmpStampConversions.h"
 #include "XmpValues.h"
 
@@ -21,11 +20,6 @@ DatesData knownPlaces(const MySinglePic &pic) {
     return known;
 }
 
-/// Formats whose other places for a location are not looked into.
-bool isLocationSearchedInXmp(const MySinglePic &pic) {
-    return pic.fileFormatType == FileFormatPng || isBoxedRaw(pic.fileFormatType, pic.extension());
-}
-
 std::optional<double> degrees(const std::optional<LocatedBytes> &value,
                               const std::optional<LocatedBytes> &reference, XmpAxis axis) {
     if (!value)
@@ -41,6 +35,20 @@ bool isXmpRead(const DatesData &dates, FileFormatType format) {
         return false;
     return dates.tiffHeaderStartOffset || dates.jpgXmpOffset || dates.cr3XmpOffset ||
            dates.xmpHeaderStartOffset || format == FileFormatPng || format == FileFormatAvif;
+}
+
+XmpDateInfos readXmpDates(MySingleFolderDataReader &reader, FileFormatType format,
+                          DatesData &dates) {
+    if (!isXmpRead(dates, format))
+        return {};
+    auto found = reader.readXmpDates(format, dates);
+    const bool isOfUse = found && (found->xmpCreaDict() || found->xmpDigiDict() ||
+                                   found->xmpModDict() || dates.tiffDateTime);
+    return isOfUse ? *std::move(found) : XmpDateInfos();
+}
+
+bool isLocationSearchedInXmp(FileFormatType format, std::string_view extension) {
+    return format == FileFormatPng || isBoxedRaw(format, extension);
 }
 
 std::optional<XmpSidecar> metadataFromXMPSidecarAtPath(const std::string &path) {
@@ -90,12 +98,11 @@ void addRelevantSidecarInfos(MySinglePic &pic, XmpSidecar sidecar) {
 }
 
 void lateSearchXmpLocation(MySinglePic &pic) {
-    if (pic.hasLocation() || !isLocationSearchedInXmp(pic))
+    if (pic.hasLocation() || !isLocationSearchedInXmp(pic.fileFormatType, pic.extension()))
         return;
     MySingleFolderDataReader reader;
     if (reader.open(pic.spPath()))
-        addRelevantXmpInfos(
-            pic, reader.readXmpLocation(pic.fileFormatType, pic.extension(), knownPlaces(pic)));
+        addRelevantXmpInfos(pic, reader.readXmpLocation(pic.fileFormatType, knownPlaces(pic)));
 }
 
 } // namespace chronomender

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "DatesData.h"
+#include "MySingleFolderDataReader.h"
 #include "MySinglePic.h"
 
 #include <optional>
@@ -13,6 +13,15 @@ namespace chronomender {
 /// original nor a digitized stamp, be it an empty one, and there is a place where a packet can be.
 /// `dates` is what the date walk of the file gave.
 bool isXmpRead(const DatesData &dates, FileFormatType format);
+
+/// The packet's dates by that rule; findings are added to `dates`. Empty where it is not read, and
+/// where it tells nothing but when it was written itself.
+XmpDateInfos readXmpDates(MySingleFolderDataReader &reader, FileFormatType format,
+                          DatesData &dates);
+
+/// Formats whose packet is searched for a location when the file has none elsewhere: PNG and the
+/// boxed raw format.
+bool isLocationSearchedInXmp(FileFormatType format, std::string_view extension);
 
 /// Everything that the sidecar file says; empty when it says nothing of use. None when it cannot be
 /// opened.
@@ -33,8 +42,8 @@ void addRelevantXmpInfos(MySinglePic &pic, XmpLocation xmp);
 /// Takes what a sidecar says. Its location counts for an item that has none of its own.
 void addRelevantSidecarInfos(MySinglePic &pic, XmpSidecar sidecar);
 
-/// Looks into the packet of an item without a location, for PNG and the boxed raw format. Opens the
-/// file; does nothing when that fails.
+/// Looks for a location of an item without one, in the formats of `isLocationSearchedInXmp`. Opens
+/// the file; does nothing when that fails.
 void lateSearchXmpLocation(MySinglePic &pic);
 
 } // namespace chronomender

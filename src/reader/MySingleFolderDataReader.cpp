@@ -116,7 +116,6 @@ DatesData MySingleFolderDataReader::readDates(FileFormatType format, std::string
 }
 
 std::optional<XmpDateInfos> MySingleFolderDataReader::readXmpDates(FileFormatType format,
-                                                                   std::string_view /*extension*/,
                                                                    DatesData &known) {
     const auto packet = m_file ? findXmpPacket(m_file->window, format, known) : std::nullopt;
     if (!packet)
@@ -126,7 +125,6 @@ std::optional<XmpDateInfos> MySingleFolderDataReader::readXmpDates(FileFormatTyp
 }
 
 XmpLocation MySingleFolderDataReader::readXmpLocation(FileFormatType format,
-                                                      std::string_view /*extension*/,
                                                       const DatesData &known) {
     const auto packet = m_file ? findXmpPacket(m_file->window, format, known) : std::nullopt;
     return packet ? scanXmpLocation(m_file->window, *packet) : XmpLocation();

@@ -56,10 +56,8 @@ public:
                         std::uint64_t startOffset = 0);
 
     /// XMP dates of the opened file; `known` is what `readDates` gave for it. None without any.
-    std::optional<XmpDateInfos> readXmpDates(FileFormatType format, std::string_view extension,
-                                             DatesData &known);
-    XmpLocation readXmpLocation(FileFormatType format, std::string_view extension,
-                                const DatesData &known);
+    std::optional<XmpDateInfos> readXmpDates(FileFormatType format, DatesData &known);
+    XmpLocation readXmpLocation(FileFormatType format, const DatesData &known);
     /// Everything an XMP sidecar says.
     XmpSidecar readXmpSidecar(std::vector<Finding> &findings);
 

@@ -25,7 +25,7 @@ CountedRead countedRead(std::string_view bytes, FileFormatType format, std::size
     MySingleFolderDataReader reader;
     EXPECT_TRUE(reader.borrow(file.descriptor()));
     CountedRead read{reader.readDates(format, ""), {}};
-    (void)reader.readXmpDates(format, "", read.dates);
+    (void)reader.readXmpDates(format, read.dates);
     read.count = reader.readCount();
     EXPECT_LE(read.count.reads, kMostReads);
     EXPECT_LE(read.count.bytes, kMostBytes);

@@ -41,8 +41,8 @@ XmpSidecar readCorpusXmp(const CorpusFile &file) {
     const auto format = fileFormatTypeForContent(reader.firstBytes(), extension)
                             .value_or(fileFormatTypeForExtension(extension));
     DatesData known = reader.readDates(format, extension);
-    return {reader.readXmpDates(format, extension, known).value_or(XmpDateInfos()),
-            reader.readXmpLocation(format, extension, known),
+    return {reader.readXmpDates(format, known).value_or(XmpDateInfos()),
+            reader.readXmpLocation(format, known),
             {}};
 }
 

@@ -20,7 +20,7 @@ std::string readFrom(std::string_view bytes, FileFormatType format) {
     MySingleFolderDataReader reader;
     EXPECT_TRUE(reader.borrow(file.descriptor()));
     DatesData known = reader.readDates(format, "");
-    const auto dates = reader.readXmpDates(format, "", known);
+    const auto dates = reader.readXmpDates(format, known);
     if (!dates)
         return "none";
     EXPECT_EQ(little::firstUntruth(*dates, bytes), std::nullopt);
