@@ -1,33 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Session.h"
 
-#include <QEventLoop>
+#include "EventLoopWait.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <utility>
 
 namespace chronomender::bench {
-
-namespace {
-
-/// Serves the main thread's events until the operation that `start` starts has called back.
-template<class Result, class Start>
-Result waitFor(Start start) {
-    std::optional<Result> result;
-    QEventLoop loop;
-    start([&](Result answer) {
-        result.emplace(std::move(answer));
-        loop.quit();
-    });
-    if (!result)
-        loop.exec();
-    return std::move(*result);
-}
-
-} // namespace
 
 Session::Session() {
     auto services = systemServices();

@@ -17,8 +17,9 @@ std::vector<MySinglePicPtr> itemsToComplete(const std::vector<MySinglePicPtr> &i
                                             CompletionScope scope) {
     std::vector<MySinglePicPtr> wanted;
     for (const MySinglePicPtr &pic : items)
-        if (isWanted(*pic, scope))
-            wanted.push_back(pic);
+        for (const MySinglePicPtr &half : {pic, pic->group.bundleDependentImage})
+            if (half && isWanted(*half, scope))
+                wanted.push_back(half);
     return wanted;
 }
 

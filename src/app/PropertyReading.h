@@ -13,7 +13,7 @@ namespace chronomender {
 /// Which items have the image library's properties read after their import.
 enum class CompletionScope : std::uint8_t { None, WhereCameraIsMissing, All };
 
-/// The items that `scope` takes in.
+/// Those of the items, and of their other halves, that `scope` takes in.
 std::vector<MySinglePicPtr> itemsToComplete(const std::vector<MySinglePicPtr> &items,
                                             CompletionScope scope);
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "AppController.h"
+#include "EventLoopWait.h"
 #include "LittlePhoto.h"
 #include "TemporaryFolder.h"
 
 #include <QCoreApplication>
-#include <QEventLoop>
 
 #include <absl/time/clock.h>
 #include <gtest/gtest.h>
@@ -89,19 +89,6 @@ protected:
     SaveRunResult goOn(const PreProcessResult &plan) {
         return waitFor<SaveRunResult>(
             [&](auto finished) { app().startContinueProcess({}, plan, {}, finished); });
-    }
-
-    template<class Result, class Start>
-    static Result waitFor(Start start) {
-        std::optional<Result> result;
-        QEventLoop loop;
-        start([&](Result answer) {
-            result.emplace(std::move(answer));
-            loop.quit();
-        });
-        if (!result)
-            loop.exec();
-        return std::move(*result);
     }
 
 private:
