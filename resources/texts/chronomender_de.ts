@@ -354,13 +354,13 @@
         <translation>bleibt</translation>
     </message>
     <message id="dateSource_1">
-        <translation>Exif, Aufnahmedatum</translation>
+        <translation>Aufnahmedatum</translation>
     </message>
     <message id="dateSource_2">
-        <translation>Exif, Digitalisierungsdatum</translation>
+        <translation>Digitalisierungsdatum</translation>
     </message>
     <message id="dateSource_3">
-        <translation>TIFF, Änderungsdatum</translation>
+        <translation>Änderungsdatum</translation>
     </message>
     <message id="dateSource_4">
         <translation>Dateidatum, da das Änderungsdatum nach der Datei liegt</translation>
@@ -649,6 +649,9 @@
     </message>
     <message id="workPanelSave">
         <translation>Die korrigierten Zeiten werden gespeichert…</translation>
+    </message>
+    <message id="dateSource_xmp">
+        <translation>%1, aus XMP</translation>
     </message>
 </context>
 </TS>

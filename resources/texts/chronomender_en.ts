@@ -354,13 +354,13 @@
         <translation>stays</translation>
     </message>
     <message id="dateSource_1">
-        <translation>Exif, date taken</translation>
+        <translation>date taken</translation>
     </message>
     <message id="dateSource_2">
-        <translation>Exif, date digitised</translation>
+        <translation>date digitised</translation>
     </message>
     <message id="dateSource_3">
-        <translation>TIFF, date modified</translation>
+        <translation>date modified</translation>
     </message>
     <message id="dateSource_4">
         <translation>file date, as the date modified is later than the file</translation>
@@ -649,6 +649,9 @@
     </message>
     <message id="workPanelSave">
         <translation>Saving the corrected dates…</translation>
+    </message>
+    <message id="dateSource_xmp">
+        <translation>%1, from XMP</translation>
     </message>
 </context>
 </TS>

@@ -156,7 +156,7 @@ private:
                                            std::to_string(camera.pivImageHeight)
                                      : std::string();
         return {{"cli_info_date", readableText(m_pic.spDateTimeModified(), m_displayZone)},
-                {"cli_info_source", sourceText(m_pic.spType)},
+                {"cli_info_source", sourceText(m_pic)},
                 {"cli_info_format", std::string(formatName(m_pic.fileFormatType))},
                 {"cli_info_camera", camera.pivMakeModel},
                 {"cli_info_lens", camera.lens},
@@ -214,8 +214,7 @@ int runInfo(const CommandLine &line) {
     std::string buffer;
     for (const MySingleFolderPtr &folder : session.folders())
         for (const MySinglePicPtr &pic : itemsWithDependents(*folder)) {
-            if (!pic->bundleMasterImage())
-                calculateNewDates(*pic, context);
+            calculateNewDates(*pic, context);
             const Info info(*pic, *folder, paths, session.controller().zones());
             if (line.isJson)
                 info.appendJson(buffer);

@@ -51,8 +51,10 @@ std::string noteText(const MySinglePic &pic) {
     return joined;
 }
 
-std::string sourceText(SpType type) {
-    return text("dateSource_" + std::to_string(static_cast<int>(type)));
+std::string sourceText(const MySinglePic &pic) {
+    const std::string source = text("dateSource_" + std::to_string(static_cast<int>(pic.spType)));
+    const bool isXmp = pic.isDataSourceXmp() && !isPreferringFileDate(pic.spType);
+    return isXmp ? text("dateSource_xmp", {source}) : source;
 }
 
 std::string locationText(const MySinglePic &pic) {

@@ -24,7 +24,7 @@ bool isUnsaved(const MySinglePic &pic);
 std::string noteText(const MySinglePic &pic);
 
 /// Where an item's date comes from, in words.
-std::string sourceText(SpType type);
+std::string sourceText(const MySinglePic &pic);
 
 /// "48.8584, 2.2945", or "" without a location.
 std::string locationText(const MySinglePic &pic);

@@ -35,7 +35,7 @@ SlotView slotView(std::string_view name, const OptionalDate &oldDate, const Opti
     view.name = name;
     view.oldDate = oldDate;
     view.newDate = isStorable ? newDate : std::nullopt;
-    view.stays = !isStorable || newDate == oldDate;
+    view.stays = !isStorable || !newDate || newDate == oldDate;
     view.isStorable = isStorable;
     return view;
 }

@@ -45,6 +45,16 @@ TEST_F(MixedTrip, OneLineTellsBothFilesAndTheSidecar) {
                 ElementsAre("live.mov", "live.jpg"));
 }
 
+TEST_F(MixedTrip, InfoTellsOfBothHalvesAndMovesNothing) {
+    const auto lines = mend({"info", "--json", path("trip")}).lines();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].at("dependent"), "live.mov");
+    EXPECT_EQ(lines[1].at("master"), "live.jpg");
+    for (const Json &line : lines)
+        for (const auto &[name, slot] : line.at("slots").items())
+            EXPECT_EQ(slot.at("new"), slot.at("old")) << line.at("path") << ' ' << name;
+}
+
 TEST_F(MixedTrip, FoldersInsideComeAsDeepAsAskedWithTheSameOptions) {
     EXPECT_THAT(namesOf(list({"--subfolders", "1"})), ElementsAre("clip.mov", "live.jpg"));
     const auto lines = list({"--subfolders", "2", "--shift", "60"});
