@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "LittleHeif.h"
-#include "LittlePng.h"
-#include "LittleWebp.h"
+#include "LittlePhotos.h"
 #include "MemoryFile.h"
 #include "MySingleFolderDataReader.h"
 #include "ReadValues.h"
@@ -19,6 +17,8 @@ using little::BuiltTiff;
 using little::Directory;
 using little::Endian;
 using little::Jpeg;
+using little::littleExif;
+using little::photoOf;
 using little::Tiff;
 using little::valuesByName;
 using ::testing::ElementsAre;
@@ -32,24 +32,12 @@ inline DatesData readBytes(std::string_view bytes, FileFormatType format,
     return reader.readDates(format, extension, startOffset);
 }
 
-/// A photo of this format; all hold the same values.
-inline BuiltPhoto photoOf(FileFormatType format, const little::PhotoFields &fields) {
-    switch (format) {
-    case FileFormatHeif:
-        return little::heifPhoto(fields);
-    case FileFormatAvif:
-        return little::heifPhoto(fields, {.brand = "avif"});
-    case FileFormatRaw:
-        return little::cr3Photo(fields);
-    case FileFormatPng:
-        return little::pngPhoto(fields);
-    case FileFormatWebp:
-        return little::webpPhoto(fields);
-    case FileFormatTiff:
-        return tiffPhoto(fields);
-    default:
-        return jpegPhoto(fields);
-    }
+/// What a walk finds in a file of these bytes.
+template<MetadataBlocks (*find)(const ByteRange &)>
+MetadataBlocks blocksOf(std::string_view bytes) {
+    const little::MemoryFile file(bytes);
+    FileWindow window(file.descriptor(), bytes.size(), false);
+    return find(ByteRange(window));
 }
 
 inline DatesData readJpeg(std::string_view bytes) {

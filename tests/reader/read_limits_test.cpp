@@ -5,7 +5,6 @@ namespace chronomender::steps {
 namespace {
 
 using little::Png;
-using little::Webp;
 
 const std::string kPacket = "<x:xmpmeta xmlns:x='adobe:ns:meta/'></x:xmpmeta>";
 constexpr std::uint32_t kMostReads = 200;
@@ -69,24 +68,6 @@ TEST(ReadLimits, HoldForThousandsOfImageChunks) {
     EXPECT_EQ(given.dates.tiffHeaderStartOffset, std::nullopt);
     ASSERT_EQ(given.dates.findings.size(), 1u);
     EXPECT_EQ(given.dates.findings[0].reason, FindingReason::ScanLimit);
-}
-
-TEST(ReadLimits, HoldForLongAnimations) {
-    const std::string exif = little::photoEntries(fieldsWithXmp()).build().bytes;
-    for (const std::size_t frames : {20, 5000}) {
-        Webp webp;
-        for (std::size_t i = 0; i < frames; ++i)
-            webp.chunk("ANMF", std::string(3000, 'f'));
-        const CountedRead read = countedRead(webp.exif(exif).bytes(), FileFormatWebp);
-        EXPECT_EQ(read.dates.tiffHeaderStartOffset.has_value(), frames == 20);
-        EXPECT_EQ(read.dates.findings.empty(), frames == 20);
-    }
-}
-
-TEST(ReadLimits, HoldForDirectoriesThatScatterTheirValues) {
-    const auto fields = fieldsWithXmp();
-    std::string bytes = little::photoEntries(fields).gap(3000000).build().bytes;
-    EXPECT_TRUE(countedRead(Png().exif(bytes).end().bytes(), FileFormatPng).dates.gpsLocation);
 }
 
 TEST(ReadLimits, OneReadIsEnoughForAnOrdinaryJpeg) {
