@@ -2,26 +2,18 @@
 #pragma once
 
 #include "Cancellation.h"
-#include "DelayedImports.h"
 #include "FileLayer.h"
 #include "FolderDrag.h"
-#include "ImportRun.h"
+#include "ImportDriver.h"
 #include "MyDroppedFolders.h"
-#include "PropertyReading.h"
 #include "SaveDriver.h"
-#include "SessionFiles.h"
 #include "SourceBuilder.h"
 #include "UndoManager.h"
 #include "UserDefaults.h"
 #include "Zones.h"
 
-#include <QThreadPool>
-
-#include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
-#include <string>
 #include <vector>
 
 namespace chronomender {
@@ -36,43 +28,15 @@ struct AppServices {
 /// The operating system's files, zones and clock, and the user's stored preferences.
 AppServices systemServices();
 
-/// One folder to open: what a drop or an option block says about it.
-struct FolderRequest {
-    std::string path;
-    KeyStates keyStates;
-};
-
-enum class OpenFolderResult : std::uint8_t {
-    Opened,
-    AlreadyOpen, ///< the same directory is part of the session, perhaps under another path
-    NotFound,
-    NotAFolder,
-    NoAccess,
-    NameNotUtf8,
-    LibraryOfAnotherProgram, ///< a photo library's inside, or a saved session
-};
-
-/// A batch of one folder to import; without names, the whole folder.
-struct ImportRequest {
-    MySingleFolderPtr folder;
-    std::vector<std::string> names;
-    KeyStates keyStates; ///< those that the folder was opened with, or new ones for a later batch
-    CompletionScope completion = CompletionScope::WhereCameraIsMissing;
-    std::function<void(ImportProgress)> progress; ///< called on the import thread; may be empty
-};
-
 /// The composition root: owns the session's folders and the rooms' controllers and wires them; all
 /// rules live in the rooms. Created, used and destroyed on the main thread.
 ///
 /// Imports and saves are started here and run on their own threads: an operation returns at once,
 /// and its `finished` is called on the main thread from the event loop, exactly once, unless the
 /// controller is destroyed before. Only one save operation runs at a time, and no folder may be
-/// changed while it does.
+/// changed while it does. Only items in the list of the last `buildNewSource` are saved.
 class AppController {
 public:
-    /// A folder inside `parent` became part of the session; it is imported next.
-    using FolderAdded =
-        std::function<void(const MySingleFolderPtr &folder, const MySingleFolderPtr &parent)>;
     using Progress = std::function<void(std::size_t done, std::size_t total)>;
 
     AppController(AppServices services, ImportQuestions &questions);
@@ -93,10 +57,12 @@ public:
     OpenFolderResult addFolder(const FolderRequest &request, MySingleFolderPtr *folder = nullptr);
 
     /// Called on the main thread for each folder that an import finds inside another.
-    void setFolderAdded(FolderAdded folderAdded) { m_folderAdded = std::move(folderAdded); }
+    void setFolderAdded(ImportDriver::FolderAdded folderAdded) {
+        m_importDriver.setFolderAdded(std::move(folderAdded));
+    }
     /// Folders that are to get one sequence of dates are told here before the first of them is
     /// imported.
-    DelayedImports &delayedImports() { return m_delayedImports; }
+    DelayedImports &delayedImports() { return m_importDriver.delayedImports(); }
 
     /// Imports on the import thread, publishes the items here, and reads cameras late. Names that
     /// the folder holds already are left out; a file that stands in the session under another name
@@ -122,34 +88,15 @@ public:
                               std::function<void(SaveRunResult)> finished);
 
 private:
-    struct ImportJob;
-    using ImportJobPtr = std::shared_ptr<ImportJob>;
-    OpenFolderResult openFolder(const FolderRequest &request, const MySingleFolderPtr &behind,
-                                MySingleFolderPtr &folder);
-    void runNext(const ImportJobPtr &job);
-    void importEnded(const ImportJobPtr &job, const ImportRequest &request, ImportOutcome outcome);
-    void addSubfolders(const ImportJobPtr &job, const ImportRequest &request,
-                       ImportOutcome &outcome);
-    void publish(MySingleFolder &folder, const std::vector<MySinglePicPtr> &items);
-    void completeLate(const ImportRequest &request, const std::vector<MySinglePicPtr> &items,
-                      std::function<void()> finished);
-    template<class Work, class Finished>
-    void runOn(QThreadPool &thread, Work work, Finished finished);
-
     AppServices m_services;
-    ImportQuestions &m_questions;
     Cancellation m_cancellation;
     UndoManager m_undo;
     MyDroppedFolders m_droppedFolders;
     SourceBuilder m_source;
-    SessionFiles m_sessionFiles; ///< import thread only
-    DelayedImports m_delayedImports;
-    FolderAdded m_folderAdded;
+    ImportDriver m_importDriver;
     Progress m_saveProgress;
     SaveDriver m_saveDriver;
-    QThreadPool m_importThread, m_saveWorker;
-    std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true);
-    bool m_isImagingReady = false;
+    WorkThread m_saveWorker;
 };
 
 } // namespace chronomender
