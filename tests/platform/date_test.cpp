@@ -6,10 +6,6 @@
 namespace chronomender {
 namespace {
 
-Date secondsAndNanoseconds(std::int64_t seconds, std::int64_t nanoseconds) {
-    return absl::FromUnixSeconds(seconds) + absl::Nanoseconds(nanoseconds);
-}
-
 TEST(DateTest, MarkersAreNeverShifted) {
     for (const Date marker : {InfinitePast(), InfiniteFuture()}) {
         EXPECT_EQ(shifted(marker, absl::Hours(1)), marker);
@@ -22,11 +18,12 @@ TEST(DateTest, MarkersAreNeverShifted) {
 }
 
 TEST(DateTest, CleaningCutsTowardsThePastOnBothSidesOfTheEpoch) {
-    EXPECT_EQ(cleanDate(secondsAndNanoseconds(5, 999'999'999)), absl::FromUnixSeconds(5));
-    EXPECT_EQ(cleanDate(secondsAndNanoseconds(-5, 1)), absl::FromUnixSeconds(-5));
-    EXPECT_EQ(cleanDate(secondsAndNanoseconds(0, -1)), absl::FromUnixSeconds(-1));
-    EXPECT_EQ(cleanDate(absl::FromUnixSeconds(-62'135'596'800)),
-              absl::FromUnixSeconds(-62'135'596'800)); // 0001-01-01
+    const std::pair<absl::Duration, std::int64_t> rows[] = {
+        {absl::Seconds(6) - absl::Nanoseconds(1), 5},
+        {absl::Seconds(-5) + absl::Nanoseconds(1), -5},
+        {absl::Nanoseconds(-1), -1}};
+    for (const auto &[sinceEpoch, seconds] : rows)
+        EXPECT_EQ(cleanDate(absl::UnixEpoch() + sinceEpoch), absl::FromUnixSeconds(seconds));
 }
 
 } // namespace

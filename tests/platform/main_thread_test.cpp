@@ -34,8 +34,7 @@ protected:
 
 TEST_F(MainThreadTest, WorkIsDoneOnTheMainThreadInOrderAndTheCallerWaits) {
     std::vector<int> order; // touched by the main thread only
-    std::atomic<bool> isOver{false};
-    std::thread worker([&] {
+    auto worker = std::async(std::launch::async, [&] {
         EXPECT_FALSE(mainThread::isCurrent());
         mainThread::post([&] { order.push_back(1); });
         const auto result = mainThread::callAndWait([&] {
@@ -43,13 +42,10 @@ TEST_F(MainThreadTest, WorkIsDoneOnTheMainThreadInOrderAndTheCallerWaits) {
             order.push_back(2);
         });
         EXPECT_EQ(result, CallResult::Done);
-        mainThread::post([&] {
-            order.push_back(3);
-            isOver = true;
-        });
+        mainThread::post([&] { order.push_back(3); });
     });
-    runUntil([&] { return isOver.load(); });
-    worker.join();
+    runUntil([&] { return order.size() == 3; });
+    worker.get();
     EXPECT_EQ(order, (std::vector{1, 2, 3}));
 }
 
@@ -77,9 +73,6 @@ TEST_F(MainThreadTest, AShutdownReleasesCallersThatWaitAndRunsNothingMore) {
     mainThread::post([&] { ++runs; });
     QCoreApplication::processEvents();
     EXPECT_EQ(runs, 0);
-    mainThread::initialise(); // opens the door again
-    EXPECT_EQ(mainThread::callAndWait([&] { ++runs; }), CallResult::Done);
-    EXPECT_EQ(runs, 1);
 }
 
 TEST_F(MainThreadTest, AShutdownFromInsideHandedWorkLetsThatWorkEnd) {
@@ -93,19 +86,17 @@ TEST_F(MainThreadTest, AShutdownFromInsideHandedWorkLetsThatWorkEnd) {
 TEST_F(MainThreadTest, ManyWorkersNeverLoseACallAcrossAShutdown) {
     constexpr int callsEach = 500;
     int runs = 0; // touched by the main thread only
-    std::atomic<int> done{0}, cancelled{0}, workersLeft{4};
+    std::atomic<int> done{0}, cancelled{0};
     std::vector<std::thread> workers;
     for (int i = 0; i < 4; ++i)
         workers.emplace_back([&] {
             for (int call = 0; call < callsEach; ++call)
                 (mainThread::callAndWait([&] { ++runs; }) == CallResult::Done ? done : cancelled)++;
-            --workersLeft;
         });
     runUntil([&] { return done > 600; });
     mainThread::beginShutdown();
     for (std::thread &worker : workers)
         worker.join();
-    EXPECT_EQ(workersLeft, 0);
     EXPECT_EQ(runs, done);
     EXPECT_EQ(done + cancelled, 4 * callsEach);
     EXPECT_GT(cancelled, 0);

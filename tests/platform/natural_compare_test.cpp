@@ -27,11 +27,10 @@ TEST(NaturalCompareTest, OrdersNumbersByValueAndLettersByTheAlphabet) {
     const NaturalCompare natural;
     for (std::size_t i = 0; i < inOrder.size(); ++i)
         for (std::size_t j = 0; j < inOrder.size(); ++j) {
-            const auto expected = i <=> j;
-            EXPECT_EQ(natural.compare(inOrder[i], inOrder[j]) <=> 0, expected)
-                << inOrder[i] << " and " << inOrder[j];
+            SCOPED_TRACE(inOrder[i] + " and " + inOrder[j]);
+            EXPECT_EQ(natural.compare(inOrder[i], inOrder[j]) <=> 0, i <=> j);
             const int byKeys = natural.sortKey(inOrder[i]).compare(natural.sortKey(inOrder[j]));
-            EXPECT_EQ(byKeys <=> 0, expected) << inOrder[i] << " and " << inOrder[j];
+            EXPECT_EQ(byKeys <=> 0, i <=> j);
         }
 }
 

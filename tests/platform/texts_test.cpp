@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "TemporaryFolder.h"
 #include "Texts.h"
 
 #include <QFile>
@@ -7,10 +8,10 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
+#include <ranges>
 #include <set>
 
 namespace chronomender {
@@ -20,24 +21,12 @@ namespace fs = std::filesystem;
 const fs::path sourceFolder = CHRONOMENDER_SOURCE_FOLDER;
 using Texts = std::map<std::string, std::string>;
 
-std::set<std::string> keysOf(const Texts &texts) {
-    std::set<std::string> keys;
-    for (const auto &[key, ignored] : texts)
-        keys.insert(key);
-    return keys;
-}
-
 std::set<std::string> matches(const std::string &text, const char *pattern, int group = 0) {
     std::set<std::string> found;
     const QRegularExpression expression{QString::fromUtf8(pattern)};
     for (auto match = expression.globalMatch(QString::fromStdString(text)); match.hasNext();)
         found.insert(match.next().captured(group).toStdString());
     return found;
-}
-
-std::string contentOf(const fs::path &path) {
-    std::ifstream stream(path);
-    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 /// The messages as they stand in the source, read without the program's own loader.
@@ -64,7 +53,7 @@ Texts messagesOf(const std::string &language) {
 TEST(TextsTest, BothLanguagesAreCompleteAndTakeTheSameArguments) {
     const Texts english = messagesOf("en"), german = messagesOf("de");
     ASSERT_FALSE(english.empty());
-    EXPECT_EQ(keysOf(english), keysOf(german));
+    ASSERT_TRUE(std::ranges::equal(std::views::keys(english), std::views::keys(german)));
     const char *const place = "%[1-9]";
     for (const auto &[key, words] : english) {
         EXPECT_FALSE(words.empty() || german.at(key).empty()) << key;
@@ -81,18 +70,13 @@ TEST(TextsTest, EveryKeyThatTheSourcesNameHasAText) {
         if (entry.path().extension() != ".cpp" && entry.path().extension() != ".h")
             continue;
         ++files;
-        for (const std::string &key : matches(contentOf(entry.path()), use, 1))
+        for (const std::string &key : matches(little::fileContent(entry.path()), use, 1))
             if (!english.contains(key))
                 missing.insert(key + " in " + entry.path().filename().string());
     }
     EXPECT_GT(files, 10U);
     EXPECT_THAT(missing, testing::IsEmpty());
-}
-
-TEST(TextsTest, EverySourceOfADateHasAText) {
-    const Texts english = messagesOf("en");
-    constexpr int lastType = 22; // a movie of a folder whose metadata are ignored
-    for (int type = 1; type <= lastType; ++type)
+    for (int type = 1; type <= 22; ++type) // all sources of a date
         EXPECT_TRUE(english.contains("dateSource_" + std::to_string(type))) << type;
 }
 
