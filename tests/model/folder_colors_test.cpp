@@ -47,17 +47,13 @@ TEST_F(FolderColors, TheLowestColorInThePoolComesNext) {
     EXPECT_THAT(colors(), ElementsAre(2, 3, 0, 1, 4));
 }
 
-TEST_F(FolderColors, SeveralDeletedFoldersGiveTheirColorsOnInListOrder) {
+TEST_F(FolderColors, SeveralDeletedFoldersGiveTheirsOnInListOrderAndANewPaletteItsOwn) {
     drop(8);
     session.remove({at(4), at(0)});
     EXPECT_THAT(colors(), ElementsAre(1, 2, 3, 0, 4, none));
-}
-
-TEST_F(FolderColors, ANewPaletteServesFoldersWithoutOne) {
-    drop(7);
     session.setColorCount(6);
     session.possiblyUseNewlyAddedColors();
-    EXPECT_THAT(colors(), ElementsAre(0, 1, 2, 3, 4, 5, none));
+    EXPECT_THAT(colors(), ElementsAre(1, 2, 3, 0, 4, 5));
 }
 
 TEST_F(FolderColors, RedistributingFollowsTheList) {

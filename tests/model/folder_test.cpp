@@ -12,14 +12,10 @@ namespace {
 
 using namespace little;
 
-TEST(Folder, StartsEmptyAndUnknown) {
+TEST(Folder, TakesItsNameFromThePathWithoutSlashesBehind) {
     const auto folder = MySingleFolder::initWithFolder("/trip/canon//", nullptr, EditMode::Single);
     EXPECT_EQ(folder->sfFolder, "canon");
     EXPECT_EQ(folder->sfFolderPath(), "/trip/canon");
-    EXPECT_EQ(folder->sfPics, -1);
-    EXPECT_EQ(folder->sfEditMode, EditMode::Single);
-    EXPECT_EQ(folder->colorIndex, noColorIndex);
-    EXPECT_EQ(folder->sfDateModifications, (DateModificationFields{"+", "0", "0", "0", "0"}));
     EXPECT_FALSE(folder->unlockedSecUrl());
     EXPECT_EQ(MySingleFolder::initWithFolder("/", nullptr, EditMode::Single)->sfFolder, "/");
 }
@@ -41,20 +37,15 @@ TEST(Folder, IsFoundAgainAfterItMovedAndKeepsItsLastPathAfterItWent) {
 
 TEST(Folder, InATrashIsWritableOnlyForThoseWhoDoNotMind) {
     const TemporaryFolder temporary;
-    const struct {
-        std::string name;
-        bool isTrash;
-    } rows[] = {{"photos", false},
-                {".Trash-1000/files/photos", true},
-                {".local/share/Trash/files/photos", true},
-                {"my.Trash-bin", false}};
-    for (const auto &row : rows) {
-        const std::string path = temporary.path(row.name);
+    for (const auto &[name, isTrash] :
+         {std::pair("photos", false), std::pair(".Trash-1000/files/photos", true),
+          std::pair(".local/share/Trash/files/photos", true), std::pair("my.Trash-bin", false)}) {
+        const std::string path = temporary.path(name);
         std::filesystem::create_directories(path);
         const auto folder =
             MySingleFolder::initWithFolder(path, FolderReference::open(path), EditMode::Together);
         EXPECT_TRUE(folder->isWriteableCheckingTrashed(false)) << path;
-        EXPECT_EQ(folder->isWriteableCheckingTrashed(true), !row.isTrash) << path;
+        EXPECT_EQ(folder->isWriteableCheckingTrashed(true), !isTrash) << path;
     }
 }
 

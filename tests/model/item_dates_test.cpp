@@ -48,11 +48,7 @@ TEST_F(ItemDates, MarkersAndItemsWithoutACorrectableDateNeverShift) {
 }
 
 TEST_F(ItemDates, HarmonisingBeginsBehindItsTolerance) {
-    const struct {
-        int type;
-        absl::Duration apart;
-        bool isHarmonized;
-    } rows[] = {
+    const std::tuple<int, absl::Duration, bool> rows[] = {
         {-1, hour, false},
         {0, hour, false},
         {1, absl::Seconds(300), false},
@@ -61,15 +57,14 @@ TEST_F(ItemDates, HarmonisingBeginsBehindItsTolerance) {
         {2, absl::Seconds(1), false},
         {2, absl::Milliseconds(1001), true},
     };
-    for (const auto &row : rows) {
-        folder->harmonizingRawJpgsType = row.type;
-        const auto jpeg = addJpeg(row.apart);
-        EXPECT_EQ(raw->isGroupHarmonized(), row.isHarmonized) << row.type << ' ' << row.apart;
-        EXPECT_EQ(jpeg->isThisHarmonizationChanged(), row.isHarmonized);
-        EXPECT_EQ(jpeg->spDateTimeModified() == noon, row.isHarmonized);
-        EXPECT_EQ(raw->isUnsavedOrGroupHarmonized(), row.isHarmonized);
-        EXPECT_FALSE(raw->isUnsavedIgnoringSaveError());
-        EXPECT_FALSE(raw->isThisTimeUnsaved());
+    for (const auto &[type, apart, isHarmonized] : rows) {
+        folder->harmonizingRawJpgsType = type;
+        const auto jpeg = addJpeg(apart);
+        EXPECT_EQ(raw->isGroupHarmonized(), isHarmonized) << type << ' ' << apart;
+        EXPECT_EQ(jpeg->isThisHarmonizationChanged(), isHarmonized);
+        EXPECT_EQ(jpeg->spDateTimeModified() == noon, isHarmonized);
+        EXPECT_EQ(raw->isUnsavedOrGroupHarmonized(), isHarmonized);
+        EXPECT_FALSE(raw->isUnsavedIgnoringSaveError() || raw->isThisTimeUnsaved());
     }
 }
 

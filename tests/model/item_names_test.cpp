@@ -9,9 +9,7 @@ namespace {
 using namespace little;
 
 TEST(ItemNames, BaseNameAndExtensionAreSplitAtTheLastDot) {
-    const struct {
-        const char *name, *base, *extension;
-    } rows[] = {
+    const std::tuple<const char *, const char *, const char *> rows[] = {
         {"IMG_1.JPG", "IMG_1", "JPG"},
         {"a.b.cr2", "a.b", "cr2"},
         {"noextension", "noextension", ""},
@@ -20,19 +18,16 @@ TEST(ItemNames, BaseNameAndExtensionAreSplitAtTheLastDot) {
         {"überall.heic", "überall", "heic"},
     };
     const auto folder = makeFolder();
-    for (const auto &row : rows) {
-        const auto pic = addItem(folder, SpTypeExifOriginal, utc(2024, 6, 1), row.name);
-        EXPECT_EQ(pic->spBaseName(), row.base);
-        EXPECT_EQ(pic->extension(), row.extension) << row.name;
-        EXPECT_EQ(pic->spPath(), std::string("/trip/canon/") + row.name);
+    for (const auto &[name, base, extension] : rows) {
+        const auto pic = addItem(folder, SpTypeExifOriginal, utc(2024, 6, 1), name);
+        EXPECT_EQ(pic->spBaseName(), base);
+        EXPECT_EQ(pic->extension(), extension) << name;
+        EXPECT_EQ(pic->spPath(), std::string("/trip/canon/") + name);
     }
 }
 
 TEST(ItemNames, SidecarsStandBesideTheirItemAsSpelledOnDisk) {
-    const struct {
-        std::vector<std::string> extensions;
-        const char *xmpPath;
-    } rows[] = {
+    const std::pair<std::vector<std::string>, std::string> rows[] = {
         {{}, ""},
         {{"AAE"}, ""},
         {{"AAE", "XMP"}, "/trip/canon/IMG_1.XMP"},
@@ -40,12 +35,12 @@ TEST(ItemNames, SidecarsStandBesideTheirItemAsSpelledOnDisk) {
         {{"axmp"}, ""},
     };
     const auto folder = makeFolder();
-    for (const auto &row : rows) {
+    for (const auto &[extensions, xmpPath] : rows) {
         const auto pic = addItem(folder, SpTypeExifOriginal, utc(2024, 6, 1), "IMG_1.CR2");
-        pic->spSidecarExtensions = row.extensions;
-        EXPECT_EQ(pic->spXMPPath(), row.xmpPath);
-        EXPECT_EQ(pic->hasXMPSidecar(), *row.xmpPath != '\0');
-        EXPECT_EQ(pic->spSidecarPaths().size(), row.extensions.size());
+        pic->spSidecarExtensions = extensions;
+        EXPECT_EQ(pic->spXMPPath(), xmpPath);
+        EXPECT_EQ(pic->hasXMPSidecar(), !xmpPath.empty());
+        EXPECT_EQ(pic->spSidecarPaths().size(), extensions.size());
     }
 }
 
@@ -62,9 +57,7 @@ TEST(ItemNames, EveryNewItemTakesAFreshIdAndKeepsItsFolderWeakly) {
 }
 
 TEST(ItemNames, CameraTextLeavesOutARepeatedMake) {
-    const struct {
-        const char *make, *model, *text;
-    } rows[] = {
+    const std::tuple<const char *, const char *, const char *> rows[] = {
         {"Canon", "Canon EOS R5", "Canon EOS R5"},
         {"NIKON CORPORATION", "NIKON D5000", "NIKON CORPORATION NIKON D5000"},
         {" SONY ", " ILCE-7M3 ", "SONY ILCE-7M3"},
@@ -72,8 +65,8 @@ TEST(ItemNames, CameraTextLeavesOutARepeatedMake) {
         {"", "X100", "X100"},
         {" ", " ", ""},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ(completeMakerModelString(row.make, row.model), row.text);
+    for (const auto &[make, model, text] : rows)
+        EXPECT_EQ(completeMakerModelString(make, model), text);
 }
 
 } // namespace
