@@ -62,6 +62,23 @@ std::optional<PropertyDictionary> withPreview(const std::string &path,
     return result;
 }
 
+/// What the item's sidecar tells where its file is silent.
+void addSidecar(const MySinglePic &pic, std::optional<PropertyDictionary> &known) {
+    const bool isSilent = !known || known->make.empty() || known->model.empty() || !known->gps;
+    const auto sidecar =
+        isSilent && pic.hasXMPSidecar() ? readSidecarDictionary(pic.spXMPPath()) : std::nullopt;
+    if (!sidecar)
+        return;
+    if (!known)
+        known.emplace();
+    if (known->make.empty() || known->model.empty()) {
+        known->make = sidecar->make;
+        known->model = sidecar->model;
+    }
+    if (!known->gps)
+        known->gps = sidecar->gps;
+}
+
 /// The pixels that the picture has, else what its Exif data say of them.
 void completeSize(CameraInfo &camera, const PropertyDictionary &properties) {
     if (properties.pixelWidth > 0 && properties.pixelHeight > 0) {
@@ -104,6 +121,7 @@ LateProperties readLateProperties(const MySinglePic &pic) {
     const bool isUnknown = !properties.picture || hasNoSize(*properties.picture);
     if (pic.isRaw() && isUnknown && !pic.importState.wasLocationDataSearched)
         properties.picture = withPreview(path, properties.picture);
+    addSidecar(pic, properties.picture);
     return properties;
 }
 

@@ -18,7 +18,8 @@ struct LateProperties {
 bool lacksCamera(const MySinglePic &pic);
 
 /// Reads what the item can be completed from. A raw file whose size the image library does not know
-/// is searched for its preview, which tells size and camera in its place. Of movies only those are
+/// is searched for its preview, which tells size and camera in its place; camera and location that
+/// the file does not tell are taken from an XMP sidecar. Of movies only those are
 /// read whose container tells nothing to the import. Changes nothing, any thread.
 LateProperties readLateProperties(const MySinglePic &pic);
 

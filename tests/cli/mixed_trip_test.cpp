@@ -55,6 +55,19 @@ TEST_F(MixedTrip, InfoTellsOfBothHalvesAndMovesNothing) {
             EXPECT_EQ(slot.at("new"), slot.at("old")) << line.at("path") << ' ' << name;
 }
 
+TEST_F(MixedTrip, ASidecarTellsTheCameraWhereTheFileIsSilent) {
+    little::PhotoFields scan;
+    scan.make = scan.model = "";
+    scan.original = "2024:05:06 07:08:09";
+    write("scans/a.jpg", scan);
+    disk().write("scans/a.xmp",
+                 "<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
+                 "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description "
+                 "xmlns:tiff='http://ns.adobe.com/tiff/1.0/' tiff:Make='Flat' tiff:Model='Bed'/>"
+                 "</rdf:RDF></x:xmpmeta>");
+    EXPECT_EQ(mend({"list", "--json", path("scans")}).lines().at(0).at("camera"), "Flat Bed");
+}
+
 TEST_F(MixedTrip, FoldersInsideComeAsDeepAsAskedWithTheSameOptions) {
     EXPECT_THAT(namesOf(list({"--subfolders", "1"})), ElementsAre("clip.mov", "live.jpg"));
     const auto lines = list({"--subfolders", "2", "--shift", "60"});
