@@ -1,148 +1,108 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FolderDrag.h"
-#include "ViewSteps.h"
+
+#include "LittleItem.h"
+
+#include <gtest/gtest.h>
 
 namespace chronomender {
 namespace {
 
+using namespace little;
 using enum DateChangeOutcome;
 
-const absl::Duration hour = absl::Hours(1), second = absl::Seconds(1);
+const absl::Duration hour = absl::Hours(1), second = absl::Seconds(1), zero = absl::ZeroDuration();
+const Date newYear = utc(2020, 1, 1), lastDay = utc(4999, 12, 31);
 
-class FolderDragTest : public testing::Test {
+class FolderDrag : public testing::Test {
 protected:
-    DateChangeOutcome drag(absl::Duration totalShift) {
-        return dragChangedDates(totalShift, *folder, undo);
+    MySinglePicPtr add(Date date, SpType type = SpTypeExifOriginal) {
+        return addItem(folder, type, date);
+    }
+    DateChangeOutcome drag(absl::Duration total) { return dragChangedDates(total, *folder, undo); }
+    DateChangeOutcome drag(absl::Duration difference, const std::vector<MySinglePicPtr> &items) {
+        return dragMovesValuesBy(difference, items, undo);
     }
     absl::Duration shift() const { return folder->sfDateModificationsTimeInterval; }
 
     UndoManager undo;
-    const MySingleFolderPtr folder = folderOfRank(0);
+    MySingleFolderPtr folder = makeFolder();
 };
 
-TEST_F(FolderDragTest, TheFoldersEndsStayInsideTheBounds) {
-    struct Case {
-        const char *what, *first, *last;
+TEST_F(FolderDrag, TheEndsStayInsideTheBoundsAndARefusedDragLeavesNoTrace) {
+    const struct {
+        const char *what;
+        Date first, last;
         absl::Duration shift;
         DateChangeOutcome expected;
+    } cases[] = {
+        {"first just inside", utc(1, 1, 2, 1, 0, 1), newYear, -hour, Done},
+        {"first on the bound", utc(1, 1, 2, 1), newYear, -hour, RefusedOutOfBounds},
+        {"last just inside", newYear, lastDay + 23 * hour - 2 * second, hour, Done},
+        {"last on the bound", newYear, lastDay + 23 * hour - second, hour, RefusedOutOfBounds},
+        {"ages away", newYear, newYear, absl::InfiniteDuration(), RefusedOutOfBounds},
     };
-    // Dates lie behind 0001-01-02 00:00:00 and before 4999-12-31 23:59:59.
-    const Case cases[]{
-        {"inside", "2020-01-01 00:00:00", "2024-01-01 00:00:00", hour, Done},
-        {"first just inside", "0001-01-02 01:00:01", "2024-01-01 00:00:00", -hour, Done},
-        {"first on the bound", "0001-01-02 01:00:00", "2024-01-01 00:00:00", -hour,
-         RefusedOutOfBounds},
-        {"last just inside", "2020-01-01 00:00:00", "4999-12-31 22:59:58", hour, Done},
-        {"last on the bound", "2020-01-01 00:00:00", "4999-12-31 22:59:59", hour,
-         RefusedOutOfBounds},
-        {"ages away", "2020-01-01 00:00:00", "2024-01-01 00:00:00", absl::InfiniteDuration(),
-         RefusedOutOfBounds},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.what);
-        const MySingleFolderPtr tested = folderOfRank(0);
-        add(tested, "b.jpg", at(c.last));
-        add(tested, "a.jpg", at(c.first));
-        EXPECT_EQ(dragChangedDates(c.shift, *tested, undo), c.expected);
-        EXPECT_EQ(tested->sfDateModificationsTimeInterval,
-                  c.expected == Done ? c.shift : absl::ZeroDuration());
+    for (const auto &each : cases) {
+        SCOPED_TRACE(each.what);
+        folder = makeFolder();
+        add(InfinitePast(), SpTypeUnsupported); // these two do not count
+        add(utc(1, 1, 2, 0, 30), SpTypeMovieIgnored);
+        add(each.last);
+        add(each.first);
+        undo.removeAllActions();
+        EXPECT_EQ(drag(each.shift), each.expected);
+        EXPECT_EQ(shift(), each.expected == Done ? each.shift : zero);
+        EXPECT_EQ(undo.canUndo(), each.expected == Done);
     }
 }
 
-TEST_F(FolderDragTest, ItemsWithoutACorrectableDateDoNotCount) {
-    add(folder, "unread.jpg", InfinitePast(), SpTypeUnsupported);
-    add(folder, "early.jpg", at("0001-01-02 00:30:00"), SpTypeMovieIgnored);
-    add(folder, "a.jpg", at("2020-01-01 00:00:00"));
-    EXPECT_EQ(drag(-hour), Done);
-}
-
-TEST_F(FolderDragTest, ADragGivesTheNewTotal) {
-    add(folder, "a.jpg", at("2020-01-01 00:00:00"));
+TEST_F(FolderDrag, GivesTheNewTotalAndEveryStepCanBeTakenBack) {
+    add(newYear);
     EXPECT_EQ(drag(hour), Done);
-    EXPECT_EQ(drag(2 * hour), Done);
-    EXPECT_EQ(shift(), 2 * hour);
-    EXPECT_EQ(drag(2 * hour), NothingChanged);
+    EXPECT_EQ(drag(-hour), Done);
+    EXPECT_EQ(shift(), -hour);
+    EXPECT_EQ(drag(-hour), NothingChanged);
     EXPECT_EQ(undo.undoActionName(), "undoDateChangeText");
-}
-
-TEST_F(FolderDragTest, UndoAndRedoBringEveryStepBack) {
-    add(folder, "a.jpg", at("2020-01-01 00:00:00"));
-    drag(hour);
-    drag(-hour);
     undo.undo();
     EXPECT_EQ(shift(), hour);
     undo.undo();
-    EXPECT_EQ(shift(), absl::ZeroDuration());
+    EXPECT_EQ(shift(), zero);
     EXPECT_FALSE(undo.canUndo());
     undo.redo();
     undo.redo();
     EXPECT_EQ(shift(), -hour);
     EXPECT_EQ(folder->sfDateModifications.dmDirection, "-");
-}
-
-TEST_F(FolderDragTest, BackToZeroIsAResetAndClearsTheShownDirection) {
-    add(folder, "a.jpg", at("2020-01-01 00:00:00"));
-    drag(-hour);
-    EXPECT_EQ(drag(absl::ZeroDuration()), Done);
+    // Back to zero is a reset and clears the shown direction.
+    EXPECT_EQ(drag(zero), Done);
     EXPECT_EQ(undo.undoActionName(), "resetAllInFolderMode");
-    EXPECT_EQ(folder->sfDateModifications.dmDirection, "+");
     EXPECT_FALSE(folder->isTogetherDateUIModified());
 }
 
-TEST_F(FolderDragTest, ARefusedDragLeavesNoTrace) {
-    add(folder, "a.jpg", at("4999-12-31 23:00:00"));
-    drag(-hour);
-    EXPECT_EQ(drag(hour), RefusedOutOfBounds);
-    EXPECT_EQ(shift(), -hour);
-    undo.undo();
-    EXPECT_FALSE(undo.canUndo());
-}
-
-class ItemDragTest : public FolderDragTest {
-protected:
-    ItemDragTest() { folder->sfEditMode = EditMode::Single; }
-    DateChangeOutcome drag(absl::Duration difference, const std::vector<MySinglePicPtr> &items) {
-        return dragMovesValuesBy(difference, items, undo);
-    }
-};
-
-TEST_F(ItemDragTest, AddsToEachShiftAsOneUndoableStep) {
-    const auto a = add(folder, "a.jpg", at("2020-01-01 00:00:00"));
-    const auto b = add(folder, "b.jpg", at("2020-01-02 00:00:00"));
-    EXPECT_EQ(drag(hour, {a}), Done);
-    EXPECT_EQ(drag(second, {a, b}), Done);
-    EXPECT_EQ(a->shift.singlePicModification, hour + second);
-    EXPECT_EQ(folder->singlePicModeImages, 2);
-    EXPECT_EQ(folder->sfTill, at("2020-01-02 00:00:01"));
-    EXPECT_EQ(undo.undoActionName(), "dragInSingleMode");
-
-    undo.undo();
-    EXPECT_EQ(a->shift.singlePicModification, hour);
-    EXPECT_EQ(b->shift.singlePicModification, absl::ZeroDuration());
-    EXPECT_EQ(folder->singlePicModeImages, 1);
-    undo.redo();
-    EXPECT_EQ(a->shift.singlePicModification, hour + second);
-}
-
-TEST_F(ItemDragTest, IsRefusedAsAWholeOutsideTheBounds) {
-    const auto inside = add(folder, "a.jpg", at("2020-01-01 00:00:00"));
-    const auto edge = add(folder, "b.jpg", at("4999-12-31 22:59:58"));
-    EXPECT_EQ(drag(hour, {inside, edge}), Done);
-    EXPECT_EQ(drag(second, {inside, edge}), RefusedOutOfBounds);
-    EXPECT_EQ(inside->shift.singlePicModification, hour);
-}
-
-TEST_F(ItemDragTest, PassesOverWhatCannotMove) {
-    const auto unread = add(folder, "a.jpg", InfinitePast(), SpTypeUnsupported);
-    const auto trashed = add(folder, "b.jpg", at("2020-01-01 00:00:00"));
+TEST_F(FolderDrag, OfItemsAddsToEachShiftAsOneStepAndIsRefusedAsAWhole) {
+    folder->sfEditMode = EditMode::Single;
+    const auto a = add(newYear), b = add(lastDay), unread = add(InfinitePast(), SpTypeUnsupported);
+    const auto trashed = add(newYear);
     trashed->isMovedToTrash = true;
+    const auto expectShifts = [&](absl::Duration ofA, absl::Duration ofB) {
+        EXPECT_EQ(a->shift.singlePicModification, ofA);
+        EXPECT_EQ(b->shift.singlePicModification, ofB);
+        for (const auto &still : {unread, trashed})
+            EXPECT_EQ(still->shift.singlePicModification, zero);
+    };
     EXPECT_EQ(drag(hour, {unread, trashed}), NothingChanged);
     EXPECT_EQ(drag(hour, {}), NothingChanged);
-    const auto good = add(folder, "c.jpg", at("2020-01-01 00:00:00"));
-    EXPECT_EQ(drag(absl::ZeroDuration(), {good}), NothingChanged);
-    EXPECT_EQ(drag(hour, {unread, trashed, good}), Done);
-    EXPECT_EQ(unread->shift.singlePicModification, absl::ZeroDuration());
-    EXPECT_EQ(trashed->shift.singlePicModification, absl::ZeroDuration());
+    EXPECT_EQ(drag(zero, {a}), NothingChanged);
+    EXPECT_EQ(drag(hour, {a, trashed}), Done);
+    EXPECT_EQ(drag(second, {a, b, unread}), Done);
+    EXPECT_EQ(undo.undoActionName(), "dragInSingleMode");
+    expectShifts(hour + second, second);
+    EXPECT_EQ(folder->sfTill, lastDay + second);
+    EXPECT_EQ(drag(24 * hour - 2 * second, {a, b}), RefusedOutOfBounds);
+    expectShifts(hour + second, second);
+    undo.undo();
+    expectShifts(hour, zero);
+    undo.redo();
+    expectShifts(hour + second, second);
 }
 
 } // namespace

@@ -1,105 +1,69 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SourceBuilder.h"
-#include "ViewSteps.h"
 
-#include <algorithm>
+#include "LittleItem.h"
+
+#include <gmock/gmock.h>
 
 namespace chronomender {
 namespace {
 
+using namespace little;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
-const Date noon = absl::UnixEpoch() + absl::Hours(12);
+const Date noon = utc(2024, 6, 1, 12);
+const absl::Duration second = absl::Seconds(1);
 
 class SourceBuilderTest : public testing::Test {
 protected:
-    const std::vector<MySinglePicPtr> &build(const std::vector<MySingleFolderPtr> &folders) {
-        m_builder.buildNewSource(folders);
+    SourceBuilderTest() { nikon->folderSortGeneral = 1; }
+
+    static MySinglePicPtr add(const MySingleFolderPtr &folder, const char *name, Date date) {
+        return addItem(folder, SpTypeExifOriginal, date, name);
+    }
+    const std::vector<MySinglePicPtr> &build() {
+        m_builder.buildNewSource({nikon, canon});
         return m_builder.source_full();
     }
-    std::vector<std::string> names() const {
-        std::vector<std::string> names;
-        for (const MySinglePicPtr &pic : m_builder.source_full())
-            names.push_back(pic->spName);
-        return names;
-    }
+    const MySingleFolderPtr canon = makeFolder(), nikon = makeFolder();
+
+private:
     SourceBuilder m_builder;
-    const MySingleFolderPtr canon = folderOfRank(0), nikon = folderOfRank(1);
 };
 
-TEST_F(SourceBuilderTest, DatesOfAllFoldersComeFirst) {
-    add(canon, "a.jpg", noon + absl::Seconds(2));
-    add(canon, "b.jpg", noon);
-    add(nikon, "0.jpg", noon + absl::Milliseconds(1500));
-    build({canon, nikon});
-    EXPECT_THAT(names(), ElementsAre("b.jpg", "0.jpg", "a.jpg"));
-}
-
-TEST_F(SourceBuilderTest, AShiftedFolderTakesItsPlace) {
-    add(canon, "canon.jpg", noon);
-    add(nikon, "nikon.jpg", noon + absl::Minutes(30));
+TEST_F(SourceBuilderTest, CorrectedDatesOfAllFoldersComeFirstAndItemsKnowTheirPlaces) {
+    const auto a = add(canon, "a.jpg", noon + 2 * second), b = add(canon, "b.jpg", noon);
+    const auto c = add(nikon, "0.jpg", noon + 1.5 * second);
+    EXPECT_THAT(build(), ElementsAre(b, c, a));
+    for (const auto &[pic, inSource, inFolder] :
+         {std::tuple(b, 0, 0), std::tuple(c, 1, 0), std::tuple(a, 2, 1)}) {
+        EXPECT_EQ(pic->positions.indexInSource_full, inSource);
+        EXPECT_EQ(pic->positions.indexInSource_filtered, inSource);
+        EXPECT_EQ(pic->positions.indexInFolder_full, inFolder);
+    }
     canon->sfDateModificationsTimeInterval = absl::Hours(1);
-    build({canon, nikon});
-    EXPECT_THAT(names(), ElementsAre("nikon.jpg", "canon.jpg"));
-
-    canon->sfEditMode = EditMode::Single; // the folder's shift does not count any more
-    nikon->sfEditMode = EditMode::Single;
-    nikon->sfPicDetails_fullArray[0]->shift.singlePicModification = -absl::Hours(2);
-    build({canon, nikon});
-    EXPECT_THAT(names(), ElementsAre("nikon.jpg", "canon.jpg"));
-    EXPECT_EQ(canon->sfPicDetails_fullArray[0]->spDateTimeModified(), noon);
+    EXPECT_THAT(build(), ElementsAre(c, b, a));
+    // By themselves, items pay no heed to the folder's shift.
+    canon->sfEditMode = nikon->sfEditMode = EditMode::Single;
+    c->shift.singlePicModification = second;
+    EXPECT_THAT(build(), ElementsAre(b, a, c));
+    canon->sfPicDetails_fullArray.clear(); // an item that left is gone
+    EXPECT_THAT(build(), ElementsAre(c));
 }
 
 TEST_F(SourceBuilderTest, ALivePhotoTakesThePlaceOfItsMovieWhereTheFolderSaysSo) {
-    const auto still = add(canon, "live.heic", noon);
-    add(canon, "other.jpg", noon + absl::Seconds(1));
-    const auto movie =
-        MySinglePic::create("live.mov", canon, SpTypeMovieMdta, noon + absl::Seconds(2));
-    still->group.bundleDependentImage = movie;
-    movie->group.bundleMasterImage = still;
-    build({canon});
-    EXPECT_THAT(names(), ElementsAre("live.heic", "other.jpg"));
+    const auto still = add(canon, "live.heic", noon), other = add(canon, "a.jpg", noon + second);
+    makeDependent(addItem(canon, SpTypeMovieMdta, noon + 2 * second, "live.mov"), still);
+    EXPECT_THAT(build(), ElementsAre(still, other));
     canon->sortFolderLPsByMov = true;
-    build({canon});
-    EXPECT_THAT(names(), ElementsAre("other.jpg", "live.heic"));
+    EXPECT_THAT(build(), ElementsAre(other, still));
 }
 
 TEST_F(SourceBuilderTest, TiesGoByNameThenFolderThenCreation) {
-    add(nikon, "IMG_10.jpg", noon);
-    add(nikon, "IMG_9.jpg", noon);
-    const auto older = add(nikon, "IMG_11.jpg", noon);
-    const auto younger = add(nikon, "IMG_11.jpg", noon);
-    add(canon, "img_8.jpg", noon);
-    const auto lower = add(canon, "IMG_9.jpg", noon);
-    const auto &source = build({nikon, canon});
-    EXPECT_THAT(names(), ElementsAre("img_8.jpg", "IMG_9.jpg", "IMG_9.jpg", "IMG_10.jpg",
-                                     "IMG_11.jpg", "IMG_11.jpg"));
-    EXPECT_EQ(source[1], lower);
-    EXPECT_EQ(source[4], older);
-    EXPECT_EQ(source[5], younger);
-}
-
-TEST_F(SourceBuilderTest, ItemsKnowTheirPlaces) {
-    const auto second = add(canon, "b.jpg", noon + absl::Seconds(1));
-    const auto first = add(canon, "a.jpg", noon);
-    const auto third = add(nikon, "c.jpg", noon + absl::Milliseconds(500));
-    const auto &source = build({canon, nikon});
-    for (std::size_t i = 0; i < source.size(); ++i) {
-        EXPECT_EQ(source[i]->positions.indexInSource_full, static_cast<std::int64_t>(i));
-        EXPECT_EQ(source[i]->positions.indexInSource_filtered, static_cast<std::int64_t>(i));
-    }
-    EXPECT_EQ(first->positions.indexInFolder_full, 0);
-    EXPECT_EQ(second->positions.indexInFolder_full, 1);
-    EXPECT_EQ(third->positions.indexInFolder_full, 0);
-}
-
-TEST_F(SourceBuilderTest, AnItemThatLeftIsGoneAfterTheNextBuild) {
-    add(canon, "a.jpg", noon);
-    build({canon});
-    canon->sfPicDetails_fullArray.clear();
-    EXPECT_THAT(build({canon}), IsEmpty());
-    EXPECT_THAT(build({}), IsEmpty());
+    const auto ten = add(nikon, "IMG_10.jpg", noon), nine = add(nikon, "IMG_9.jpg", noon);
+    const auto older = add(nikon, "IMG_11.jpg", noon), younger = add(nikon, "IMG_11.jpg", noon);
+    const auto eight = add(canon, "img_8.jpg", noon), lower = add(canon, "IMG_9.jpg", noon);
+    EXPECT_THAT(build(), ElementsAre(eight, lower, nine, ten, older, younger));
 }
 
 } // namespace
