@@ -41,9 +41,6 @@ protected:
     std::string at(const BuiltPhoto &built, const std::string &value, std::size_t length) const {
         return content().substr(built.offsets.at(value), length);
     }
-    std::string stampAt(const BuiltPhoto &built, const std::string &value) const {
-        return at(built, value, 19);
-    }
     /// `before` with some values replaced.
     static std::string replaced(const BuiltPhoto &before,
                                 std::map<std::string, std::string> values) {
@@ -52,24 +49,34 @@ protected:
             bytes.replace(before.offsets.at(value), after.size(), after);
         return bytes;
     }
-    static std::vector<PreSaveProblem> kinds(const std::vector<PreSaveFinding> &findings) {
-        std::vector<PreSaveProblem> result;
-        for (const PreSaveFinding &finding : findings)
-            result.push_back(finding.problem);
-        return result;
+    /// One member of each element.
+    template<class Element, class Value>
+    static std::vector<Value> each(const std::vector<Element> &list, Value Element::*member) {
+        std::vector<Value> values;
+        for (const Element &element : list)
+            values.push_back(element.*member);
+        return values;
     }
-    static std::vector<SaveErrorId> ids(const SaveRunResult &run) {
-        std::vector<SaveErrorId> result;
-        for (const SaveError &error : run.errors)
-            result.push_back(error.id);
-        return result;
+    static auto kinds(const PreProcessResult &dry) {
+        return each(dry.problems, &PreSaveFinding::problem);
     }
-    static std::vector<ItemResult> results(const SaveRunResult &run) {
-        std::vector<ItemResult> list;
-        for (const ItemOutcome &item : run.items)
-            list.push_back(item.result);
-        return list;
+    static auto ids(const SaveRunResult &run) { return each(run.errors, &SaveError::id); }
+    static auto results(const SaveRunResult &run) { return each(run.items, &ItemOutcome::result); }
+    SaveRunResult goOn(const PreProcessResult &dry) {
+        return session.driver.continueProcessThread({}, dry);
     }
+    /// All items are written, and the model knows it.
+    void saves() {
+        EXPECT_THAT(results(session.save()), testing::Each(ItemResult::Saved));
+        expectModelIsWhatAFreshImportShows();
+    }
+    /// Nothing can be written to the item, for a reason of the reader's or the field's.
+    void refuses(SaveErrorId id, std::string_view obstacle) {
+        const SaveRunResult run = session.save();
+        EXPECT_THAT(ids(run), testing::ElementsAre(id));
+        EXPECT_EQ(run.errors.at(0).systemText, text(obstacle));
+    }
+
     static SlotResult slotResult(const ItemOutcome &item, std::string_view name) {
         for (const SlotOutcome &slot : item.slots)
             if (slot.slot == name)

@@ -60,7 +60,7 @@ TEST_F(PairSaveTest, AHalfThatCannotBeWrittenKeepsTheOtherFromBeingWritten) {
         shift(absl::Hours(1));
         session.write(name, content(name) + "!");
         const PreProcessResult dry = session.preProcess();
-        EXPECT_THAT(kinds(dry.problems), ElementsAre(PreSaveProblem::error_08_modifiedAfterImport));
+        EXPECT_THAT(kinds(dry), ElementsAre(PreSaveProblem::error_08_modifiedAfterImport));
         EXPECT_TRUE(dry.items.at(0).result == Refused && dry.items.at(1).result == Refused);
         const SaveRunResult run = session.save();
         EXPECT_THAT(results(run), ElementsAre(Refused, Refused)) << name;
@@ -124,7 +124,7 @@ protected:
 TEST_F(LivePhotoSaveTest, AcrossADaylightSavingStepTheyStayOne) {
     importLivePhoto("2024:03:31 01:59:58", "2024-03-31T03:00:02+0200");
     shift(absl::Hours(-24));
-    EXPECT_THAT(kinds(session.preProcess().problems),
+    EXPECT_THAT(kinds(session.preProcess()),
                 ElementsAre(PreSaveProblem::error_12_zoneStampRewritten))
         << "to winter's offset";
     EXPECT_THAT(results(session.save()), ElementsAre(Saved, Saved));
@@ -135,7 +135,7 @@ TEST_F(LivePhotoSaveTest, AcrossADaylightSavingStepTheyStayOne) {
 TEST_F(LivePhotoSaveTest, ClocksThatWouldPartAreSaidFirst) {
     importLivePhoto(rawStamp, "2024-05-06T07:08:10-0800");
     shift(absl::Hours(1));
-    EXPECT_THAT(kinds(session.preProcess().problems),
+    EXPECT_THAT(kinds(session.preProcess()),
                 testing::UnorderedElementsAre(PreSaveProblem::error_12_zoneStampRewritten,
                                               PreSaveProblem::error_04_livePhotoDriftingApart));
     keepOwnZones();

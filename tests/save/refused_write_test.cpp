@@ -11,91 +11,71 @@ using testing::HasSubstr;
 /// A system that refuses something in the middle of an item.
 class RefusedWrite : public SaveTest {
 protected:
-    void SetUp() override {
+    void begin() {
         shiftAllSlotsAlike();
-        built = session.photo("a.jpg", fullPhotoFields());
-        session.import();
+        session.folder().sfEditMode = EditMode::Together;
+        built = importPhoto();
         keepOwnZones();
         shift(absl::Hours(1));
-    }
-    /// After a failure nothing of it is left in the file, and it can be saved the next time.
-    void expectAsBeforeAndSavableAgain() {
-        EXPECT_EQ(content(), built.bytes);
-        EXPECT_EQ(attributesOf(session.path("a.jpg")).modificationDate, session.fileDate);
-        EXPECT_EQ(session.item("a.jpg").spDateTimeOriginal, utc(2024, 5, 6, 5, 8, 9));
-        EXPECT_EQ(session.item("a.jpg").spDateTimeModified(), utc(2024, 5, 6, 6, 8, 9));
-        session.files.failingWrite = session.files.failingDateSetting = 0;
-        session.files.updateOpenError = 0;
-        EXPECT_THAT(results(session.save()), ElementsAre(ItemResult::Saved));
-        EXPECT_EQ(stampAt(built, "TIFFDateTime"), "2024:05:06 08:08:11");
-        expectModelIsWhatAFreshImportShows();
+        session.files.writes = session.files.dateSettings = 0;
     }
 
     BuiltPhoto built;
 };
 
-TEST_F(RefusedWrite, ValuesWrittenSoFarGoBack) {
-    for (const int failing : {1, 2, 3, 4}) {
-        session.files.writes = 0;
-        session.files.failingWrite = failing;
+TEST_F(RefusedWrite, LeavesTheFileAsItWasAndSavableAgain) {
+    FailingFileLayer &files = session.files;
+    const struct {
+        const char *what;
+        int failingWrite;
+        std::size_t tornBytes;
+        int failingDateSetting, updateOpenError;
+        SaveErrorId id;
+        const char *systemText;
+    } table[] = {
+        {"first value", 1, 0, 0, 0, SaveErrorId::WriteFailed, "Input/output error"},
+        {"second value", 2, 0, 0, 0, SaveErrorId::WriteFailed, "Input/output error"},
+        {"third value", 3, 0, 0, 0, SaveErrorId::WriteFailed, "Input/output error"},
+        {"fourth value", 4, 0, 0, 0, SaveErrorId::WriteFailed, "Input/output error"},
+        {"torn value", 3, 13, 0, 0, SaveErrorId::WriteFailed, "Input/output error"},
+        {"date beforehand", 0, 0, 1, 0, SaveErrorId::SettingFileDatesFailed,
+         "Operation not permitted"},
+        {"date afterwards", 0, 0, 2, 0, SaveErrorId::SettingFileDatesFailed,
+         "Operation not permitted"},
+        {"read-only file", 0, 0, 0, EACCES, SaveErrorId::CannotBeOpened, "Permission denied"},
+    };
+    for (const auto &row : table) {
+        SCOPED_TRACE(row.what);
+        begin();
+        files.failingWrite = row.failingWrite;
+        files.tornBytes = row.tornBytes;
+        files.failingDateSetting = row.failingDateSetting;
+        files.updateOpenError = row.updateOpenError;
         const SaveRunResult run = session.save();
-        EXPECT_THAT(ids(run), ElementsAre(SaveErrorId::WriteFailed)) << failing;
+        EXPECT_THAT(ids(run), ElementsAre(row.id));
         EXPECT_THAT(results(run), ElementsAre(ItemResult::Failed));
-        EXPECT_EQ(run.errors[0].systemText, "Input/output error");
-        EXPECT_EQ(slotResult(run.items[0], "exifDateTimeOriginal"), SlotResult::Refused);
-        EXPECT_EQ(content(), built.bytes) << failing;
+        EXPECT_EQ(run.errors.at(0).systemText, row.systemText);
+        EXPECT_EQ(slotResult(run.items.at(0), "exifDateTimeOriginal"), SlotResult::Refused);
+        EXPECT_EQ(files.writes > 0, row.failingWrite > 0 || row.failingDateSetting == 2);
+        EXPECT_EQ(content(), built.bytes);
+        EXPECT_EQ(attributesOf(session.path("a.jpg")).modificationDate, session.fileDate);
+        EXPECT_EQ(session.item("a.jpg").spDateTimeOriginal, utc(2024, 5, 6, 5, 8, 9));
+        EXPECT_EQ(session.item("a.jpg").spDateTimeModified(), utc(2024, 5, 6, 6, 8, 9));
+        files.failingWrite = files.failingDateSetting = files.updateOpenError = 0;
+        saves();
+        EXPECT_EQ(at(built, "TIFFDateTime", 19), "2024:05:06 08:08:11");
     }
-    expectAsBeforeAndSavableAgain();
-}
-
-TEST_F(RefusedWrite, TornValueGoesBackToo) {
-    session.files.failingWrite = 3;
-    session.files.tornBytes = 13;
-    EXPECT_THAT(ids(session.save()), ElementsAre(SaveErrorId::WriteFailed));
-    expectAsBeforeAndSavableAgain();
 }
 
 TEST_F(RefusedWrite, ValueThatCannotGoBackIsSaidAndStopsTheNextSave) {
+    begin();
     session.files.failingWritesFrom = 3;
     const SaveRunResult run = session.save();
     EXPECT_THAT(ids(run), ElementsAre(SaveErrorId::WriteFailed));
-    EXPECT_THAT(run.errors[0].systemText, HasSubstr(text("saveObstacle_notPutBack")));
+    EXPECT_THAT(run.errors.at(0).systemText, HasSubstr(text("saveObstacle_notPutBack")));
     session.files.failingWritesFrom = 0;
-    EXPECT_THAT(kinds(session.preProcess().problems),
+    EXPECT_THAT(kinds(session.preProcess()),
                 ElementsAre(PreSaveProblem::error_06_modifiedAfterImport));
-}
-
-TEST_F(RefusedWrite, FileWhoseDateCannotBeSetIsNotTouched) {
-    session.files.failingDateSetting = 1;
-    const SaveRunResult run = session.save();
-    EXPECT_THAT(ids(run), ElementsAre(SaveErrorId::SettingFileDatesFailed));
-    EXPECT_EQ(run.errors[0].systemText, "Operation not permitted");
-    EXPECT_EQ(session.files.writes, 0);
-    expectAsBeforeAndSavableAgain();
-}
-
-TEST_F(RefusedWrite, DateRefusedAfterTheValuesTakesThemBack) {
-    session.files.failingDateSetting = 2;
-    EXPECT_THAT(ids(session.save()), ElementsAre(SaveErrorId::SettingFileDatesFailed));
-    EXPECT_GT(session.files.writes, 0);
-    expectAsBeforeAndSavableAgain();
-}
-
-TEST_F(RefusedWrite, ReadOnlyFileIsNamedSo) {
-    session.files.updateOpenError = EACCES;
-    const SaveRunResult run = session.save();
-    EXPECT_THAT(ids(run), ElementsAre(SaveErrorId::CannotBeOpened));
-    EXPECT_THAT(results(run), ElementsAre(ItemResult::Failed));
-    EXPECT_EQ(run.errors[0].systemText, "Permission denied");
-    expectAsBeforeAndSavableAgain();
-}
-
-TEST_F(RefusedWrite, RestOfTheRunGoesOn) {
-    const BuiltPhoto other = session.photo("b.jpg", fullPhotoFields());
-    session.import();
-    std::filesystem::remove(session.path("a.jpg"));
-    EXPECT_THAT(results(session.save()), ElementsAre(ItemResult::Refused, ItemResult::Saved));
-    EXPECT_NE(content("b.jpg"), other.bytes);
 }
 
 } // namespace

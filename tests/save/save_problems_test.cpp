@@ -9,48 +9,58 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using enum PreSaveProblem;
 
+constexpr const char *stamp = "2024:05:06 07:08:09";
+
 /// Problems that a person must accept, and what happens without and with it.
 class SaveProblems : public SaveTest {
 protected:
-    SaveRunResult saveUnaccepted(PreProcessResult dry) {
+    /// A save without acceptance is refused, one with it makes the file say `after` and the item
+    /// stand at `date`.
+    void expectAsked(const PhotoFields &fields, absl::Duration by, PreSaveProblem problem,
+                     const std::string &detail, const std::map<std::string, std::string> &after,
+                     Date date) {
+        SCOPED_TRACE(detail);
+        session.folder().sfEditMode = EditMode::Together;
+        const BuiltPhoto built = importPhoto(fields);
+        if (by != absl::ZeroDuration())
+            shift(by);
+        PreProcessResult dry = session.preProcess();
+        ASSERT_THAT(kinds(dry), ElementsAre(problem));
+        EXPECT_EQ(dry.problems[0].detail, detail);
         dry.problems.clear();
-        for (ItemOutcome &item : dry.items)
-            item.problems.clear();
-        return session.driver.continueProcessThread({}, dry);
-    }
-    void expectNotWrittenUnaccepted(const PreProcessResult &dry, const BuiltPhoto &built) {
-        const SaveRunResult run = saveUnaccepted(dry);
-        EXPECT_THAT(ids(run), ElementsAre(SaveErrorId::NotWrittenUnreadableBack));
+        dry.items.at(0).problems.clear();
+        EXPECT_THAT(ids(goOn(dry)), ElementsAre(SaveErrorId::NotWrittenUnreadableBack));
         EXPECT_EQ(content(), built.bytes);
+        EXPECT_THAT(results(session.save()), ElementsAre(ItemResult::Saved));
+        EXPECT_EQ(content(), replaced(built, after));
+        EXPECT_EQ(session.item("a.jpg").spDateTimeOriginal, date);
+        EXPECT_FALSE(session.folder().isUnsavedFolder());
     }
 };
 
-TEST_F(SaveProblems, WallClockThatOccursTwiceIsAmbiguous) {
-    // Clocks in Berlin go back at 01:00 UTC; 00:30 UTC reads 02:30 for the first time.
-    const BuiltPhoto built = importPhoto({.original = "2024:10:27 01:30:00"});
-    shift(absl::Hours(1));
-    const PreProcessResult dry = session.preProcess();
-    ASSERT_THAT(kinds(dry.problems), ElementsAre(error_01_ambiguousStamp));
-    EXPECT_EQ(dry.problems[0].detail, "exifDateTimeOriginal");
-    const SaveRunResult run = session.driver.continueProcessThread({}, dry);
-    EXPECT_THAT(results(run), ElementsAre(ItemResult::Saved));
-    EXPECT_EQ(stampAt(built, "ExifDateTimeOriginal"), "2024:10:27 02:30:00");
-    EXPECT_EQ(session.item("a.jpg").spDateTimeOriginal, utc(2024, 10, 27, 0, 30))
-        << "the reading that was accepted stays";
-    EXPECT_FALSE(session.folder().isUnsavedFolder());
-}
-
-TEST_F(SaveProblems, AmbiguousStampIsNotWrittenUnaccepted) {
-    const BuiltPhoto built = importPhoto({.original = "2024:10:27 01:30:00"});
-    shift(absl::Hours(1));
-    expectNotWrittenUnaccepted(session.preProcess(), built);
-}
-
-TEST_F(SaveProblems, StampWithItsZoneIsNeverAmbiguous) {
-    importPhoto({.original = "2024:10:27 01:30:00", .zoneOriginal = "+02:00"});
-    keepOwnZones();
-    shift(absl::Hours(1));
-    EXPECT_THAT(session.preProcess().problems, IsEmpty());
+TEST_F(SaveProblems, NothingIsWrittenBeforeTheyAreAccepted) {
+    session.emptyTags.withEmptyExifFixDate = PerFolderImportOptions::EmptyTags::FileDate;
+    // Clocks in Berlin go back at 01:00 UTC; 00:30 UTC reads 02:30 for the first time. The reading
+    // that was accepted stays.
+    expectAsked({.original = "2024:10:27 01:30:00"}, absl::Hours(1), error_01_ambiguousStamp,
+                "exifDateTimeOriginal", {{"ExifDateTimeOriginal", "2024:10:27 02:30:00"}},
+                utc(2024, 10, 27, 0, 30));
+    expectAsked({.original = stamp,
+                 .digitized = stamp,
+                 .zoneOriginal = "+05:30",
+                 .zoneDigitized = "+05:30"},
+                absl::Hours(1), error_12_zoneStampRewritten, "+05:30 → +02:00",
+                {{"ExifDateTimeOriginal", "2024:05:06 04:38:09"},
+                 {"ExifOffsetTimeOriginal", "+02:00"},
+                 {"ExifDateTimeDigitized", "2024:05:06 04:38:09"},
+                 {"ExifOffsetTimeDigitized", "+02:00"}},
+                utc(2024, 5, 6, 2, 38, 9));
+    session.fileDate = utc(2024, 5, 6, 20);
+    expectAsked({.original = "0000:00:00 00:00:00", .digitized = "2024:15:36 07:08:09"},
+                absl::ZeroDuration(), error_13_unreadableStamp, "2024:15:36 07:08:09",
+                {{"ExifDateTimeOriginal", "2024:05:06 22:00:00"},
+                 {"ExifDateTimeDigitized", "2024:05:06 22:00:00"}},
+                session.fileDate);
 }
 
 TEST_F(SaveProblems, FileDateBefore1970) {
@@ -58,71 +68,47 @@ TEST_F(SaveProblems, FileDateBefore1970) {
     session.defaults.setForThisRun("dateChangeEXIFFinderModDate", "0");
     session.defaults.setForThisRun("dateChangeEXIFFinderModDateEXIFModDateOptions", "0");
     shift(absl::Hours(-24));
-    EXPECT_THAT(kinds(session.preProcess().problems), ElementsAre(error_03_pre1970));
-    EXPECT_THAT(results(session.save()), ElementsAre(ItemResult::Saved));
+    EXPECT_THAT(kinds(session.preProcess()), ElementsAre(error_03_pre1970));
+    saves();
     EXPECT_EQ(attributesOf(session.path("a.jpg")).modificationDate, utc(1969, 12, 31, 11));
-    expectModelIsWhatAFreshImportShows();
 }
 
-TEST_F(SaveProblems, ZoneStampThatNobodyAskedToChange) {
-    const PhotoFields fields{.original = "2024:05:06 07:08:09",
-                             .digitized = "2024:05:06 07:08:09",
-                             .zoneOriginal = "+05:30",
-                             .zoneDigitized = "+05:30"};
-    const BuiltPhoto built = importPhoto(fields);
-    shift(absl::Hours(1));
-    const PreProcessResult dry = session.preProcess();
-    ASSERT_THAT(kinds(dry.problems), ElementsAre(error_12_zoneStampRewritten));
-    EXPECT_EQ(dry.problems[0].detail, "+05:30 → +02:00");
-    expectNotWrittenUnaccepted(dry, built);
-
-    EXPECT_THAT(results(session.save()), ElementsAre(ItemResult::Saved));
-    EXPECT_EQ(content(), replaced(built, {{"ExifDateTimeOriginal", "2024:05:06 04:38:09"},
-                                          {"ExifOffsetTimeOriginal", "+02:00"},
-                                          {"ExifDateTimeDigitized", "2024:05:06 04:38:09"},
-                                          {"ExifOffsetTimeDigitized", "+02:00"}}));
-}
-
-TEST_F(SaveProblems, ZoneStampIsNoProblemWhereATargetWasChosenOrTheOffsetStays) {
-    const PhotoFields fields{.original = "2024:05:06 07:08:09", .zoneOriginal = "+05:30"};
-    importPhoto(fields);
-    shift(absl::Hours(1));
-    for (const auto &choice : {ZoneChoice::marker(ZoneChoice::Kind::Own),
-                               ZoneChoice::named(*session.zones.zoneWithName("Asia/Tokyo"))}) {
-        target(choice);
-        EXPECT_THAT(session.preProcess().problems, IsEmpty()) << choice.persistedName();
+TEST_F(SaveProblems, WhatIsNone) {
+    const PhotoFields zoned{.original = stamp, .zoneOriginal = "+05:30"};
+    const auto own = ZoneChoice::marker(ZoneChoice::Kind::Own);
+    const auto named = [&](const char *name) {
+        return ZoneChoice::named(*session.zones.zoneWithName(name));
+    };
+    const struct {
+        const char *what;
+        PhotoFields fields;
+        std::optional<ZoneChoice> target;
+        const char *systemZone = "Europe/Berlin";
+    } table[] = {
+        {"zone tells the hour", {.original = "2024:10:27 01:30:00", .zoneOriginal = "+02:00"}, own},
+        {"own zone", zoned, own},
+        {"a chosen target", zoned, named("Asia/Tokyo")},
+        {"the offset stays", zoned, {}, "Asia/Kolkata"},
+        {"other words beside a date", {.original = stamp, .digitized = "see notebook page 7"}, {}},
+        {"unreadable stamp beside a date",
+         {.original = stamp, .digitized = "2024:15:36 07:08:09"},
+         {}},
+    };
+    BuiltPhoto built;
+    for (const auto &row : table) {
+        session.zones.setSystemZone(*session.zones.zoneWithName(row.systemZone));
+        built = importPhoto(row.fields);
+        session.folder().targetTimeZones.folderDefault = row.target;
+        shift(absl::Hours(1));
+        EXPECT_THAT(session.preProcess().problems, IsEmpty()) << row.what;
     }
-    session.folder().targetTimeZones.folderDefault.reset();
-    session.zones.setSystemZone(*session.zones.zoneWithName("Asia/Kolkata"));
-    EXPECT_THAT(session.preProcess().problems, IsEmpty());
-}
-
-TEST_F(SaveProblems, StampThatIsNotEmptyIsNotOverwrittenUnasked) {
-    session.emptyTags.withEmptyExifFixDate = PerFolderImportOptions::EmptyTags::FileDate;
-    const BuiltPhoto built =
-        importPhoto({.original = "0000:00:00 00:00:00", .digitized = "2024:15:36 07:08:09"});
-    const PreProcessResult dry = session.preProcess();
-    ASSERT_THAT(kinds(dry.problems), ElementsAre(error_13_unreadableStamp));
-    EXPECT_EQ(dry.problems[0].detail, "2024:15:36 07:08:09");
-    expectNotWrittenUnaccepted(dry, built);
-    EXPECT_THAT(results(session.save()), ElementsAre(ItemResult::Saved));
-    EXPECT_EQ(stampAt(built, "ExifDateTimeDigitized"), "2024:05:06 22:00:00");
-}
-
-TEST_F(SaveProblems, UnreadableStampBesideADateStays) {
-    const BuiltPhoto built =
-        importPhoto({.original = "2024:05:06 07:08:09", .digitized = "2024:15:36 07:08:09"});
-    shift(absl::Hours(1));
-    EXPECT_THAT(session.preProcess().problems, IsEmpty());
     session.save();
     EXPECT_EQ(content(), replaced(built, {{"ExifDateTimeOriginal", "2024:05:06 08:08:09"}}));
-}
 
-TEST_F(SaveProblems, ItemThatOnlyCarriesAnErrorIsNotChecked) {
-    importPhoto({.original = "2024:05:06 07:08:09", .zoneOriginal = "+05:30"});
-    session.item("a.jpg").save.saveErrorType = 4;
+    importPhoto(zoned);
+    session.item("a.jpg").save.saveErrorType = 4; // an item that only carries an error
     const PreProcessResult dry = session.preProcess();
-    ASSERT_EQ(dry.items.size(), 1U);
+    EXPECT_EQ(dry.items.size(), 1U);
     EXPECT_THAT(dry.problems, IsEmpty());
 }
 
