@@ -128,48 +128,39 @@ TEST_F(SkippedEntriesTest, EveryReasonHasItsText) {
 
 class ContentTest : public ImportTest {};
 
-TEST_F(ContentTest, ContentWinsOverTheExtension) {
+TEST_F(ContentTest, ContentWinsOverTheExtensionWhichCountsWhereItSaysNothing) {
     const little::PhotoFields fields{.original = "2024:05:06 07:08:09"};
     const std::string jpeg = little::jpegPhoto(fields).bytes,
-                      tiff = little::tiffPhoto(fields).bytes;
-    struct Case {
-        const char *name;
-        const std::string &bytes;
-        FileFormatType format;
-    };
-    const Case cases[]{
-        {"tiff.jpg", tiff, FileFormatTiff}, {"jpeg.tif", jpeg, FileFormatJpeg},
-        {"jpeg.png", jpeg, FileFormatJpeg}, {"jpeg.txt", jpeg, FileFormatJpeg},
-        {"jpeg", jpeg, FileFormatJpeg},     {"tiff.NEF", tiff, FileFormatRaw},
-        {"jpeg.dng", jpeg, FileFormatJpeg},
-    };
-    for (const Case &c : cases)
-        file(c.name, c.bytes);
-    std::map<std::string, FileFormatType> formats;
-    for (const MySinglePicPtr &pic : import().items) {
-        formats[pic->spName] = pic->fileFormatType;
-        EXPECT_EQ(pic->spType, SpTypeExifOriginal) << pic->spName;
-    }
-    for (const Case &c : cases)
-        EXPECT_EQ(formats[c.name], c.format) << c.name;
-}
-
-TEST_F(ContentTest, TheExtensionCountsWhereContentSaysNothing) {
-    const std::pair<const char *, FileFormatType> cases[]{
-        {"a.jpg", FileFormatJpeg},       {"b.CR3", FileFormatRaw},
-        {"c.heic", FileFormatHeif},      {"d.gif", FileFormatGif},
-        {"e.pict", FileFormatPict},      {"f.mov", FileFormatQuickTime},
-        {"g.3gp", FileFormatMpeg4},      {"h.MTS", FileFormatOtherMovie},
-        {"i.avi", FileFormatOtherMovie}, {"j.mkv", FileFormatOtherMovie}};
-    for (const auto &[name, format] : cases)
-        file(name, "nothing that anybody knows");
+                      tiff = little::tiffPhoto(fields).bytes, noise = "nothing that anybody knows";
+    const std::tuple<const char *, std::string, FileFormatType> table[]{
+        {"a.jpg", tiff, FileFormatTiff},
+        {"b.tif", jpeg, FileFormatJpeg},
+        {"c.png", jpeg, FileFormatJpeg},
+        {"d.txt", jpeg, FileFormatJpeg},
+        {"e", jpeg, FileFormatJpeg},
+        {"f.NEF", tiff, FileFormatRaw},
+        {"g.dng", jpeg, FileFormatJpeg},
+        {"h.jpg", noise, FileFormatJpeg},
+        {"i.CR3", noise, FileFormatRaw},
+        {"j.heic", noise, FileFormatHeif},
+        {"k.gif", noise, FileFormatGif},
+        {"l.pict", noise, FileFormatPict},
+        {"m.mov", noise, FileFormatQuickTime},
+        {"n.3gp", noise, FileFormatMpeg4},
+        {"o.MTS", noise, FileFormatOtherMovie},
+        {"p.avi", noise, FileFormatOtherMovie},
+        {"q.mkv", noise, FileFormatOtherMovie}};
+    for (const auto &[name, bytes, format] : table)
+        file(name, bytes);
     const auto items = import().items;
-    ASSERT_EQ(items.size(), std::size(cases));
+    ASSERT_EQ(items.size(), std::size(table));
     for (std::size_t i = 0; i < items.size(); ++i) {
-        SCOPED_TRACE(cases[i].first);
-        EXPECT_EQ(items[i]->fileFormatType, cases[i].second);
-        EXPECT_EQ(items[i]->spType,
-                  isMovieFormat(cases[i].second) ? SpTypeMovieFileDate : SpTypeNoTagsFileDate);
+        const auto &[name, bytes, format] = table[i];
+        EXPECT_EQ(items[i]->fileFormatType, format) << name;
+        EXPECT_EQ(items[i]->spType, bytes != noise          ? SpTypeExifOriginal
+                                    : isMovieFormat(format) ? SpTypeMovieFileDate
+                                                            : SpTypeNoTagsFileDate)
+            << name;
     }
 }
 
@@ -185,11 +176,8 @@ TEST_F(ContentTest, IgnoredDataLeavesTheExtensionToDecide) {
     EXPECT_EQ(items[0]->spType, SpTypeUnsupported);
     EXPECT_EQ(items[1]->spType, SpTypeMovieIgnored);
     EXPECT_EQ(items[2]->fileFormatType, FileFormatJpeg);
-    for (const MySinglePicPtr &pic : items) {
-        EXPECT_EQ(pic->spDateTimeOriginal, InfinitePast()) << pic->spName;
+    for (const MySinglePicPtr &pic : items)
         EXPECT_FALSE(pic->singlePicAttributes.exifDateTimeOriginal) << pic->spName;
-        EXPECT_EQ(pic->camera.pivMakeModel, "") << pic->spName;
-    }
     EXPECT_EQ(questions.askedAboutMovies, 0);
 }
 
