@@ -51,21 +51,16 @@ inline constexpr auto Live = CalculationMode::Live;
 inline constexpr auto Save = CalculationMode::Save;
 
 /// The item's main date follows from its type, as import decides it.
-inline double mainMoment(SpType type, const Moments &old) {
-    switch (type) {
-    case SpTypeExifOriginal:
-        return *old.original;
-    case SpTypeExifDigitized:
-        return *old.digitized;
-    case SpTypeTiffDateTime:
-        return *old.tiff;
-    default:
-        return old.created.value_or(0);
-    }
+inline Date mainDate(SpType type, const Moments &old) {
+    const auto stamp = type == SpTypeExifOriginal    ? old.original
+                       : type == SpTypeExifDigitized ? old.digitized
+                       : type == SpTypeTiffDateTime  ? old.tiff
+                                                     : old.created;
+    return at(stamp.value_or(0));
 }
 
 inline MySinglePicPtr addItem(const MySingleFolderPtr &folder, SpType type, const Moments &old) {
-    const auto pic = addItem(folder, type, at(mainMoment(type, old)));
+    const auto pic = addItem(folder, type, mainDate(type, old));
     const std::array moments{old.original, old.digitized, old.tiff, old.created, old.modified};
     for (std::size_t slot = 0; slot < moments.size(); ++slot) {
         pic->slots.*slotDescriptions[slot].oldDate = at(moments[slot]);
@@ -90,27 +85,31 @@ inline NewDateContext context(CalculationMode mode, const Options &options = {})
     return result;
 }
 
-/// One line: what the file holds, the shift, the settings that differ from the defaults, and what
-/// the slot in question must hold afterwards (in a save, unless the line says otherwise).
+/// One line: what the file holds, the shift, and what the slot in question must hold afterwards (in
+/// a save, unless the line says otherwise) under each value of the setting in question, from 0.
 struct Line {
     const char *what;
     SpType type;
     Moments old;
     double shift;
-    Options options;
-    Moment expected;
+    std::vector<Moment> expected;
+    Options options{}; ///< that differ from the defaults
     CalculationMode mode = Save;
     bool areFileDatesOutOfOrder = false;
 };
 
-inline void check(Slot slot, const std::vector<Line> &lines) {
+inline void check(Slot slot, int DateChangeOptions::*setting, const std::vector<Line> &lines) {
     for (const Line &line : lines) {
-        const auto folder = makeFolder();
-        const auto pic = addItem(folder, line.type, line.old);
-        folder->sfDateModificationsTimeInterval = absl::Seconds(line.shift);
-        pic->save.normalizationType = line.areFileDatesOutOfOrder ? 4 : 0;
-        calculateNewDates(*pic, context(line.mode, line.options));
-        EXPECT_EQ(newMoment(*pic, slot), line.expected) << line.what;
+        for (std::size_t value = 0; value < line.expected.size(); ++value) {
+            const auto folder = makeFolder();
+            const auto pic = addItem(folder, line.type, line.old);
+            folder->sfDateModificationsTimeInterval = absl::Seconds(line.shift);
+            pic->save.normalizationType = line.areFileDatesOutOfOrder ? 4 : 0;
+            NewDateContext calculation = context(line.mode, line.options);
+            calculation.options.*setting = static_cast<int>(value);
+            calculateNewDates(*pic, calculation);
+            EXPECT_EQ(newMoment(*pic, slot), line.expected[value]) << line.what << ", " << value;
+        }
     }
 }
 

@@ -6,28 +6,42 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <optional>
+#include <sstream>
 #include <string>
 
 namespace chronomender::little {
 
-/// Choices in one word: a zone's name, a marker as sessions store it, or "" for none.
-inline std::optional<ZoneChoice> choice(const std::string &word) {
+/// Choices in one word each; "-" is none.
+inline const std::array<std::pair<const char *, std::optional<ZoneChoice>>, 10> &choiceWords() {
     using Kind = ZoneChoice::Kind;
-    if (word.empty())
-        return std::nullopt;
-    for (Kind kind :
-         {Kind::System, Kind::Unchanged, Kind::UnchangedLeft, Kind::UnchangedLeftFolder, Kind::Own})
-        if (ZoneChoice marker = ZoneChoice::marker(kind); marker.persistedName() == word)
-            return marker;
-    return ZoneChoice::named(zone(word));
+    const auto named = [](const char *name) { return ZoneChoice::named(zone(name)); };
+    static const std::array<std::pair<const char *, std::optional<ZoneChoice>>, 10> words{
+        {{"-", {}},
+         {"system", ZoneChoice::system()},
+         {"same", ZoneChoice::marker(Kind::Unchanged)},
+         {"left", ZoneChoice::marker(Kind::UnchangedLeft)},
+         {"folder", ZoneChoice::marker(Kind::UnchangedLeftFolder)},
+         {"own", ZoneChoice::marker(Kind::Own)},
+         {"Berlin", named("Europe/Berlin")},
+         {"Tokyo", named("Asia/Tokyo")},
+         {"Lima", named("America/Lima")},
+         {"UTC", named("UTC")}}};
+    return words;
 }
-
-inline std::string word(const ZoneChoice *choice) {
-    return choice ? choice->persistedName() : "";
+inline std::optional<ZoneChoice> choice(const std::string &word) {
+    for (const auto &[known, choice] : choiceWords())
+        if (known == word)
+            return choice;
+    ADD_FAILURE() << word;
+    return {};
 }
 inline std::string word(const std::optional<ZoneChoice> &choice) {
-    return word(choice ? &*choice : nullptr);
+    for (const auto &[word, known] : choiceWords())
+        if (known == choice)
+            return word;
+    return "?";
 }
 
 /// A folder on a machine in Berlin, with one photo.
@@ -35,29 +49,34 @@ class ZonesTest : public testing::Test {
 protected:
     ZonesTest() { zones.setSystemZone(zone("Europe/Berlin")); }
 
-    /// Sets the four places a choice can stand in.
-    void assign(const std::string &source, const std::string &target,
-                const std::string &ownSource = "", const std::string &ownTarget = "") {
-        folder->sourceTimeZones = {choice(source), {}};
-        folder->targetTimeZones = {choice(target), {}};
-        if (const auto own = choice(ownSource))
+    /// Sets the four places a choice can stand in: "source target own-source own-target" of the
+    /// folder and the photo.
+    void assign(const std::string &choices) {
+        std::istringstream words(choices);
+        std::array<std::string, 4> word;
+        for (std::string &each : word)
+            words >> each;
+        folder->sourceTimeZones = {choice(word[0]), {}};
+        folder->targetTimeZones = {choice(word[1]), {}};
+        if (const auto own = choice(word[2]))
             addPicWithZone(*pic, *own, folder->sourceTimeZones);
-        if (const auto own = choice(ownTarget))
+        if (const auto own = choice(word[3]))
             addPicWithZone(*pic, *own, folder->targetTimeZones);
     }
-    /// "source target own-source own-target" of the folder and the photo, "-" for none.
     std::string choices() const {
-        std::string text;
-        for (const std::string &part :
-             {word(folder->sourceTimeZones.folderDefault),
-              word(folder->targetTimeZones.folderDefault),
-              word(choiceForPicIgnoringDefault(*pic, folder->sourceTimeZones)),
-              word(choiceForPicIgnoringDefault(*pic, folder->targetTimeZones))})
-            text += (text.empty() ? "" : " ") + (part.empty() ? "-" : part);
-        return text;
+        const auto own = [&](const ZoneAssignments &assignments) {
+            const ZoneChoice *found = choiceForPicIgnoringDefault(*pic, assignments);
+            return word(found ? std::optional(*found) : std::nullopt);
+        };
+        return word(folder->sourceTimeZones.folderDefault) + ' ' +
+               word(folder->targetTimeZones.folderDefault) + ' ' + own(folder->sourceTimeZones) +
+               ' ' + own(folder->targetTimeZones);
     }
-    std::string source() const { return sourceTimeZoneForPic(*pic, *folder, zones).name; }
-    std::string target() const { return targetTimeZoneForPic(*pic, *folder, zones).name; }
+    /// Where the photo is read and written: "Tokyo UTC".
+    std::string places() const {
+        return word(ZoneChoice::named(sourceTimeZoneForPic(*pic, *folder, zones))) + ' ' +
+               word(ZoneChoice::named(targetTimeZoneForPic(*pic, *folder, zones)));
+    }
 
     Zones zones;
     MySingleFolderPtr folder = makeFolder();

@@ -9,89 +9,142 @@ namespace chronomender {
 namespace {
 
 using namespace little;
+using Fields = DateModificationFields;
 
 const Date noon = utc(2024, 6, 1, 12);
-const absl::Duration zero = absl::ZeroDuration();
+const absl::Duration zero = absl::ZeroDuration(), hour = absl::Hours(1);
+
+TEST(ShiftFields, ShowAShiftInWholeUnits) {
+    const struct {
+        absl::Duration shift;
+        bool isNegative;
+        Fields fields;
+    } rows[] = {
+        {absl::Seconds(-90061), false, {"-", "1", "1", "1", "1"}},
+        {absl::Seconds(90061), true, {"+", "1", "1", "1", "1"}},
+        {zero, true, {"-", "0", "0", "0", "0"}},
+        {zero, false, {"+", "0", "0", "0", "0"}},
+        {absl::Milliseconds(500), false, {"+", "0", "0", "0", "0"}},
+        {absl::Milliseconds(-59999), false, {"-", "0", "0", "0", "59"}},
+        {hour * 24 * 36525 - absl::Seconds(1), false, {"+", "36524", "23", "59", "59"}},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(fieldsFromTimeInterval(row.shift, row.isNegative), row.fields) << row.shift;
+}
+
+TEST(ShiftFields, AreReadAsNumbersAndNeverAsGarbage) {
+    const std::pair<Fields, absl::Duration> rows[] = {
+        {{"+", "1", "2", "3", "4"}, absl::Seconds(93784)},
+        {{"-", "1", "2", "3", "4"}, absl::Seconds(-93784)},
+        {{"+", "1.5", "0", "0", "0"}, 36 * hour},
+        {{"+", "-2", "1", "0", "0"}, -47 * hour},
+        {{"+", " 7", "+1", "", "5s"}, 169 * hour + absl::Seconds(5)},
+        {{"+", "nan", "inf", "x", "-"}, zero},
+        {{"+", "1e300", "99999999999999999999", "0", "1"}, absl::Seconds(1)},
+    };
+    for (const auto &[fields, shift] : rows)
+        EXPECT_EQ(timeIntervalFromFields(fields), shift) << fields.dmDays;
+}
+
+TEST(FolderShift, BothDirectionFlagsFollowTheShownSignInEverySetter) {
+    const auto folder = makeFolder();
+    const auto expectDirection = [&](bool isNegative) {
+        EXPECT_EQ(folder->hasChangedDirection, isNegative);
+        EXPECT_EQ(folder->tempHasChangedDirection, isNegative);
+        EXPECT_EQ(folder->sfDateModifications.dmDirection, isNegative ? "-" : "+");
+    };
+    setSfDateModificationsFromTimeInterval(*folder, absl::Seconds(-90061), false);
+    expectDirection(true);
+    folder->hasDSTJumperType = 3;
+    setSfDateModificationsFromTimeInterval(*folder, absl::Milliseconds(500), true);
+    expectDirection(false);
+    EXPECT_EQ(folder->sfDateModificationsTimeInterval, absl::Milliseconds(500)); // not as shown
+    EXPECT_EQ(folder->hasDSTJumperType, 0);
+    setSfDateModificationsFromTimeInterval(*folder, zero, true);
+    expectDirection(true);
+    setDirection(*folder, {"+", "0", "0", "0", "1"});
+    expectDirection(false);
+    setDirection(*folder, {"-", "01", "0", "0", "0"});
+    expectDirection(true);
+    EXPECT_EQ(folder->sfDateModifications.dmDays, "01"); // as it was typed
+    EXPECT_EQ(folder->sfDateModificationsTimeInterval, -24 * hour);
+}
+
+TEST(FolderShift, SeveralFoldersKeepTheirOwnPartsWhereNothingWasChosen) {
+    const auto folder = makeFolder(), other = makeFolder();
+    setDirection(*folder, {"-", "1", "2", "3", "4"});
+    EXPECT_EQ(keepingOwnParts(*folder, {{}, {}, {}, "0", {}}), (Fields{"-", "1", "2", "0", "4"}));
+    EXPECT_EQ(keepingOwnParts(*folder, {"+", "0", {}, {}, {}}), (Fields{"+", "0", "2", "3", "4"}));
+    setDirection(MyCompoundFolder({folder, other}), {"+", "0", "0", "0", "7"});
+    EXPECT_EQ(folder->sfDateModificationsTimeInterval, absl::Seconds(7));
+    EXPECT_EQ(other->sfDateModificationsTimeInterval, absl::Seconds(7));
+}
 
 class DateModifications : public testing::Test {
 protected:
     MySingleFolderPtr folder = makeFolder(EditMode::Single);
     MySinglePicPtr first = addItem(folder, SpTypeExifOriginal, noon);
-    MySinglePicPtr second = addItem(folder, SpTypeExifOriginal, noon + absl::Hours(1));
+    MySinglePicPtr second = addItem(folder, SpTypeExifOriginal, noon + hour);
     UndoManager undo;
 
-    absl::Duration shiftOf(const MySinglePicPtr &pic) const {
-        return pic->shift.singlePicModification;
+    /// The two items' own shifts, and how many items the folder counts as shifted.
+    void expectShifts(absl::Duration ofFirst, absl::Duration ofSecond, int count) const {
+        EXPECT_EQ(first->shift.singlePicModification, ofFirst);
+        EXPECT_EQ(second->shift.singlePicModification, ofSecond);
+        EXPECT_EQ(folder->singlePicModeImages, count);
     }
 };
 
-TEST_F(DateModifications, TheBoundsAreThoseOfAllDates) {
-    EXPECT_EQ(utcText(minDate()), "0001-01-02 00:00:00");
-    EXPECT_EQ(utcText(maxDate()), "4999-12-31 23:59:59");
-}
-
-TEST_F(DateModifications, SingleShiftsAddUpAndAreCountedOnce) {
+TEST_F(DateModifications, SingleShiftsAddUpExactlyAndAreCountedOnce) {
     const absl::Duration odd = absl::Seconds(0.1);
-    updateSinglePicModificationBy(*first, odd);
-    updateSinglePicModificationBy(*first, odd);
-    updateSinglePicModificationBy(*first, zero);
-    EXPECT_EQ(folder->singlePicModeImages, 1);
+    for (absl::Duration difference : {odd, odd, zero})
+        updateSinglePicModificationBy(*first, difference);
+    expectShifts(2 * odd, zero, 1);
     EXPECT_EQ(first->spDateTimeModified(), noon + 2 * odd);
-    updateSinglePicModificationBy(*first, -2 * odd); // exactly its negation
-    EXPECT_EQ(folder->singlePicModeImages, 0);
-    EXPECT_FALSE(first->singlePicModeDate());
+    updateSinglePicModificationBy(*first, -2 * odd);
+    expectShifts(zero, zero, 0);
+    for (SpType type : {SpTypeUnsupported, SpTypeMovieIgnored}) {
+        first->spType = type;
+        updateSinglePicModificationBy(*first, hour);
+    }
+    expectShifts(zero, zero, 0); // no correctable date
 }
 
 TEST_F(DateModifications, ADependentTakesTheSameShiftAndNotASecondStep) {
     makeDependent(second, first);
-    second->shift.singlePicModification = absl::Hours(9);
-    updateSinglePicModificationBy(*first, absl::Hours(1));
-    updateSinglePicModificationBy(*first, absl::Hours(1));
-    EXPECT_EQ(shiftOf(second), absl::Hours(2));
-    EXPECT_EQ(folder->singlePicModeImages, 1);
-}
-
-TEST_F(DateModifications, ItemsWithoutACorrectableDateNeverShift) {
-    for (SpType type : {SpTypeUnsupported, SpTypeMovieIgnored}) {
-        first->spType = type;
-        updateSinglePicModificationBy(*first, absl::Hours(1));
-        EXPECT_EQ(shiftOf(first), zero);
-    }
-    EXPECT_EQ(folder->singlePicModeImages, 0);
+    second->shift.singlePicModification = 9 * hour;
+    updateSinglePicModificationBy(*first, hour);
+    updateSinglePicModificationBy(*first, hour);
+    expectShifts(2 * hour, 2 * hour, 1);
 }
 
 TEST_F(DateModifications, UndoAndRedoOfSingleShiftsBringValuesAndRangeBack) {
     const auto trashed = addItem(folder, SpTypeExifOriginal, noon);
     trashed->isMovedToTrash = true;
     const absl::Duration odd = absl::Seconds(-86400.3);
-    updateThumbValues({{first, odd}, {second, absl::Hours(3)}, {trashed, absl::Hours(3)}}, undo);
-    const auto expectShifted = [&](bool isShifted) {
-        EXPECT_EQ(shiftOf(first), isShifted ? odd : zero);
-        EXPECT_EQ(shiftOf(second), isShifted ? absl::Hours(3) : zero);
-        EXPECT_EQ(folder->singlePicModeImages, isShifted ? 2 : 0);
-        EXPECT_EQ(folder->sfFrom, isShifted ? noon + odd : noon);
-        EXPECT_EQ(folder->sfTill, noon + absl::Hours(isShifted ? 4 : 1));
-        EXPECT_EQ(shiftOf(trashed), zero);
-    };
-    expectShifted(true);
+    updateThumbValues({{first, odd}, {second, 3 * hour}, {trashed, 3 * hour}}, undo);
     for (int round = 0; round < 2; ++round) {
+        expectShifts(odd, 3 * hour, 2);
+        EXPECT_EQ(folder->sfFrom, noon + odd);
+        EXPECT_EQ(folder->sfTill, noon + 4 * hour);
         undo.undo();
-        expectShifted(false);
+        expectShifts(zero, zero, 0);
+        EXPECT_EQ(folder->sfFrom, noon);
+        EXPECT_EQ(folder->sfTill, noon + hour);
+        EXPECT_EQ(trashed->shift.singlePicModification, zero);
         EXPECT_FALSE(undo.canUndo());
         undo.redo();
-        expectShifted(true);
     }
 }
 
 TEST_F(DateModifications, ResettingSingleModeIsOneStepWithAName) {
-    updateSinglePicModificationBy(*first, absl::Hours(1));
-    updateSinglePicModificationBy(*second, absl::Hours(-2));
+    updateSinglePicModificationBy(*first, hour);
+    updateSinglePicModificationBy(*second, -2 * hour);
     dateValuesResetSingleMode(*folder, undo);
-    EXPECT_EQ(folder->singlePicModeImages, 0);
+    expectShifts(zero, zero, 0);
     EXPECT_EQ(undo.undoActionName(), "resetAllInSingleMode");
     undo.undo();
-    EXPECT_EQ(shiftOf(first), absl::Hours(1));
-    EXPECT_EQ(shiftOf(second), absl::Hours(-2));
+    expectShifts(hour, -2 * hour, 2);
 }
 
 TEST_F(DateModifications, UndoAndRedoOfAFolderShiftBringShiftAndDirectionBack) {
@@ -111,26 +164,19 @@ TEST_F(DateModifications, UndoAndRedoOfAFolderShiftBringShiftAndDirectionBack) {
 TEST_F(DateModifications, ChangingTheModeKeepsDatesOnTheWayToSingleAndDropsThemBack) {
     folder->sfEditMode = EditMode::Together;
     const auto unsupported = addItem(folder, SpTypeUnsupported, InfinitePast());
-    setSfDateModificationsFromTimeInterval(*folder, absl::Hours(1), false);
-    changeEditMode(*folder, EditMode::Single);
-    EXPECT_EQ(first->spDateTimeModified(), noon + absl::Hours(1));
-    EXPECT_EQ(shiftOf(unsupported), zero);
-    EXPECT_EQ(folder->singlePicModeImages, 2);
-    EXPECT_EQ(folder->sfDateModificationsTimeInterval, zero);
-    changeEditMode(*folder, EditMode::Single);
-    EXPECT_EQ(folder->singlePicModeImages, 2);
-    changeEditMode(*folder, EditMode::Together);
-    EXPECT_EQ(first->spDateTimeModified(), noon);
-    EXPECT_EQ(folder->singlePicModeImages, 0);
-}
-
-TEST_F(DateModifications, AfterASaveOnlyItemsThatKeptTheirShiftCount) {
-    updateSinglePicModificationBy(*first, absl::Hours(1));
-    updateSinglePicModificationBy(*second, absl::Hours(1));
-    first->shift = {};
+    setSfDateModificationsFromTimeInterval(*folder, hour, false);
+    for (int round = 0; round < 2; ++round) { // again is no change
+        changeEditMode(*folder, EditMode::Single);
+        expectShifts(hour, hour, 2);
+        EXPECT_EQ(unsupported->shift.singlePicModification, zero);
+        EXPECT_EQ(folder->sfDateModificationsTimeInterval, zero);
+    }
+    // After a save only items that kept their shift count.
+    second->shift = {};
     clearSinglePicModeImages(*folder);
-    EXPECT_EQ(folder->singlePicModeImages, 1);
-    EXPECT_EQ(shiftOf(second), absl::Hours(1));
+    expectShifts(hour, zero, 1);
+    changeEditMode(*folder, EditMode::Together);
+    expectShifts(zero, zero, 0);
 }
 
 TEST_F(DateModifications, TheLastItemLeavingTakesRangeShiftAndUndoStepsWithIt) {
@@ -145,14 +191,13 @@ TEST_F(DateModifications, TheLastItemLeavingTakesRangeShiftAndUndoStepsWithIt) {
         folder = makeFolder(row.mode);
         UndoManager steps;
         addItem(folder, SpTypeExifOriginal, noon);
-        undoRedoUpdateFolderModeDateModifications(*folder, absl::Hours(-1), false, steps);
-        EXPECT_EQ(folder->sfPics, 1);
+        undoRedoUpdateFolderModeDateModifications(*folder, -hour, false, steps);
         folder->sfPicDetails_fullArray.clear();
         sfUpdatePicsFromAndTill(*folder, &steps, row.refresh);
         EXPECT_EQ(folder->sfPics, 0);
         EXPECT_EQ(!folder->sfFrom && !folder->sfTill, row.isRangeCleared);
         EXPECT_EQ(folder->sfDateModificationsTimeInterval == zero, row.isShiftCleared);
-        EXPECT_EQ(folder->sfDateModifications == DateModificationFields(), row.isShiftCleared);
+        EXPECT_EQ(folder->sfDateModifications == Fields(), row.isShiftCleared);
         EXPECT_EQ(steps.canUndo(), !row.isShiftCleared);
     }
 }

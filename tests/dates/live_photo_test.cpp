@@ -62,42 +62,37 @@ TEST_F(LivePhotoTest, ExactTimeIsThatOfTheFirstStampWithItsFraction) {
     EXPECT_FALSE(livePhotoStartTime(*still));
     folder->isEXIFIgnored = true;
     EXPECT_EQ(exactly(), "none");
-}
-
-TEST_F(LivePhotoTest, SortedByMovieTheNewerCamerasDateIsTheMovies) {
+    // Sorted by movie, a newer camera's date is the movie's.
     folder->sortFolderLPsByMov = true;
     for (const std::string model : {"iPhone 13 Pro", "iPhone 12", "iPhone X", "iPhone"}) {
-        const auto still = livePhoto("a", 0);
+        still->livePhoto.usesSimplerLPExactTime_cached = 0;
         still->camera.model = model;
         EXPECT_EQ(usesSimplerLPExactTime(*still), model == "iPhone 13 Pro") << model;
     }
 }
 
 TEST_F(LivePhotoTest, OverlapNeedsTimesThatMeet) {
-    const struct {
-        int start;
-        double duration;
-        bool doMeet;
-    } cases[]{{3200, 3, true},   {3201, 3, false}, {1000, 1.5, true}, {1000, 1.499, false},
-              {-60, 3.05, true}, {-62, 3, false},  {1000, -1, false}};
-    for (const auto &each : cases) {
-        const auto first = livePhoto("a", 4000), second = livePhoto("b", 4000 + each.start);
-        movieOf(second).movie.movDuration = each.duration;
-        EXPECT_EQ(doLivePhotosOverlap(*first, *second) == LivePhotoOverlap::Overlap, each.doMeet)
-            << each.start << ' ' << each.duration;
+    const std::tuple<int, double, bool> cases[]{
+        {3200, 3, true},   {3201, 3, false}, {1000, 1.5, true}, {1000, 1.499, false},
+        {-60, 3.05, true}, {-62, 3, false},  {1000, -1, false}};
+    for (const auto &[start, duration, doMeet] : cases) {
+        const auto first = livePhoto("a", 4000), second = livePhoto("b", 4000 + start);
+        movieOf(second).movie.movDuration = duration;
+        EXPECT_EQ(doLivePhotosOverlap(*first, *second) == LivePhotoOverlap::Overlap, doMeet)
+            << start << ' ' << duration;
     }
 }
 
 TEST_F(LivePhotoTest, OverlapNeedsOneCameraOneSizeAndFractions) {
-    for (int difference = 0; difference < 5; ++difference) {
+    using Change = void (*)(MySinglePic &);
+    for (const Change change :
+         {Change([](auto &pic) { pic.camera.pivImageWidth = 1; }),
+          Change([](auto &pic) { pic.camera.model = "Pixel"; }),
+          Change([](auto &pic) { pic.livePhoto.subsecTimeOriginal.reset(); }),
+          Change([](auto &pic) { pic.group.bundleDependentImage->camera.pivImageHeight = 1; })}) {
         const auto first = livePhoto("a", 4000), second = livePhoto("b", 5000);
-        second->camera.pivImageWidth = difference == 1;
-        movieOf(second).camera.pivImageHeight = difference == 2;
-        second->camera.model = difference == 3 ? "Pixel" : "iPhone 12";
-        if (difference == 4)
-            second->livePhoto.subsecTimeOriginal.reset();
-        EXPECT_EQ(doLivePhotosOverlap(*first, *second),
-                  difference == 0 ? LivePhotoOverlap::Overlap : LivePhotoOverlap::None);
+        change(*second);
+        EXPECT_EQ(doLivePhotosOverlap(*first, *second), LivePhotoOverlap::None);
     }
 }
 

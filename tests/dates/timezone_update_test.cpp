@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DaylightSavingChecks.h"
+#include "MovieClock.h"
+#include "MovieStampConversions.h"
 #include "ZoneSteps.h"
 
 namespace chronomender {
@@ -7,87 +9,89 @@ namespace {
 
 using namespace little;
 
+const Date morning = utc(2024, 6, 1, 10), noon = utc(2024, 6, 1, 12);
+
+/// A photo of noon, read in Berlin, two hours ahead of UTC.
 class TimezoneUpdate : public ZonesTest {
 protected:
     void SetUp() override {
-        // Read in Berlin, two hours ahead of UTC.
-        SinglePicAttributes &attributes = pic->singlePicAttributes;
         attributes.exifDateTimeOriginal = attributes.exifDateTimeDigitized =
             attributes.tiffDateTime = located("2024:06:01 12:00:00");
         attributes.tiffOffsetTime = located("+05:30");
-        pic->slots.exifDateTimeOriginalOLD = pic->slots.exifDateTimeDigitizedOLD =
-            pic->spDateTimeOriginal = utc(2024, 6, 1, 10);
-        pic->slots.tiffDateTimeOLD = utc(2024, 6, 1, 6, 30);
-        pic->slots.fileCreationDateOLD = utc(2024, 6, 1, 10);
+        slots.exifDateTimeOriginalOLD = slots.exifDateTimeDigitizedOLD = slots.fileCreationDateOLD =
+            pic->spDateTimeOriginal = morning;
+        slots.tiffDateTimeOLD = utc(2024, 6, 1, 6, 30);
     }
     bool update(int threshold = 3) {
         return updateAllDatesAfterUpdatingTimezone(*pic, *folder, zones, threshold);
     }
+    bool updateFrom(const char *source) {
+        assign(std::string(source) + " - - -");
+        return update();
+    }
+    SinglePicAttributes &attributes = pic->singlePicAttributes;
+    DateSlots &slots = pic->slots;
 };
 
 TEST_F(TimezoneUpdate, StampsMoveWithTheSourceZoneAndThoseWithAZoneStampStay) {
     EXPECT_FALSE(update());
-    assign("Asia/Tokyo", "");
-    EXPECT_TRUE(update());
-    EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 3));
-    EXPECT_EQ(pic->slots.exifDateTimeDigitizedOLD, utc(2024, 6, 1, 3));
-    EXPECT_EQ(pic->slots.tiffDateTimeOLD, utc(2024, 6, 1, 6, 30));
+    EXPECT_TRUE(updateFrom("Tokyo"));
+    EXPECT_EQ(slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 3));
+    EXPECT_EQ(slots.exifDateTimeDigitizedOLD, utc(2024, 6, 1, 3));
+    EXPECT_EQ(slots.tiffDateTimeOLD, utc(2024, 6, 1, 6, 30));
     EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
     EXPECT_TRUE(pic->zones.isUnsavedDueToTZC);
     EXPECT_FALSE(update()); // from the recorded bytes, never from dates already moved
-}
-
-TEST_F(TimezoneUpdate, TheMainDateFollowsTheSlotOfItsType) {
+    // The main date follows the slot of its type.
     pic->spType = SpTypeExifDigitized;
-    pic->singlePicAttributes.exifDateTimeDigitized = located("2024:06:01 13:00:00");
-    assign("Asia/Tokyo", "");
+    attributes.exifDateTimeDigitized = located("2024:06:01 13:00:00");
     EXPECT_TRUE(update());
     EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 4));
 }
 
-TEST_F(TimezoneUpdate, SlotsThatAreAbsentOrToBeAddedStaySo) {
-    pic->slots.exifDateTimeOriginalOLD = std::nullopt;
-    pic->slots.exifDateTimeDigitizedOLD = InfinitePast();
-    pic->spType = SpTypeTiffDateTime;
-    assign("Asia/Tokyo", "");
-    update();
-    EXPECT_EQ(pic->slots.exifDateTimeOriginalOLD, std::nullopt);
-    EXPECT_EQ(pic->slots.exifDateTimeDigitizedOLD, InfinitePast());
-}
-
-TEST_F(TimezoneUpdate, OtherTypesDoNotMove) {
+TEST_F(TimezoneUpdate, WhatHasNoStampDoesNotMove) {
     for (SpType type : {SpTypeEmptyOriginalFileDate, SpTypeNoTagsFileDate, SpTypeUnsupported}) {
         pic->spType = type;
-        assign("Asia/Tokyo", "");
-        EXPECT_FALSE(update());
+        EXPECT_FALSE(updateFrom("Tokyo"));
     }
+    slots.exifDateTimeOriginalOLD = std::nullopt;
+    slots.exifDateTimeDigitizedOLD = InfinitePast(); // a tag to be added
+    pic->spType = SpTypeTiffDateTime;
+    update();
+    EXPECT_EQ(slots.exifDateTimeOriginalOLD, std::nullopt);
+    EXPECT_EQ(slots.exifDateTimeDigitizedOLD, InfinitePast());
 }
 
 TEST_F(TimezoneUpdate, AStampAndItsFileDateExchangeRoles) {
-    pic->singlePicAttributes.tiffOffsetTime.reset();
-    pic->slots.exifDateTimeOriginalOLD = pic->slots.exifDateTimeDigitizedOLD = std::nullopt;
+    attributes.tiffOffsetTime.reset();
+    slots.exifDateTimeOriginalOLD = slots.exifDateTimeDigitizedOLD = std::nullopt;
+    slots.fileCreationDateOLD = utc(2024, 6, 1, 15, 59, 57);
     pic->spType = SpTypeTiffDateTime;
-    pic->slots.fileCreationDateOLD = utc(2024, 6, 1, 15, 59, 57);
-    assign("America/Lima", ""); // the stamp now means 17:00 UTC
-    EXPECT_TRUE(update(3603));
-    EXPECT_EQ(pic->spType, SpTypeTiffDateTime);
-    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 17));
-    EXPECT_TRUE(update(3602));
-    EXPECT_EQ(pic->spType, SpTypeTiffYoungerThanFile);
-    EXPECT_EQ(pic->spDateTimeOriginal, pic->slots.fileCreationDateOLD);
-    EXPECT_EQ(pic->slots.tiffDateTimeOLD, utc(2024, 6, 1, 17));
-    assign("", "");
-    EXPECT_TRUE(update(3602));
-    EXPECT_EQ(pic->spType, SpTypeTiffDateTime);
-    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 10));
+    const struct {
+        const char *source;
+        int threshold;
+        SpType type;
+        Date mainDate;
+    } rows[] = {
+        {"Lima", 3603, SpTypeTiffDateTime, utc(2024, 6, 1, 17)},
+        {"Lima", 3602, SpTypeTiffYoungerThanFile, *slots.fileCreationDateOLD},
+        {"-", 3602, SpTypeTiffDateTime, morning},
+    };
+    for (const auto &row : rows) {
+        assign(std::string(row.source) + " - - -");
+        EXPECT_TRUE(update(row.threshold));
+        EXPECT_EQ(pic->spType, row.type) << row.source << row.threshold;
+        EXPECT_EQ(pic->spDateTimeOriginal, row.mainDate) << row.source << row.threshold;
+        EXPECT_EQ(slots.tiffDateTimeOLD, row.mainDate == morning ? morning : utc(2024, 6, 1, 17));
+    }
 }
 
 TEST_F(TimezoneUpdate, TheDependentIsReadInTheSameZone) {
-    const auto jpeg = addItem(folder, SpTypeExifOriginal, utc(2024, 6, 1, 10));
-    jpeg->singlePicAttributes = pic->singlePicAttributes;
-    jpeg->slots = pic->slots;
+    const auto jpeg = addItem(folder, SpTypeExifOriginal, morning);
+    jpeg->singlePicAttributes = attributes;
+    jpeg->slots = slots;
     makeDependent(jpeg, pic);
-    assign("", "", "Asia/Tokyo", "");
+    assign("- - Tokyo -");
     EXPECT_TRUE(update());
     EXPECT_EQ(jpeg->spDateTimeOriginal, utc(2024, 6, 1, 3));
     const Zone lima = zone("America/Lima");
@@ -96,25 +100,136 @@ TEST_F(TimezoneUpdate, TheDependentIsReadInTheSameZone) {
 }
 
 TEST_F(TimezoneUpdate, AnAlternativeReadingStaysOnlyWhereTheStampIsAmbiguous) {
-    SinglePicAttributes &attributes = pic->singlePicAttributes;
+    const Date summer = utc(2024, 10, 27, 0, 30);
     attributes.exifDateTimeOriginal = attributes.exifDateTimeDigitized =
         located("2024:10:27 02:30:00");
     pic->zones.usesAltTimeAtAmbiguityReason = 1;
     update();
-    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 10, 27, 0, 30)); // summer time, as chosen
-    EXPECT_EQ(pic->slots.exifDateTimeDigitizedOLD, utc(2024, 10, 27, 0, 30));
-    assign("Asia/Tokyo", "");
-    update();
+    EXPECT_EQ(pic->spDateTimeOriginal, summer); // as chosen
+    EXPECT_EQ(slots.exifDateTimeDigitizedOLD, summer);
+    updateFrom("Tokyo");
     EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 10, 26, 17, 30));
     EXPECT_EQ(pic->zones.dstAmbiguityAtImportState, 0U);
     EXPECT_EQ(pic->zones.usesAltTimeAtAmbiguityReason, 1);
-    assign("", "");
-    update();
-    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 10, 27, 0, 30));
+    updateFrom("-");
+    EXPECT_EQ(pic->spDateTimeOriginal, summer);
     // The main date's own stamp decides, not one of the others.
     attributes.exifOffsetTimeOriginal = located("+02:00");
     update();
-    EXPECT_EQ(pic->slots.exifDateTimeDigitizedOLD, utc(2024, 10, 27, 1, 30));
+    EXPECT_EQ(slots.exifDateTimeDigitizedOLD, summer + absl::Hours(1));
+}
+
+/// A photo whose dates come from XMP: a wall clock and a stamp with a zone.
+class XmpItem : public TimezoneUpdate {
+protected:
+    void SetUp() override {
+        take("2024-06-01T12:00:00");
+        pic->xmp = {.isCreaXmp = true, .isDigiXmp = true};
+        slots.exifDateTimeOriginalOLD = pic->spDateTimeOriginal = morning;
+        slots.exifDateTimeDigitizedOLD = utc(2024, 6, 1, 6, 30);
+    }
+    void take(const std::string &creation) {
+        attributes.xmpDateInfos.stamps = {
+            {XmpProperty::PhotoshopDateCreated, located(creation), XmpStampType::Local, 0},
+            {XmpProperty::XmpCreateDate, located("2024-06-01T12:00:00+0530"), XmpStampType::Zoned,
+             kXmpZoneWithoutColon}};
+        for (XmpStamp &stamp : attributes.xmpDateInfos.stamps)
+            stamp.value.data.pop_back(); // text of XMP ends without a zero byte
+    }
+};
+
+TEST_F(XmpItem, AWallClockMovesWithTheSourceZoneAndAStampWithAZoneStays) {
+    EXPECT_FALSE(update());
+    EXPECT_TRUE(updateFrom("Tokyo"));
+    EXPECT_EQ(slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 3));
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
+    EXPECT_EQ(slots.exifDateTimeDigitizedOLD, utc(2024, 6, 1, 6, 30));
+    EXPECT_EQ(sourceZoneForSlot(*pic, StampSlot::Digitized, *folder, zones).name, "+05:30");
+}
+
+TEST_F(XmpItem, AWallClockInTheRepeatedOrSkippedHourIsSeen) {
+    const unsigned original = bit(StampSlot::Original);
+    const std::tuple<const char *, unsigned, unsigned> rows[] = {
+        {"2024-10-27T02:30:00", original, 0U},
+        {"2024-03-31T02:30:00", 0U, original},
+        {"2024-06-01T12:00:00", 0U, 0U}};
+    for (const auto &[creation, ambiguity, divergence] : rows) {
+        take(creation);
+        update();
+        EXPECT_EQ(pic->zones.dstAmbiguityAtImportState, ambiguity) << creation;
+        EXPECT_EQ(pic->zones.dstDivergenceState, divergence) << creation;
+    }
+}
+
+/// A movie whose header was written at noon of a wall clock.
+class MovieZones : public TimezoneUpdate {
+protected:
+    void SetUp() override {
+        pic->spType = SpTypeMovieMvhdCreation;
+        setTime(attributes.qtMvhdCreaDate, noon);
+        setTime(attributes.qtMvhdModDate, utc(2024, 6, 1, 13));
+        slots.fileCreationDateOLD = utc(2024, 6, 1, 12, 30);
+    }
+    static void setTime(std::optional<LocatedBytes> &value, Date date) {
+        value =
+            LocatedBytes{100, 4, *mvhdDataFromDate(date, MvhdCorrection::Off, absl::UTCTimeZone())};
+    }
+};
+
+TEST_F(MovieZones, headerTimesMoveWithTheZoneOnlyWhereTheyAreLocal) {
+    updateFrom("Tokyo");
+    EXPECT_EQ(slots.exifDateTimeOriginalOLD, noon);
+    EXPECT_EQ(setQuicktimeMVHDTimezoneCorrection(*folder, true, zones, 3), 1U);
+    EXPECT_EQ(slots.exifDateTimeOriginalOLD, utc(2024, 6, 1, 3));
+    EXPECT_EQ(slots.tiffDateTimeOLD, utc(2024, 6, 1, 4));
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
+    EXPECT_EQ(setQuicktimeMVHDTimezoneCorrection(*folder, true, zones, 3), 0U);
+    for (const SpType type : {SpTypeMovieMdta, SpTypeMovieEmptyFileDate, SpTypeMovieEmptyFixedDate,
+                              SpTypeMovieFileDate}) { // nor metadata dates and empty times
+        pic->spType = type;
+        slots.exifDateTimeOriginalOLD = pic->spDateTimeOriginal = morning;
+        update();
+        EXPECT_EQ(slots.exifDateTimeOriginalOLD, morning) << int(type);
+    }
+}
+
+TEST_F(MovieZones, aLoneModificationTimeGivesWayToAnOlderFile) {
+    attributes.qtMvhdCreaDate.reset();
+    pic->spType = SpTypeMovieMvhdModification;
+    update();
+    EXPECT_EQ(pic->spType, SpTypeMovieMvhdYoungerThanFile);
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 12, 30));
+    EXPECT_EQ(slots.tiffDateTimeOLD, utc(2024, 6, 1, 13));
+    // Read in Tokyo the time lies before the file's, and counts again.
+    folder->isQuicktimeMVHDTimezoneCorrectionEnabled = true;
+    updateFrom("Tokyo");
+    EXPECT_EQ(pic->spType, SpTypeMovieMvhdModification);
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 4));
+}
+
+TEST_F(MovieZones, aWallClockThatOccursTwiceIsAmbiguousWhereItIsLocal) {
+    // 02:30 in Berlin, read as the later of its two instants.
+    const Date earlier = utc(2024, 10, 27, 0, 30);
+    setTime(attributes.qtMvhdCreaDate, utc(2024, 10, 27, 2, 30));
+    attributes.riffCreaDate = located("Sun Oct 27 02:30:00 2024\n");
+    const std::tuple<SpType, bool, bool> rows[] = {{SpTypeMovieMvhdCreation, true, true},
+                                                   {SpTypeMovieMvhdCreation, false, false},
+                                                   {SpTypeMovieMdta, true, false},
+                                                   {SpTypeMovieRiff, false, true}};
+    for (const auto &[type, correction, isAmbiguous] : rows) {
+        pic->spType = type;
+        folder->isQuicktimeMVHDTimezoneCorrectionEnabled = correction;
+        update();
+        EXPECT_EQ(hasDSTAmbiguityForDate(*pic, earlier, ExportDate::Main,
+                                         zone("Europe/Berlin").rules, DSTPreFilter::On),
+                  isAmbiguous);
+        EXPECT_EQ(isDateSourceAmbiguousAtImport(*pic), isAmbiguous) << int(type);
+        EXPECT_EQ(pic->zones.dstDivergenceState, 0U) << int(type);
+    }
+    // The earlier instant, once chosen, stays.
+    pic->zones.usesAltTimeAtAmbiguityReason = 1;
+    update();
+    EXPECT_EQ(pic->spDateTimeOriginal, earlier);
 }
 
 } // namespace
