@@ -76,23 +76,17 @@ TEST_F(ItemFilling, ModificationStampYoungerThanTheFileGivesWayBeyondTheThreshol
 }
 
 TEST_F(ItemFilling, NotesStampsInTheWrongOrder) {
-    const struct {
-        const char *original, *digitized, *modified;
-        bool isOutOfOrder;
-    } cases[] = {{":01", ":01", ":02", false},
-                 {":02", ":01", ":03", true},
-                 {":01", ":03", ":02", true},
-                 {":02", nullptr, ":01", true},
-                 {":02", nullptr, nullptr, false}};
-    const auto stamp = [](const char *seconds) -> std::optional<std::string> {
-        return seconds ? std::optional("2024:05:06 07:08" + std::string(seconds)) : std::nullopt;
+    const auto stamp = [](char second) {
+        return second == '-' ? std::nullopt
+                             : std::optional("2024:05:06 07:08:0" + std::string(1, second));
     };
-    for (const auto &each : cases) {
-        const auto pic = filled({.original = stamp(each.original),
-                                 .digitized = stamp(each.digitized),
-                                 .modified = stamp(each.modified)},
-                                SpTypeExifOriginal);
-        EXPECT_EQ(pic->save.normalizationType, each.isOutOfOrder ? 1U : 0U) << each.original;
+    // Seconds of original, digitized, modified, and whether they are out of order.
+    for (const std::string row : {"112 0", "213 1", "132 1", "2-1 1", "2-- 0"}) {
+        const PhotoFields fields{
+            .original = stamp(row[0]), .digitized = stamp(row[1]), .modified = stamp(row[2])};
+        EXPECT_EQ(filled(fields, SpTypeExifOriginal)->save.normalizationType,
+                  row.back() == '1' ? 1U : 0U)
+            << row;
     }
 }
 
@@ -107,48 +101,29 @@ TEST_F(ItemFilling, CompletesALoneGpsStampOnlyForItemsWithAnExifDate) {
 }
 
 TEST_F(ItemFilling, TurnsCoordinatesIntoDegrees) {
-    const std::vector<Rational> zero{{0, 1}, {0, 1}, {0, 1}};
-    const struct {
-        const char *name, *latitudeRef, *longitudeRef;
-        std::vector<Rational> latitude, longitude;
-        std::optional<std::pair<double, double>> expected;
-    } cases[] = {
-        {"north east",
-         "N",
-         "E",
-         {{48, 1}, {30, 1}, {36, 1}},
-         {{2, 1}, {15, 1}, {0, 1}},
-         {{48.51, 2.25}}},
-        {"south west",
-         "S",
-         "W",
-         {{33, 1}, {3051, 100}, {0, 1}},
-         {{70, 1}, {0, 1}, {0, 0}},
-         {{-33.5085, -70}}},
-        {"nowhere", "N", "E", zero, zero, {}},
-        {"on the equator", "N", "E", zero, {{9, 1}, {0, 1}, {0, 1}}, {{0, 9}}},
-        {"beyond the pole", "N", "E", {{90, 1}, {1, 1}, {0, 1}}, zero, {}},
-        {"at the date line",
-         "N",
-         "W",
-         {{1, 1}, {0, 1}, {0, 1}},
-         {{180, 1}, {0, 1}, {0, 1}},
-         {{1, -180}}},
-        {"divided by zero", "N", "E", {{48, 0}, {30, 1}, {36, 1}}, zero, {}},
-    };
-    for (const auto &each : cases) {
+    using Rationals = std::vector<Rational>;
+    using Degrees = std::pair<double, double>;
+    const auto expectDegrees = [&](const char *refs, Rationals latitude, Rationals longitude,
+                                   std::optional<Degrees> expected) {
         PhotoFields fields = fullPhotoFields(Endian::Motorola);
-        fields.location->latitudeRef = each.latitudeRef;
-        fields.location->longitudeRef = each.longitudeRef;
-        fields.location->latitude = each.latitude;
-        fields.location->longitude = each.longitude;
-        const auto pic = filled(fields, SpTypeExifOriginal);
-        ASSERT_EQ(pic->hasLocation(), each.expected.has_value()) << each.name;
-        if (each.expected) {
-            EXPECT_NEAR(*pic->location.gpsLat, each.expected->first, 1e-9) << each.name;
-            EXPECT_NEAR(*pic->location.gpsLong, each.expected->second, 1e-9) << each.name;
-        }
-    }
+        fields.location->latitudeRef = refs[0];
+        fields.location->longitudeRef = refs[1];
+        fields.location->latitude = std::move(latitude);
+        fields.location->longitude = std::move(longitude);
+        const auto place = filled(fields, SpTypeExifOriginal)->location;
+        ASSERT_EQ(place.gpsLat.has_value(), expected.has_value());
+        EXPECT_NEAR(place.gpsLat.value_or(0), expected.value_or(Degrees()).first, 1e-9);
+        EXPECT_NEAR(place.gpsLong.value_or(0), expected.value_or(Degrees()).second, 1e-9);
+    };
+    const Rationals zero{{0, 1}, {0, 1}, {0, 1}};
+    expectDegrees("NE", {{48, 1}, {30, 1}, {36, 1}}, {{2, 1}, {15, 1}, {0, 1}}, {{48.51, 2.25}});
+    expectDegrees("SW", {{33, 1}, {3051, 100}, {0, 1}}, {{70, 1}, {0, 1}, {0, 0}},
+                  {{-33.5085, -70}});
+    expectDegrees("NE", zero, {{9, 1}, {0, 1}, {0, 1}}, {{0, 9}});
+    expectDegrees("NW", {{1, 1}, {0, 1}, {0, 1}}, {{180, 1}, {0, 1}, {0, 1}}, {{1, -180}});
+    expectDegrees("NE", zero, zero, {});                        // nowhere
+    expectDegrees("NE", {{90, 1}, {1, 1}, {0, 1}}, zero, {});   // beyond the pole
+    expectDegrees("NE", {{48, 0}, {30, 1}, {36, 1}}, zero, {}); // divided by zero
 }
 
 TEST_F(ItemFilling, RefreshReadsTheFileAgain) {
