@@ -60,24 +60,27 @@ protected:
         return m_disk.write(name, little::jpegPhoto(fields).bytes);
     }
 
-    OpenFolderResult open(const std::string &path, MySingleFolderPtr *folder = nullptr) {
+    OpenFolderResult open(const std::string &path, MySingleFolderPtr *folder = nullptr,
+                          const KeyStates &keyStates = {}) {
         FolderRequest request;
         request.path = path;
+        request.keyStates = keyStates;
         return app().addFolder(request, folder);
     }
 
-    ImportOutcome import(const MySingleFolderPtr &folder) {
+    ImportOutcome import(const MySingleFolderPtr &folder, const KeyStates &keyStates = {}) {
         ImportRequest request;
         request.folder = folder;
+        request.keyStates = keyStates;
         return waitFor<ImportOutcome>(
             [&](auto finished) { app().startImport(std::move(request), finished); });
     }
 
     /// Opens and imports a folder and builds the visible list.
-    MySingleFolderPtr openAndImport(const std::string &path) {
+    MySingleFolderPtr openAndImport(const std::string &path, const KeyStates &keyStates = {}) {
         MySingleFolderPtr folder;
-        EXPECT_EQ(open(path, &folder), OpenFolderResult::Opened);
-        import(folder);
+        EXPECT_EQ(open(path, &folder, keyStates), OpenFolderResult::Opened);
+        import(folder, keyStates);
         app().buildNewSource();
         return folder;
     }

@@ -61,23 +61,11 @@ TEST_F(Import, FinishesOnTheMainThreadWithEverythingCounted) {
     EXPECT_THAT(namesOf(app().source_full()), ElementsAre("b.jpg", "a.jpg"));
 }
 
-TEST_F(Import, SecondImportOfAFolderAddsOnlyNewNames) {
-    writePhoto("trip/a.jpg");
-    const MySingleFolderPtr folder = openAndImport(disk().path("trip"));
-    writePhoto("trip/b.jpg");
-    const ImportOutcome outcome = import(folder);
-    EXPECT_THAT(namesOf(outcome.items), ElementsAre("b.jpg"));
-    EXPECT_TRUE(outcome.skipped.empty());
-    EXPECT_EQ(folder->sfPics, 2);
-}
-
 TEST_F(Import, AMovieClockToldLaterReadsTheMoviesAgain) {
     disk().write("trip/a.mov", little::movie().bytes); // 2020-04-17 16:03:47 in its header
-    MySingleFolderPtr folder;
     KeyStates keyStates;
     keyStates.adaptedZone.source = ZoneChoice::named(*app().zones().zoneWithName("Asia/Tokyo"));
-    ASSERT_EQ(app().addFolder({disk().path("trip"), keyStates}, &folder), OpenFolderResult::Opened);
-    import(folder);
+    const MySingleFolderPtr folder = openAndImport(disk().path("trip"), keyStates);
     const Date asUtc = folder->sfPicDetails_fullArray.at(0)->spDateTimeOriginal;
     EXPECT_EQ(app().setMovieClock(*folder, true), 1U);
     EXPECT_EQ(folder->sfFrom, asUtc - absl::Hours(9));
@@ -90,40 +78,7 @@ TEST_F(Import, OneFileInTwoFoldersIsOneItem) {
     std::filesystem::create_directory(disk().path("copies"));
     ASSERT_EQ(::link(photo.c_str(), disk().path("copies/b.jpg").c_str()), 0);
     openAndImport(disk().path("canon"));
-    MySingleFolderPtr copies;
-    ASSERT_EQ(open(disk().path("copies"), &copies), OpenFolderResult::Opened);
-    const ImportOutcome outcome = import(copies);
-    EXPECT_TRUE(outcome.items.empty());
-    ASSERT_EQ(outcome.skipped.size(), 1U);
-    EXPECT_EQ(outcome.skipped[0].reason, SkipReason::SameFileTwice);
-}
-
-TEST_F(Import, SourceZoneAloneChangesNoFile) {
-    writePhoto("trip/a.jpg");
-    FolderRequest request;
-    request.path = disk().path("trip");
-    request.keyStates.adaptedZone.source =
-        ZoneChoice::named(*app().zones().zoneWithName("Asia/Tokyo"));
-    MySingleFolderPtr folder;
-    ASSERT_EQ(app().addFolder(request, &folder), OpenFolderResult::Opened);
-    import(folder);
-    app().buildNewSource();
-    EXPECT_EQ(folder->sfPicDetails_fullArray.at(0)->spDateTimeOriginal,
-              absl::FromCivil(absl::CivilSecond(2024, 5, 5, 22, 8, 9), absl::UTCTimeZone()));
-    EXPECT_FALSE(folder->isUnsavedFolder());
-    EXPECT_TRUE(preProcess().items.empty());
-}
-
-TEST_F(Import, CancelledImportKeepsWhatItRead) {
-    writePhoto("trip/a.jpg");
-    MySingleFolderPtr folder;
-    ASSERT_EQ(open(disk().path("trip"), &folder), OpenFolderResult::Opened);
-    app().cancellation().request();
-    const ImportOutcome outcome = import(folder);
-    EXPECT_TRUE(outcome.wasCancelled);
-    EXPECT_EQ(folder->sfPics, 0);
-    ASSERT_EQ(outcome.skipped.size(), 1U);
-    EXPECT_EQ(outcome.skipped[0].reason, SkipReason::Cancelled);
+    EXPECT_TRUE(openAndImport(disk().path("copies"))->sfPicDetails_fullArray.empty());
 }
 
 TEST_F(Import, ControllerMayGoWhileAnImportRuns) {

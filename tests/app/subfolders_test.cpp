@@ -13,18 +13,8 @@ using testing::ElementsAre;
 class Subfolders : public AppSession {
 protected:
     ImportOutcome importTrip() {
-        FolderRequest request;
-        request.path = disk().path("trip");
-        request.keyStates = choices;
-        EXPECT_EQ(app().addFolder(request, &trip), OpenFolderResult::Opened);
-        return importAgain();
-    }
-    ImportOutcome importAgain() {
-        ImportRequest request;
-        request.folder = trip;
-        request.keyStates = choices;
-        return waitFor<ImportOutcome>(
-            [&](auto finished) { app().startImport(std::move(request), finished); });
+        EXPECT_EQ(open(disk().path("trip"), &trip, choices), OpenFolderResult::Opened);
+        return import(trip, choices);
     }
     void link(const std::string &target, const std::string &name) {
         std::filesystem::create_directory_symlink(disk().path(target), disk().path(name));
@@ -86,7 +76,7 @@ TEST_F(Subfolders, ASecondImportTakesOnlyNewNames) {
     importTrip();
     writePhoto("trip/b.jpg");
     writePhoto("trip/later/a.jpg");
-    EXPECT_EQ(importAgain().items.size(), 1U);
+    EXPECT_EQ(import(trip, choices).items.size(), 1U);
     EXPECT_THAT(session(), ElementsAre("trip 2", "trip/inside 1"));
 }
 
