@@ -48,17 +48,15 @@ TEST(ZonesTest, KnowsTheDatabaseByItsNamesAndNothingElse) {
 }
 
 TEST(ZonesTest, OffsetsOfWholeMinutesAreZonesUpToEighteenHours) {
-    const Zones zones;
-    const std::pair<const char *, int> offsets[] = {{"+00:00", 0},      {"+05:30", 19800},
-                                                    {"-03:30", -12600}, {"-00:30", -1800},
-                                                    {"+18:00", 64800},  {"-18:00", -64800}};
-    for (const auto &[name, seconds] : offsets) {
-        const auto zone = zones.zoneWithName(name);
-        ASSERT_TRUE(zone) << name;
+    const std::tuple<const char *, const char *, int> offsets[] = {
+        {"+00:00", "+00:00", 0},     {"-00:00", "+00:00", 0},     {"+05:30", "+05:30", 19800},
+        {"-00:30", "-00:30", -1800}, {"+18:00", "+18:00", 64800}, {"-18:00", "-18:00", -64800}};
+    for (const auto &[given, name, seconds] : offsets) {
+        const auto zone = Zones().zoneWithName(given);
+        ASSERT_TRUE(zone) << given;
         EXPECT_EQ(zone->name, name);
         EXPECT_EQ(zone->rules.At(absl::UnixEpoch()).offset, seconds);
     }
-    EXPECT_EQ(zones.zoneWithName("-00:00")->name, "+00:00");
 }
 
 TEST(ZonesTest, ReadsNamesFromTheCompiledDatabaseAndFromItsSourceText) {
@@ -81,9 +79,7 @@ TEST(ZonesTest, SuggestsNamesThatLookLikeTheOneGiven) {
         {"Europe/Berln", "Europe/Berlin"},       {"new york", "America/New_York"},
         {"Asia/Vancouver", "America/Vancouver"}, {"Tokio", "Asia/Tokyo"}};
     for (const auto &[given, expected] : best) {
-        const auto names = zones.namesNear(given, 3);
-        ASSERT_THAT(names, Not(IsEmpty())) << given;
-        EXPECT_EQ(names.front(), expected) << given;
+        EXPECT_THAT(zones.namesNear(given, 1), ElementsAre(expected)) << given;
     }
     EXPECT_THAT(zones.namesNear("Indiana/", 3), IsEmpty());
     EXPECT_THAT(zones.namesNear("Xyzzyplugh", 3), IsEmpty());
