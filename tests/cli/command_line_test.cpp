@@ -50,6 +50,13 @@ TEST_F(CommandLineUse, MistakesAreNamedAndNothingIsWritten) {
     expectUsageError({"save", "--folder", canon, "--shift", "60", path("missing")},
                      "Nothing was written");
     expectUsageError({"list", "--language", "fr", canon}, "fr");
+    for (const char *option : {"--target-zone", "--source-zone"})
+        expectUsageError({"save", "--folder", canon, option, "Europe/Berln"}, "Europe/Berlin");
+    expectUsageError({"list", "--system-zone", "Europe/Berln", canon}, "Europe/Berlin");
+    expectUsageError({"list", "--folder", canon, "--source-zone", "own"}, "no time zone own");
+    expectUsageError({"list", "--set", "nothing=1", canon}, "no preference nothing");
+    expectUsageError({"list", "--set", "dateChangeEXIFEXIFDigiDate=7", canon}, "accepts");
+    expectUsageError({"list", "--set", "dateChangeEXIFEXIFDigiDate", canon}, "KEY=VALUE");
 }
 
 TEST_F(CommandLineUse, OneFolderTwiceIsAMistakeUnderWhateverPath) {
@@ -58,21 +65,6 @@ TEST_F(CommandLineUse, OneFolderTwiceIsAMistakeUnderWhateverPath) {
     expectUsageError({"save", "--folder", path("canon"), "--shift", "1", path("link")},
                      "given twice");
     expectUsageError({"list", m_photo, path("link")}, "given twice");
-}
-
-TEST_F(CommandLineUse, UnknownZonesNameSimilarOnes) {
-    const std::string canon = path("canon");
-    for (const char *option : {"--target-zone", "--source-zone"})
-        expectUsageError({"save", "--folder", canon, option, "Europe/Berln"}, "Europe/Berlin");
-    expectUsageError({"list", "--system-zone", "Europe/Berln", canon}, "Europe/Berlin");
-    expectUsageError({"list", "--folder", canon, "--source-zone", "own"}, "no time zone own");
-}
-
-TEST_F(CommandLineUse, SettingsOutsideTheirTableAreRefused) {
-    const std::string canon = path("canon");
-    expectUsageError({"list", "--set", "nothing=1", canon}, "no preference nothing");
-    expectUsageError({"list", "--set", "dateChangeEXIFEXIFDigiDate=7", canon}, "accepts");
-    expectUsageError({"list", "--set", "dateChangeEXIFEXIFDigiDate", canon}, "KEY=VALUE");
 }
 
 TEST_F(CommandLineUse, HelpAndVersionEndWell) {

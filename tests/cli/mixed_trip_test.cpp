@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "LittleMovie.h"
+#include "LittleLivePhoto.h"
 #include "MendRun.h"
 
 #include <gmock/gmock.h>
@@ -15,14 +15,7 @@ class MixedTrip : public MendTest {
 protected:
     MixedTrip() {
         writeZonedPhoto("trip/live.jpg", "2024:05:06 07:08:09", "+00:00");
-        little::MovieFields half;
-        half.date = "2024-05-06T07:08:07+0000";
-        half.make = "Little";
-        half.model = "Little One";
-        half.contentIdentifier = "shot";
-        half.tracks = {
-            little::metadataTrack("com.apple.quicktime.still-image-time", {{900, -1}, {100, 0}})};
-        disk().write("trip/live.mov", little::movie(half).bytes);
+        disk().write("trip/live.mov", little::liveMovie());
         disk().write("trip/live.xmp", "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"></x:xmpmeta>");
         disk().write("trip/inside/clip.mov", little::movie().bytes); // 2020-04-17 16:03:47
         writePhoto("trip/inside/deep/2.jpg", "2024:05:06 10:00:00");
