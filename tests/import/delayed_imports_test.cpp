@@ -89,11 +89,5 @@ TEST_F(DelayedImportsTest, AFolderWithAChangeOfItsOwnKeepsIt) {
     EXPECT_EQ(fixed->spDateTimeOriginal, start + absl::Minutes(10));
 }
 
-TEST(DateSequenceTest, Steps) {
-    using enum DateSequence::StepperKind;
-    for (const auto &[kind, seconds] : {std::pair{Seconds, 7}, {Minutes, 420}, {Hours, 25200}})
-        EXPECT_EQ((DateSequence{{}, 7, kind}.step()), absl::Seconds(seconds));
-}
-
 } // namespace
 } // namespace chronomender

@@ -89,18 +89,7 @@ TEST_F(LateCompletionTest, MoviesTakeWhatTheirHeaderDidNotTell) {
     EXPECT_FALSE(lacksCamera(*pic));
 }
 
-/// The image library and our own reader, looking at the same file.
-class SecondOpinionTest : public ImportTest {};
-
-TEST_F(SecondOpinionTest, AgreesOnCameraAndLocation) {
-    initialiseImaging();
-    const std::string path = photo("a.jpg", little::fullPhotoFields());
-    const MySinglePicPtr pic = import().items.at(0);
-    const auto found = readPropertyDictionary(path);
-    ASSERT_TRUE(found && found->gps);
-    EXPECT_EQ(completeMakerModelString(found->make, found->model), pic->camera.pivMakeModel);
-    EXPECT_NEAR(found->gps->latitude, pic->location.gpsLat.value_or(0), 1e-9);
-}
+using SecondOpinionTest = ImportTest;
 
 TEST_F(SecondOpinionTest, IsThatOfThePreviewWhereARawFileSaysNothing) {
     initialiseImaging();
