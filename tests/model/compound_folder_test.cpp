@@ -26,6 +26,7 @@ TEST_F(CompoundFolder, AddsUpCountsAndJoinsLists) {
     EXPECT_EQ(both.unsavedImagesCount(), 1);
     EXPECT_TRUE(both.isUnsavedFolder());
     EXPECT_EQ(both.sfPicDetails_fullArray(), (std::vector{first, second}));
+    EXPECT_EQ(both.sfFolder(), "Compound folder with 2 \"subfolders\"");
 }
 
 TEST_F(CompoundFolder, SpansFromTheEarliestToTheLatest) {

@@ -49,6 +49,8 @@ TEST(ItemNames, EveryNewItemTakesAFreshIdAndOutlivesItsFolder) {
     const auto first = addItem(folder, SpTypeExifOriginal, utc(2024, 6, 1));
     EXPECT_LT(first->sessionUniqueId,
               addItem(folder, SpTypeExifOriginal, utc(2024, 6, 1))->sessionUniqueId);
+    folder->folderSortGeneral = 7;
+    EXPECT_EQ(first->spCategory(), 7);
     folder.reset();
     EXPECT_EQ(first->spSingleRealFolder(), nullptr);
     EXPECT_EQ(first->spPath(), "IMG_1.JPG");
