@@ -20,6 +20,11 @@ namespace chronomender {
 using Json = nlohmann::json;
 using Arguments = std::vector<std::string>;
 
+inline Arguments joined(Arguments first, const Arguments &more) {
+    first.insert(first.end(), more.begin(), more.end());
+    return first;
+}
+
 struct RunResult {
     int exitCode = -1;
     std::string output, errors;
@@ -42,8 +47,7 @@ public:
     StartedProgram(const std::string &program, const Arguments &arguments,
                    const std::string &workFolder, User user = User::Same)
         : m_user(user), m_output(workFolder + "/output"), m_errors(workFolder + "/errors") {
-        std::vector<std::string> all{program};
-        all.insert(all.end(), arguments.begin(), arguments.end());
+        Arguments all = joined({program}, arguments);
         std::vector<char *> pointers;
         for (std::string &argument : all)
             pointers.push_back(argument.data());

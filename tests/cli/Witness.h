@@ -14,19 +14,10 @@ public:
     static bool isAvailable() { return std::system("exiftool -ver >/dev/null 2>&1") == 0; }
 
     explicit Witness(const Arguments &paths) {
-        Arguments arguments{"-j",
-                            "-G1",
-                            "-a",
-                            "-s",
-                            "-n",
-                            "-q",
-                            "-DateTimeOriginal",
-                            "-CreateDate",
-                            "-ModifyDate",
-                            "-OffsetTime",
-                            "-OffsetTimeOriginal",
-                            "-OffsetTimeDigitized"};
-        arguments.insert(arguments.end(), paths.begin(), paths.end());
+        const Arguments tags{"-DateTimeOriginal", "-CreateDate",         "-ModifyDate",
+                             "-OffsetTime",       "-OffsetTimeOriginal", "-OffsetTimeDigitized"};
+        const Arguments arguments =
+            joined(joined({"-j", "-G1", "-a", "-s", "-n", "-q"}, tags), paths);
         const little::TemporaryFolder work;
         const RunResult run = StartedProgram("exiftool", arguments, work.path()).wait();
         for (const Json &entry : Json::parse(run.output))

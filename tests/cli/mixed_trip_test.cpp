@@ -22,9 +22,9 @@ protected:
     }
 
     std::vector<Json> list(const Arguments &options) const {
-        Arguments arguments{"list", "--json", "--system-zone", "UTC", "--folder", path("trip")};
-        arguments.insert(arguments.end(), options.begin(), options.end());
-        return mend(arguments).lines();
+        return mend(joined({"list", "--json", "--system-zone", "UTC", "--folder", path("trip")},
+                           options))
+            .lines();
     }
 };
 
@@ -84,10 +84,8 @@ TEST_F(MixedTrip, FiltersKeepOrLeaveOutExtensions) {
 TEST_F(MixedTrip, MovieOptionsSayWhichDateCountsAndWhatItMeans) {
     const Arguments inside{"--filter-ext", "mov", "--subfolders", "1"};
     const auto dates = [&](const Arguments &options) {
-        Arguments all = inside;
-        all.insert(all.end(), options.begin(), options.end());
         std::vector<std::string> found;
-        for (const Json &line : list(all))
+        for (const Json &line : list(joined(inside, options)))
             found.push_back(line.at("date"));
         return found;
     };

@@ -33,10 +33,11 @@ TEST_F(MendTest, PairsAreOneLineOfTheListAndTwoSavedFiles) {
     const RunResult run = mend({"save", "--json", "--folder", trip, "--shift", "1:00:00"});
     EXPECT_THAT(savedNames(run), ElementsAre("a.CR2", "a.JPG", "b.JPG", "b.MOV"));
     EXPECT_EQ(run.lines().back().at("summary").at("unchanged"), 0);
-    Arguments single{"save", "--json", "--folder", trip, "--pic", "a.JPG", "--shift", "1:00:00"};
+    const Arguments single{"save",  "--json", "--folder", trip,
+                           "--pic", "a.JPG",  "--shift",  "1:00:00"};
     EXPECT_THAT(savedNames(mend(single)), ElementsAre("a.CR2", "a.JPG"));
-    single.insert(single.end(), {"--pic", "a.CR2", "--shift", "1:00:00"});
-    EXPECT_EQ(mend(single).exitCode, 2) << "the item would move twice";
+    const Arguments twice = joined(single, {"--pic", "a.CR2", "--shift", "1:00:00"});
+    EXPECT_EQ(mend(twice).exitCode, 2) << "the item would move twice";
     if (!Witness::isAvailable())
         GTEST_SKIP() << "exiftool is not installed";
     const Witness witness({raw, jpeg});

@@ -109,12 +109,10 @@ protected:
 
     RunResult save(const std::string &shiftText, const Arguments &forFolders,
                    const Arguments &forRun) const {
-        Arguments arguments{"save", "--json", "--system-zone", "UTC"};
-        arguments.insert(arguments.end(), forRun.begin(), forRun.end());
-        for (const char *kind : kinds) {
-            arguments.insert(arguments.end(), {"--folder", path(kind), "--shift", shiftText});
-            arguments.insert(arguments.end(), forFolders.begin(), forFolders.end());
-        }
+        Arguments arguments = joined({"save", "--json", "--system-zone", "UTC"}, forRun);
+        for (const char *kind : kinds)
+            arguments = joined(joined(arguments, {"--folder", path(kind), "--shift", shiftText}),
+                               forFolders);
         return mend(arguments);
     }
 

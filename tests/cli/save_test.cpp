@@ -56,9 +56,12 @@ TEST_F(Save, DryRunTellsOldDatesAsTheFileDoes) {
     EXPECT_THAT(mend(arguments).output,
                 AllOf(ContainsRegex("2024-05-06 02:00:00 [+]00:00 +→ 2024-05-06 11:00:00 [+]09:00"),
                       ContainsRegex("2024-05-06 02:00:00 -05:00 +→ 2024-05-06 16:00:00 [+]09:00")));
-    Arguments json = arguments;
-    json.push_back("--json");
-    EXPECT_FALSE(mend(json).lines().at(0).at("slots").at("exifDateTimeOriginal").at("stays"));
+    EXPECT_FALSE(mend(joined(arguments, {"--json"}))
+                     .lines()
+                     .at(0)
+                     .at("slots")
+                     .at("exifDateTimeOriginal")
+                     .at("stays"));
 }
 
 TEST_F(Save, SettingsReachTheCalculationAndNowIsAConcreteDate) {
@@ -101,9 +104,7 @@ TEST_F(Save, WithoutCorrectionWritesNothing) {
     for (const Arguments &options :
          {Arguments{}, Arguments{"--shift", "0"}, Arguments{"--source-zone", "Asia/Tokyo"},
           Arguments{"--target-zone", "own"}}) {
-        Arguments arguments{"save", "--folder", path("canon")};
-        arguments.insert(arguments.end(), options.begin(), options.end());
-        const RunResult run = mend(arguments);
+        const RunResult run = mend(joined({"save", "--folder", path("canon")}, options));
         EXPECT_EQ(run.exitCode, 0);
         EXPECT_THAT(run.output, HasSubstr("No file has a correction."));
         EXPECT_EQ(tracesOf(disk().path()), before) << ::testing::PrintToString(options);
@@ -126,9 +127,7 @@ TEST_F(Save, ProblemMustBeAcceptedByItsKey) {
     EXPECT_EQ(tracesOf(disk().path()), before);
 
     auto with = [&](const std::string &key) {
-        Arguments more = arguments;
-        more.insert(more.end(), {"--json", "--accept", key});
-        return mend(more);
+        return mend(joined(arguments, {"--json", "--accept", key}));
     };
     EXPECT_EQ(with("error_01_ambiguousStamp").exitCode, 3); // another key does not do
     EXPECT_EQ(tracesOf(disk().path()), before);
