@@ -143,7 +143,11 @@ private:
     void groupItems() {
         const bool isWanted = m_keyStates.createFileGroups.value_or(
             m_services.defaults.boolForKey("createFileGroups"));
-        if (!isWanted || m_outcome.items.empty())
+        const auto isCandidate = [](const MySinglePicPtr &pic) {
+            return pic->importState.isPossibleBundlePic;
+        };
+        if (!isWanted || (std::ranges::none_of(m_outcome.items, isCandidate) &&
+                          std::ranges::none_of(m_owner->sfPicDetails_fullArray, isCandidate)))
             return;
         std::set<std::string> names;
         for (const MySinglePicPtr &pic : m_outcome.items)
