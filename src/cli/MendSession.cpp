@@ -3,6 +3,7 @@
 
 #include "Commands.h"
 #include "EventLoopWait.h"
+#include "FolderChoices.h"
 #include "ProgressBar.h"
 #include "Texts.h"
 #include "Utf8Text.h"
@@ -44,34 +45,6 @@ std::optional<Complaint> complaintOf(DateChangeOutcome outcome, const std::strin
     if (outcome != DateChangeOutcome::RefusedOutOfBounds)
         return std::nullopt;
     return Complaint{2, text("cli_error_shiftOutOfBounds", {printable(what)})};
-}
-
-std::optional<ExtensionFilter> filterOf(const FolderBlock &block) {
-    if (block.filterExt)
-        return ExtensionFilter{*block.filterExt, ExtensionFilter::Kind::Keep};
-    if (block.filterExtNot)
-        return ExtensionFilter{*block.filterExtNot, ExtensionFilter::Kind::Remove};
-    return std::nullopt;
-}
-
-KeyStates keyStates(const FolderPlan &plan) {
-    KeyStates states;
-    states.sfEditMode = plan.block.picShifts.empty() ? EditMode::Together : EditMode::Single;
-    states.adaptedZone = {plan.sourceZone, plan.targetZone};
-    states.filter = filterOf(plan.block);
-    if (plan.block.subfolderDepth) {
-        states.isSubFolderAutoImportEnabled = *plan.block.subfolderDepth > 0;
-        states.subFolderAutoImportMaxDepth = plan.block.subfolderDepth;
-    }
-    return states;
-}
-
-/// Without a zone the first date is one of the system's.
-DateSequence dateSequence(const EmptyTagsSpec &spec, const Zones &zones) {
-    const PerFolderImportOptions options = importOptions(spec, zones.systemZone().rules);
-    return {options.prefFixDateDate.value_or(Date()),
-            static_cast<int>(absl::ToInt64Seconds(options.step)),
-            DateSequence::StepperKind::Seconds};
 }
 
 void tell(const std::string &message) {
@@ -165,7 +138,7 @@ std::optional<Complaint> MendSession::addFolder(const FolderPlan &plan) {
         failPath(message);
         return std::nullopt;
     }
-    settleMovieOptions(plan.block, *folder);
+    settleMovieOptions(plan.block, m_controller->defaults(), *folder);
     m_importOptions[folder.get()] = plan.importOptions;
     m_folders.push_back(std::move(folder));
     m_plans.push_back(plan);
@@ -280,17 +253,6 @@ std::optional<Complaint> MendSession::shiftSingly(const FolderBlock &block,
 /// Never asked for: every folder says so before its import.
 MovieOptions MendSession::movieOptions(const MySingleFolder &folder) {
     return {folder.isQuicktimeMDTADateEnabled, folder.isQuicktimeMVHDTimezoneCorrectionEnabled};
-}
-
-/// What the block says about movies; where it says nothing, the preferences.
-void MendSession::settleMovieOptions(const FolderBlock &block, MySingleFolder &folder) const {
-    const UserDefaults &defaults = m_controller->defaults();
-    folder.isQuicktimeMDTADateEnabled = block.movieDate ? *block.movieDate == MovieDate::Mdta
-                                                        : defaults.boolForKey("isMDTADateEnabled");
-    folder.isQuicktimeMVHDTimezoneCorrectionEnabled =
-        block.movieClock ? *block.movieClock == MovieClock::Local
-                         : defaults.boolForKey("isMVHDTimezoneCorrectionEnabled");
-    folder.areMovieOptionsSettled = true;
 }
 
 PerFolderImportOptions MendSession::emptyTagOptions(const MySingleFolder &folder) {

@@ -47,7 +47,6 @@ private:
     std::optional<Complaint> applySettings(AppServices &services) const;
     std::optional<Complaint> addFolders(const FolderPlans &plans);
     std::optional<Complaint> addFolder(const FolderPlan &plan);
-    void settleMovieOptions(const FolderBlock &block, MySingleFolder &folder) const;
     void addInnerFolder(const MySingleFolderPtr &folder, const MySingleFolderPtr &parent);
     void importAll(CompletionScope completion);
     void import(const FolderPlan &plan, const MySingleFolderPtr &folder,
