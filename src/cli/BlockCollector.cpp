@@ -17,8 +17,10 @@ struct Word {
     std::string_view word;
     Value value;
 };
-constexpr std::array movieDates{Word{"mdta", MovieDate::Mdta}, Word{"mvhd", MovieDate::Mvhd}};
-constexpr std::array movieClocks{Word{"utc", MovieClock::Utc}, Word{"local", MovieClock::Local}};
+constexpr std::array<Word<MovieDate>, 2> movieDates{
+    {{"mdta", MovieDate::Mdta}, {"mvhd", MovieDate::Mvhd}}};
+constexpr std::array<Word<MovieClock>, 2> movieClocks{
+    {{"utc", MovieClock::Utc}, {"local", MovieClock::Local}}};
 
 template<class Value, std::size_t count>
 std::optional<Value> wordIn(const std::array<Word<Value>, count> &words, std::string_view typed) {

@@ -43,7 +43,7 @@ std::uint32_t numberAt(const Bytes &bytes, std::size_t offset, bool isBigEndian)
 /// "3797491200 (2024-05-01T08:00:00Z)"; the number alone where it stands for no date.
 std::string movieTimeText(std::uint32_t seconds) {
     const absl::Time start = absl::FromCivil(absl::CivilDay(1904, 1, 1), absl::UTCTimeZone());
-    const std::string number = std::to_string(seconds);
+    std::string number = std::to_string(seconds);
     if (seconds == 0)
         return number;
     return number + " (" + utcText(start + absl::Seconds(seconds)) + ')';

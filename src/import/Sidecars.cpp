@@ -72,7 +72,7 @@ MySinglePicPtr ownerOfXmp(const SidecarMatch &match) {
         });
         return found == match.candidates.end() ? nullptr : *found;
     }
-    if (const MySinglePicPtr only = onlyShotOf(match.candidates))
+    if (MySinglePicPtr only = onlyShotOf(match.candidates))
         return only;
     const auto raw = std::ranges::find_if(match.candidates,
                                           [](const MySinglePicPtr &pic) { return pic->isRaw(); });
