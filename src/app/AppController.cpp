@@ -8,6 +8,7 @@
 
 #include <absl/time/clock.h>
 
+#include <set>
 #include <utility>
 
 namespace chronomender {
@@ -65,10 +66,53 @@ DateChangeOutcome AppController::shiftItems(const std::vector<MySinglePicPtr> &i
 
 std::size_t AppController::setMovieClock(MySingleFolder &folder, bool isLocal) {
     const std::size_t changed = setQuicktimeMVHDTimezoneCorrection(
-        folder, isLocal, *m_services.zones, defaults().integerForKey("dateComparisonThresold"));
+        folder, isLocal, *m_services.zones, dateComparisonThresold());
     if (changed > 0)
         sfUpdatePicsFromAndTill(folder);
     return changed;
+}
+
+std::size_t AppController::setZones(MySingleFolder &folder, const ZoneWish &wish) {
+    const std::size_t changed =
+        assignZones(folder, wish, *m_services.zones, dateComparisonThresold());
+    if (changed > 0)
+        sfUpdatePicsFromAndTill(folder);
+    return changed;
+}
+
+std::size_t AppController::setZones(const std::vector<MySinglePicPtr> &items,
+                                    const ZoneWish &wish) {
+    const std::size_t changed =
+        assignZones(items, wish, *m_services.zones, dateComparisonThresold());
+    if (changed > 0)
+        refreshRanges(items);
+    return changed;
+}
+
+std::size_t AppController::useAlternative(const std::vector<MySinglePicPtr> &items,
+                                          AlternativeTarget target, bool isAlternative) {
+    return useAmbiguityAlternative(items, target, isAlternative, *m_services.zones, m_undo);
+}
+
+AlignOutcome AppController::align(AlignCommand command, const AlignSelection &selection) {
+    return realignSelection(command, selection, liveContext(), m_undo);
+}
+
+NewDateContext AppController::liveContext() const {
+    return chronomender::liveContext(*m_services.defaults, m_services.now());
+}
+
+int AppController::dateComparisonThresold() const {
+    return m_services.defaults->integerForKey("dateComparisonThresold");
+}
+
+void AppController::refreshRanges(const std::vector<MySinglePicPtr> &items) {
+    std::set<MySingleFolderPtr> folders;
+    for (const MySinglePicPtr &pic : items)
+        if (MySingleFolderPtr folder = pic->spSingleRealFolder())
+            folders.insert(std::move(folder));
+    for (const MySingleFolderPtr &folder : folders)
+        sfUpdatePicsFromAndTill(*folder);
 }
 
 void AppController::startPreProcess(SaveRequest request, Progress progress,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Alignment.h"
+#include "AlternativeReading.h"
 #include "Cancellation.h"
 #include "FileLayer.h"
 #include "FolderDrag.h"
@@ -10,6 +12,7 @@
 #include "SourceBuilder.h"
 #include "UndoManager.h"
 #include "UserDefaults.h"
+#include "ZoneChange.h"
 #include "Zones.h"
 
 #include <functional>
@@ -80,6 +83,19 @@ public:
     /// reads them again. The number of items that show another date now.
     std::size_t setMovieClock(MySingleFolder &folder, bool isLocal);
 
+    /// Assigns zones to a folder, or to single items of it; see assignZones. The number of items
+    /// that show another date now.
+    std::size_t setZones(MySingleFolder &folder, const ZoneWish &wish);
+    std::size_t setZones(const std::vector<MySinglePicPtr> &items, const ZoneWish &wish);
+    /// Picks the reading of stamps that mean two instants; see useAmbiguityAlternative.
+    std::size_t useAlternative(const std::vector<MySinglePicPtr> &items, AlternativeTarget target,
+                               bool isAlternative);
+    /// Puts a selection in order; see realignSelection.
+    AlignOutcome align(AlignCommand command, const AlignSelection &selection);
+
+    /// What calculations for a display go by.
+    NewDateContext liveContext() const;
+
     /// Stage one of a save; nothing is written.
     void startPreProcess(SaveRequest request, Progress progress,
                          std::function<void(PreProcessResult)> finished);
@@ -88,6 +104,9 @@ public:
                               std::function<void(SaveRunResult)> finished);
 
 private:
+    int dateComparisonThresold() const;
+    static void refreshRanges(const std::vector<MySinglePicPtr> &items);
+
     AppServices m_services;
     Cancellation m_cancellation;
     UndoManager m_undo;

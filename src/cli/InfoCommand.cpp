@@ -14,22 +14,11 @@
 #include "ValueTexts.h"
 #include "ZoneLookup.h"
 
-#include <absl/time/clock.h>
-
 #include <array>
 #include <cstdio>
 
 namespace chronomender {
 namespace {
-
-NewDateContext liveContext(const UserDefaults &defaults) {
-    NewDateContext context;
-    context.options = cachedSaveOptions(defaults, absl::Now(), false);
-    context.dateComparisonThresold = defaults.integerForKey("dateComparisonThresold");
-    context.dateChangeTypeAtLocationOnlyChanges =
-        defaults.integerForKey("dateChangeTypeAtLocationOnlyChanges");
-    return context;
-}
 
 /// "12.5 s", or "" for an item without a duration.
 std::string durationText(double seconds) {
@@ -209,7 +198,7 @@ int runInfo(const CommandLine &line) {
     MendSession session(line);
     if (const auto code = session.open({BadPath::GoOn, CompletionScope::All}))
         return *code;
-    const NewDateContext context = liveContext(session.controller().defaults());
+    const NewDateContext context = session.controller().liveContext();
     const FolderPaths paths(session.folders());
     std::string buffer;
     for (const MySingleFolderPtr &folder : session.folders())

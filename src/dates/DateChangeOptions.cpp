@@ -48,4 +48,13 @@ DateChangeOptions cachedSaveOptions(const UserDefaults &defaults, Date now, bool
     return options;
 }
 
+NewDateContext liveContext(const UserDefaults &defaults, Date now) {
+    NewDateContext context;
+    context.options = cachedSaveOptions(defaults, now, false);
+    context.dateComparisonThresold = defaults.integerForKey("dateComparisonThresold");
+    context.dateChangeTypeAtLocationOnlyChanges =
+        defaults.integerForKey("dateChangeTypeAtLocationOnlyChanges");
+    return context;
+}
+
 } // namespace chronomender

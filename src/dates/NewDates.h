@@ -45,6 +45,9 @@ struct NewDateContext {
     OptionalDate dragDate; ///< the transient date of an interactive drag
 };
 
+/// The context of a display: the preferences as they are now.
+NewDateContext liveContext(const UserDefaults &defaults, Date now);
+
 /// Fills the five NEW slots (and `spDateTimeModified_tempFIX`, in save mode `isAffectedBySave`)
 /// from the item's one corrected date. An unchanged item ends with every NEW equal to its OLD; so
 /// do items that were left alone and items without a correctable date. In save mode the dependent

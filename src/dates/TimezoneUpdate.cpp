@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ZoneLookup.h"
 
+#include "DateDifferences.h"
 #include "DaylightSavingChecks.h"
 #include "ItemDates.h"
 #include "MovieStampConversions.h"
@@ -125,12 +126,12 @@ void readStampsAgain(MySinglePic &pic, const MySingleFolder &folder, const absl:
 /// An alternative reading chosen earlier stays only where the stamp still means two instants.
 void keepAlternativeReading(MySinglePic &pic, const absl::TimeZone &zone) {
     const int chosen = std::exchange(pic.zones.usesAltTimeAtAmbiguityReason, 0);
-    checkImportDivergencyAndAmbiguityUsingZone(pic, zone);
+    validateDateDifferencesUsingTimeZone(pic, zone);
     pic.zones.usesAltTimeAtAmbiguityReason = chosen;
     if (chosen == 0 || !isDateSourceAmbiguousAtImport(pic))
         return;
     reapplyAmbiguityCorrection(pic);
-    checkImportDivergencyAndAmbiguityUsingZone(pic, zone);
+    validateDateDifferencesUsingTimeZone(pic, zone);
 }
 
 } // namespace
