@@ -1,14 +1,104 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ZoneChange.h"
 
-namespace chronomender {
+#include "ZoneLookup.h"
 
-std::size_t assignZones(MySingleFolder &, const ZoneWish &, const Zones &, int) {
-    return 0;
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace chronomender {
+namespace {
+
+using Kind = ZoneChoice::Kind;
+
+bool isSourceAlone(const ZoneWish &wish) {
+    return wish.source && !wish.target;
 }
 
-std::size_t assignZones(const std::vector<MySinglePicPtr> &, const ZoneWish &, const Zones &, int) {
-    return 0;
+/// A target that is there only because the folder's source moved it along, or not at all.
+bool isTargetChosen(const MySingleFolder &folder) {
+    const auto &target = folder.targetTimeZones.folderDefault;
+    return target && !target->is(Kind::UnchangedLeftFolder);
+}
+
+void applyToFolder(const ZoneWish &wish, MySingleFolder &folder) {
+    if (wish.target)
+        folder.targetTimeZones.folderDefault = wish.target;
+    else if (isSourceAlone(wish) && !isTargetChosen(folder))
+        folder.targetTimeZones.folderDefault = ZoneChoice::marker(Kind::UnchangedLeftFolder);
+    if (wish.source)
+        folder.sourceTimeZones.folderDefault = wish.source;
+}
+
+void applyToItem(const ZoneWish &wish, const MySinglePic &pic, MySingleFolder &folder) {
+    if (wish.target)
+        addPicWithZone(pic, *wish.target, folder.targetTimeZones);
+    else if (isSourceAlone(wish) && !hasAssignedTargetZone(pic, folder))
+        addPicWithZone(pic, ZoneChoice::marker(Kind::UnchangedLeft), folder.targetTimeZones);
+    if (wish.source)
+        addPicWithZone(pic, *wish.source, folder.sourceTimeZones);
+}
+
+/// Makes a change, and reads those items again whose source zone is another one afterwards.
+template<class Change>
+std::size_t changeAndReadAgain(MySingleFolder &folder, const std::vector<MySinglePicPtr> &masters,
+                               const Zones &zones, int dateComparisonThresold, Change change) {
+    std::vector<std::string> before;
+    before.reserve(masters.size());
+    for (const MySinglePicPtr &pic : masters)
+        before.push_back(sourceTimeZoneForPic(*pic, folder, zones).name);
+    change();
+    std::size_t changed = 0;
+    for (std::size_t i = 0; i < masters.size(); ++i) {
+        MySinglePic &pic = *masters[i];
+        const Zone &source = sourceTimeZoneForPic(pic, folder, zones);
+        if (source.name != before[i] && updateAllDatesAfterUpdatingTimezoneUsingTimeZone(
+                                            pic, source, folder, zones, dateComparisonThresold))
+            ++changed;
+    }
+    validateTZCUnsaved(folder, zones);
+    return changed;
+}
+
+/// The items a wish is about, each group once, by their folder.
+using ItemsOfFolders = std::vector<std::pair<MySingleFolderPtr, std::vector<MySinglePicPtr>>>;
+
+ItemsOfFolders mastersByFolder(const std::vector<MySinglePicPtr> &pics) {
+    ItemsOfFolders result;
+    std::set<const MySinglePic *> known;
+    for (const MySinglePicPtr &pic : pics) {
+        const MySinglePicPtr master = pic->bundleMasterImage();
+        const MySinglePicPtr &item = master ? master : pic;
+        const MySingleFolderPtr folder = item->spSingleRealFolder();
+        if (!folder || !known.insert(item.get()).second)
+            continue;
+        auto found = std::ranges::find(result, folder, &ItemsOfFolders::value_type::first);
+        if (found == result.end())
+            found = result.insert(result.end(), {folder, {}});
+        found->second.push_back(item);
+    }
+    return result;
+}
+
+} // namespace
+
+std::size_t assignZones(MySingleFolder &folder, const ZoneWish &wish, const Zones &zones,
+                        int dateComparisonThresold) {
+    return changeAndReadAgain(folder, folder.sfPicDetails_fullArray, zones, dateComparisonThresold,
+                              [&] { applyToFolder(wish, folder); });
+}
+
+std::size_t assignZones(const std::vector<MySinglePicPtr> &pics, const ZoneWish &wish,
+                        const Zones &zones, int dateComparisonThresold) {
+    std::size_t changed = 0;
+    for (const auto &[folder, items] : mastersByFolder(pics))
+        changed += changeAndReadAgain(*folder, items, zones, dateComparisonThresold,
+                                      [&, &inFolder = *folder, &wanted = items] {
+                                          for (const MySinglePicPtr &pic : wanted)
+                                              applyToItem(wish, *pic, inFolder);
+                                      });
+    return changed;
 }
 
 } // namespace chronomender

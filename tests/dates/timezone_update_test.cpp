@@ -2,6 +2,7 @@
 #include "DaylightSavingChecks.h"
 #include "MovieClock.h"
 #include "MovieStampConversions.h"
+#include "ZoneChange.h"
 #include "ZoneSteps.h"
 
 namespace chronomender {
@@ -117,6 +118,67 @@ TEST_F(TimezoneUpdate, AnAlternativeReadingStaysOnlyWhereTheStampIsAmbiguous) {
     attributes.exifOffsetTimeOriginal = located("+02:00");
     update();
     EXPECT_EQ(slots.exifDateTimeDigitizedOLD, summer + absl::Hours(1));
+}
+
+TEST_F(TimezoneUpdate, AWishMovesDatesByItsSourceAndLeavesTargetsThatSomebodyChose) {
+    const struct {
+        const char *choices, *source, *target;
+        bool ofItem;
+        const char *after;
+        std::size_t changed;
+        bool isUnsaved;
+    } rows[] = {
+        {"- - - -", "Tokyo", "-", false, "Tokyo folder - -", 1, false},
+        {"- UTC - -", "Tokyo", "-", false, "Tokyo UTC - -", 1, true},
+        {"Tokyo folder - -", "Lima", "-", false, "Lima folder - -", 1, false},
+        {"- - - -", "Tokyo", "UTC", false, "Tokyo UTC - -", 1, true},
+        {"- - - -", "-", "UTC", false, "- UTC - -", 0, true},
+        {"- - - -", "system", "-", false, "system folder - -", 0, false},
+        {"- - - -", "Berlin", "-", false, "Berlin folder - -", 0, false},
+        {"- - Lima left", "Tokyo", "-", false, "Tokyo folder Lima left", 0, false},
+        {"- - - -", "Tokyo", "-", true, "- - Tokyo left", 1, false},
+        {"Tokyo folder - -", "Lima", "-", true, "Tokyo folder Lima left", 1, false},
+        {"Tokyo folder - -", "Tokyo", "-", true, "Tokyo folder Tokyo left", 0, false},
+        {"- UTC - -", "Tokyo", "-", true, "- UTC Tokyo -", 1, true},
+        {"- - - Lima", "Tokyo", "-", true, "- - Tokyo Lima", 1, true},
+        {"- UTC - left", "Tokyo", "-", true, "- UTC Tokyo left", 1, false},
+        {"- - Tokyo left", "-", "UTC", true, "- - Tokyo UTC", 0, true},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(std::string(row.choices) + " + " + row.source + (row.ofItem ? " (item)" : ""));
+        assign(row.choices);
+        update();
+        const ZoneWish wish{choice(row.source), choice(row.target)};
+        EXPECT_EQ(row.ofItem ? assignZones({pic, pic}, wish, zones, 3)
+                             : assignZones(*folder, wish, zones, 3),
+                  row.changed);
+        EXPECT_EQ(choices(), row.after);
+        EXPECT_EQ(pic->zones.isUnsavedDueToTZC, row.isUnsaved);
+        EXPECT_EQ(folder->isUnsavedDueToTZC, row.isUnsaved);
+        EXPECT_FALSE(update());
+    }
+}
+
+TEST_F(TimezoneUpdate, AWishReachesItemsOfSeveralFoldersAndMastersOfDependents) {
+    const MySingleFolderPtr other = makeFolder();
+    const auto likeThePhoto = [&](const MySingleFolderPtr &in) {
+        const auto added = addItem(in, SpTypeExifOriginal, morning);
+        added->singlePicAttributes = attributes;
+        added->slots = slots;
+        return added;
+    };
+    const auto distant = likeThePhoto(other), untouched = likeThePhoto(folder),
+               jpeg = likeThePhoto(folder);
+    makeDependent(jpeg, pic);
+    EXPECT_EQ(assignZones({jpeg, distant, pic}, {choice("Tokyo"), {}}, zones, 3), 2U);
+    for (const MySinglePicPtr &item : {pic, jpeg, distant})
+        EXPECT_EQ(item->spDateTimeOriginal, utc(2024, 6, 1, 3));
+    EXPECT_EQ(untouched->spDateTimeOriginal, morning);
+    EXPECT_EQ(choices(), "- - Tokyo left");
+    // The folder's own zone moves only what has none of its own.
+    EXPECT_EQ(assignZones(*folder, {choice("Lima"), {}}, zones, 3), 1U);
+    EXPECT_EQ(untouched->spDateTimeOriginal, utc(2024, 6, 1, 17));
+    EXPECT_EQ(jpeg->spDateTimeOriginal, utc(2024, 6, 1, 3));
 }
 
 /// A photo whose dates come from XMP: a wall clock and a stamp with a zone.
