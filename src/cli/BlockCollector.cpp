@@ -39,6 +39,48 @@ std::optional<int> parseDepth(std::string_view typed) {
 
 } // namespace
 
+const BlockCollector::BlockHandler BlockCollector::blockHandlers[] = {
+    {OptionId::Shift, [](BlockCollector &collector, FolderBlock &block,
+                         const Typed &typed) { collector.addShift(block, typed); }},
+    {OptionId::Pic,
+     [](BlockCollector &collector, FolderBlock &, const Typed &typed) {
+         collector.checkOpenPic();
+         collector.m_pic = typed.value;
+     }},
+    {OptionId::SourceZone, [](BlockCollector &collector, FolderBlock &block,
+                              const Typed &typed) { collector.setOnce(block.sourceZone, typed); }},
+    {OptionId::TargetZone, [](BlockCollector &collector, FolderBlock &block,
+                              const Typed &typed) { collector.setOnce(block.targetZone, typed); }},
+    {OptionId::EmptyTags,
+     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+         collector.setOnce(block.emptyTags, typed, parseEmptyTags(typed.value),
+                           "cli_error_badEmptyTags");
+     }},
+    {OptionId::MovieDate,
+     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+         collector.setOnce(block.movieDate, typed, wordIn(movieDates, typed.value),
+                           "cli_error_badMovieDate");
+     }},
+    {OptionId::MovieClock,
+     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+         collector.setOnce(block.movieClock, typed, wordIn(movieClocks, typed.value),
+                           "cli_error_badMovieClock");
+     }},
+    {OptionId::FilterExt,
+     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+         collector.addFilter(block.filterExt, block.filterExtNot, typed);
+     }},
+    {OptionId::FilterExtNot,
+     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+         collector.addFilter(block.filterExtNot, block.filterExt, typed);
+     }},
+    {OptionId::Subfolders,
+     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+         collector.setOnce(block.subfolderDepth, typed, parseDepth(typed.value),
+                           "cli_error_badDepth");
+     }},
+};
+
 void BlockCollector::fail(std::string message) {
     if (!m_error)
         m_error = std::move(message);
@@ -47,31 +89,24 @@ void BlockCollector::fail(std::string message) {
 void BlockCollector::add(OptionId id, const char *name, const std::string &value) {
     if (m_error)
         return;
-    switch (id) {
-    case OptionId::Path:
-    case OptionId::Folder:
-        checkOpenPic();
-        m_line.blocks.push_back({});
-        m_line.blocks.back().path = value;
-        m_line.blocks.back().isPlain = id == OptionId::Path;
-        if (value.empty())
-            fail(text("cli_error_emptyPath"));
+    if (id == OptionId::Path || id == OptionId::Folder) {
+        openBlock(value, id == OptionId::Path);
         return;
-    case OptionId::Shift:
-    case OptionId::Pic:
-    case OptionId::SourceZone:
-    case OptionId::TargetZone:
-    case OptionId::EmptyTags:
-    case OptionId::MovieDate:
-    case OptionId::MovieClock:
-    case OptionId::FilterExt:
-    case OptionId::FilterExtNot:
-    case OptionId::Subfolders:
-        addToBlock(id, name, value);
-        return;
-    default:
-        addToRun(id, value);
     }
+    const auto handler = std::ranges::find(blockHandlers, id, &BlockHandler::id);
+    if (handler != std::end(blockHandlers))
+        addToBlock(*handler, {name, value});
+    else
+        addToRun(id, value);
+}
+
+void BlockCollector::openBlock(const std::string &path, bool isPlain) {
+    checkOpenPic();
+    m_line.blocks.push_back({});
+    m_line.blocks.back().path = path;
+    m_line.blocks.back().isPlain = isPlain;
+    if (path.empty())
+        fail(text("cli_error_emptyPath"));
 }
 
 void BlockCollector::finish() {
@@ -138,64 +173,25 @@ void BlockCollector::addAccepted(const std::string &value) {
         fail(text("cli_error_unknownProblem", {printable(value)}));
 }
 
-void BlockCollector::addToBlock(OptionId id, const char *name, const std::string &value) {
-    if (m_line.blocks.empty() || m_line.blocks.back().isPlain) {
-        fail(text("cli_error_optionWithoutFolder", {name}));
-        return;
-    }
-    FolderBlock &block = m_line.blocks.back();
-    using Text = std::optional<std::string>;
-    switch (id) {
-    case OptionId::Shift:
-        addShift(block, name, value);
-        break;
-    case OptionId::Pic:
-        checkOpenPic();
-        m_pic = value;
-        break;
-    case OptionId::SourceZone:
-        setOnce(block.sourceZone, name, Text(value), "", value);
-        break;
-    case OptionId::TargetZone:
-        setOnce(block.targetZone, name, Text(value), "", value);
-        break;
-    case OptionId::EmptyTags:
-        setOnce(block.emptyTags, name, parseEmptyTags(value), "cli_error_badEmptyTags", value);
-        break;
-    case OptionId::MovieDate:
-        setOnce(block.movieDate, name, wordIn(movieDates, value), "cli_error_badMovieDate", value);
-        break;
-    case OptionId::MovieClock:
-        setOnce(block.movieClock, name, wordIn(movieClocks, value), "cli_error_badMovieClock",
-                value);
-        break;
-    case OptionId::FilterExt:
-        addFilter(block.filterExt, block.filterExtNot, name, value);
-        break;
-    case OptionId::FilterExtNot:
-        addFilter(block.filterExtNot, block.filterExt, name, value);
-        break;
-    case OptionId::Subfolders:
-        setOnce(block.subfolderDepth, name, parseDepth(value), "cli_error_badDepth", value);
-        break;
-    default:
-        break;
-    }
+void BlockCollector::addToBlock(const BlockHandler &handler, const Typed &typed) {
+    if (m_line.blocks.empty() || m_line.blocks.back().isPlain)
+        fail(text("cli_error_optionWithoutFolder", {typed.name}));
+    else
+        handler.take(*this, m_line.blocks.back(), typed);
 }
 
 void BlockCollector::addFilter(std::optional<std::string> &filter,
-                               const std::optional<std::string> &opposite, const char *name,
-                               const std::string &value) {
+                               const std::optional<std::string> &opposite, const Typed &typed) {
     if (opposite)
         fail(text("cli_error_twoFilters", {printable(m_line.blocks.back().path)}));
     else
-        setOnce(filter, name, std::optional(value), "", value);
+        setOnce(filter, typed);
 }
 
-void BlockCollector::addShift(FolderBlock &block, const char *name, const std::string &value) {
-    const auto shift = parseShift(value);
+void BlockCollector::addShift(FolderBlock &block, const Typed &typed) {
+    const auto shift = parseShift(typed.value);
     if (!m_pic) {
-        setOnce(block.shift, name, shift, "cli_error_badShift", value);
+        setOnce(block.shift, typed, shift, "cli_error_badShift");
         return;
     }
     const std::string pic = *std::exchange(m_pic, std::nullopt);
@@ -204,21 +200,24 @@ void BlockCollector::addShift(FolderBlock &block, const char *name, const std::s
     if (isKnown)
         fail(text("cli_error_picTwice", {printable(pic)}));
     else if (!shift)
-        fail(text("cli_error_badShift", {printable(value)}));
+        fail(text("cli_error_badShift", {printable(typed.value)}));
     else
         block.picShifts.emplace_back(pic, *shift);
 }
 
 template<class Value>
-void BlockCollector::setOnce(std::optional<Value> &place, const char *name,
-                             std::optional<Value> value, const char *complaintKey,
-                             const std::string &typed) {
+void BlockCollector::setOnce(std::optional<Value> &place, const Typed &typed,
+                             std::optional<Value> value, const char *complaintKey) {
     if (place)
-        fail(text("cli_error_optionTwice", {name, printable(m_line.blocks.back().path)}));
+        fail(text("cli_error_optionTwice", {typed.name, printable(m_line.blocks.back().path)}));
     else if (!value)
-        fail(text(complaintKey, {printable(typed)}));
+        fail(text(complaintKey, {printable(typed.value)}));
     else
         place = std::move(value);
+}
+
+void BlockCollector::setOnce(std::optional<std::string> &place, const Typed &typed) {
+    setOnce(place, typed, std::optional(typed.value), "");
 }
 
 } // namespace chronomender

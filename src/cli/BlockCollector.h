@@ -23,17 +23,31 @@ public:
     const CommandLine &line() const { return m_line; }
 
 private:
+    /// An option of a folder as it was typed.
+    struct Typed {
+        const char *name;
+        const std::string &value;
+    };
+    /// What takes a folder's option.
+    struct BlockHandler {
+        OptionId id;
+        void (*take)(BlockCollector &collector, FolderBlock &block, const Typed &typed);
+    };
+    static const BlockHandler blockHandlers[];
+
+    void openBlock(const std::string &path, bool isPlain);
     void addToRun(OptionId id, const std::string &value);
-    void addToBlock(OptionId id, const char *name, const std::string &value);
-    void addShift(FolderBlock &block, const char *name, const std::string &value);
+    void addToBlock(const BlockHandler &handler, const Typed &typed);
+    void addShift(FolderBlock &block, const Typed &typed);
     void addFilter(std::optional<std::string> &filter, const std::optional<std::string> &opposite,
-                   const char *name, const std::string &value);
+                   const Typed &typed);
     void addDateSequence(const std::string &value);
     void addSetting(const std::string &value);
     void addAccepted(const std::string &value);
     template<class Value>
-    void setOnce(std::optional<Value> &place, const char *name, std::optional<Value> value,
-                 const char *complaintKey, const std::string &text);
+    void setOnce(std::optional<Value> &place, const Typed &typed, std::optional<Value> value,
+                 const char *complaintKey);
+    void setOnce(std::optional<std::string> &place, const Typed &typed);
     void fail(std::string message);
     void checkOpenPic();
 
