@@ -51,6 +51,9 @@
     <message id="cli_error_notAFolder">
         <translation>%1 ist kein Ordner.</translation>
     </message>
+    <message id="cli_error_notAmbiguous">
+        <translation>Die Zeit von %1 meint nur einen Zeitpunkt; es gibt keinen anderen zu wählen. Nichts wurde geschrieben.</translation>
+    </message>
     <message id="cli_error_notFound">
         <translation>%1 gibt es nicht.</translation>
     </message>
@@ -58,7 +61,7 @@
         <translation>Es wurde nichts geschrieben.</translation>
     </message>
     <message id="cli_error_optionTwice">
-        <translation>%1 steht zweimal für den Ordner %2.</translation>
+        <translation>%1 steht zweimal für %2.</translation>
     </message>
     <message id="cli_error_optionWithoutFolder">
         <translation>%1 gilt für einen Ordner: Es gehört hinter --folder PATH.</translation>
@@ -69,8 +72,8 @@
     <message id="cli_error_picTwice">
         <translation>--pic %1 steht zweimal.</translation>
     </message>
-    <message id="cli_error_picWithoutShift">
-        <translation>--pic %1 braucht ein --shift dahinter.</translation>
+    <message id="cli_error_picWithoutCorrection">
+        <translation>--pic %1 braucht ein --shift, --source-zone oder --target-zone dahinter.</translation>
     </message>
     <message id="cli_error_settingNotAllowed">
         <translation>Die Einstellung %1 kann nicht %2 sein; möglich ist %3.</translation>
@@ -98,6 +101,9 @@
     </message>
     <message id="cli_help_all">
         <translation>Auch Dateien ohne Korrektur schreiben</translation>
+    </message>
+    <message id="cli_help_alternative">
+        <translation>Eine Datei des Ordners, deren Zeit zweimal vorkommt: Sie gilt als die frühere von beiden</translation>
     </message>
     <message id="cli_help_dateSequence">
         <translation>Gibt den Bildern aller Ordner ein Datum nach dem anderen, in der Folge ihrer Namen: das erste Datum und den Schritt STEP (Sekunden oder H:MM:SS) zum nächsten</translation>
@@ -162,7 +168,7 @@
         <translation>Ordner oder Dateien ohne eigene Angaben</translation>
     </message>
     <message id="cli_help_pic">
-        <translation>Eine Aufnahme des Ordners; das nächste --shift kommt nur bei ihr dazu</translation>
+        <translation>Eine Aufnahme des Ordners; --shift (kommt zu dem des Ordners dazu), --source-zone und --target-zone dahinter gelten nur für sie</translation>
     </message>
     <message id="cli_help_runOptions">
         <translation>Angaben zum ganzen Lauf</translation>
@@ -174,7 +180,7 @@
         <translation>Beispiele:
   mend save --folder canon --shift -1:00:00 --dry-run
   mend save --folder canon --shift -1:00:00
-  mend save --folder canon --pic IMG_0007.JPG --shift +0:05 --target-zone own</translation>
+  mend save --folder canon --target-zone own --pic IMG_0007.JPG --shift +0:05</translation>
     </message>
     <message id="cli_help_set">
         <translation>Eine Einstellung für diesen Lauf setzen</translation>
@@ -199,6 +205,9 @@
     </message>
     <message id="cli_importInterrupted">
         <translation>unterbrochen: %2 Dateien von %1 wurden nicht gelesen</translation>
+    </message>
+    <message id="cli_info_alerts">
+        <translation>Bedenken</translation>
     </message>
     <message id="cli_info_camera">
         <translation>Kamera</translation>
@@ -277,9 +286,6 @@
     </message>
     <message id="cli_note_noTags">
         <translation>keine Zeit darin, Datum der Datei</translation>
-    </message>
-    <message id="cli_note_repeatedHour">
-        <translation>die Stunde kommt zweimal vor</translation>
     </message>
     <message id="cli_note_unsaved">
         <translation>ungespeichert</translation>

@@ -51,6 +51,9 @@
     <message id="cli_error_notAFolder">
         <translation>%1 is not a folder.</translation>
     </message>
+    <message id="cli_error_notAmbiguous">
+        <translation>The date of %1 means one instant only, so there is no other to choose. Nothing was written.</translation>
+    </message>
     <message id="cli_error_notFound">
         <translation>%1 does not exist.</translation>
     </message>
@@ -58,7 +61,7 @@
         <translation>Nothing was written.</translation>
     </message>
     <message id="cli_error_optionTwice">
-        <translation>%1 is given twice for the folder %2.</translation>
+        <translation>%1 is given twice for %2.</translation>
     </message>
     <message id="cli_error_optionWithoutFolder">
         <translation>%1 is about a folder: put it behind --folder PATH.</translation>
@@ -69,8 +72,8 @@
     <message id="cli_error_picTwice">
         <translation>--pic %1 is given twice.</translation>
     </message>
-    <message id="cli_error_picWithoutShift">
-        <translation>--pic %1 needs a --shift behind it.</translation>
+    <message id="cli_error_picWithoutCorrection">
+        <translation>--pic %1 needs a --shift, a --source-zone or a --target-zone behind it.</translation>
     </message>
     <message id="cli_error_settingNotAllowed">
         <translation>The preference %1 cannot be %2; it accepts %3.</translation>
@@ -98,6 +101,9 @@
     </message>
     <message id="cli_help_all">
         <translation>Write files without a correction as well</translation>
+    </message>
+    <message id="cli_help_alternative">
+        <translation>A file of the folder whose date happens twice: it is read as the earlier of the two</translation>
     </message>
     <message id="cli_help_dateSequence">
         <translation>Gives the items of all folders one date after the other, in the order of their names: the first date, and the STEP (seconds or H:MM:SS) to the next</translation>
@@ -162,7 +168,7 @@
         <translation>Folders or files without options of their own</translation>
     </message>
     <message id="cli_help_pic">
-        <translation>An item of the folder; the next --shift is added to it alone</translation>
+        <translation>An item of the folder; the --shift (added to the folder’s), --source-zone and --target-zone behind it are for it alone</translation>
     </message>
     <message id="cli_help_runOptions">
         <translation>Options of the whole run</translation>
@@ -174,7 +180,7 @@
         <translation>Examples:
   mend save --folder canon --shift -1:00:00 --dry-run
   mend save --folder canon --shift -1:00:00
-  mend save --folder canon --pic IMG_0007.JPG --shift +0:05 --target-zone own</translation>
+  mend save --folder canon --target-zone own --pic IMG_0007.JPG --shift +0:05</translation>
     </message>
     <message id="cli_help_set">
         <translation>Set a preference for this run</translation>
@@ -199,6 +205,9 @@
     </message>
     <message id="cli_importInterrupted">
         <translation>interrupted: %2 files of %1 were not read</translation>
+    </message>
+    <message id="cli_info_alerts">
+        <translation>alerts</translation>
     </message>
     <message id="cli_info_camera">
         <translation>camera</translation>
@@ -277,9 +286,6 @@
     </message>
     <message id="cli_note_noTags">
         <translation>no date inside, dated by the file</translation>
-    </message>
-    <message id="cli_note_repeatedHour">
-        <translation>the hour occurs twice</translation>
     </message>
     <message id="cli_note_unsaved">
         <translation>unsaved</translation>

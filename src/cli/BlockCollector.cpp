@@ -39,46 +39,55 @@ std::optional<int> parseDepth(std::string_view typed) {
 
 } // namespace
 
-const BlockCollector::BlockHandler BlockCollector::blockHandlers[] = {
-    {OptionId::Shift, [](BlockCollector &collector, FolderBlock &block,
-                         const Typed &typed) { collector.addShift(block, typed); }},
-    {OptionId::Pic,
-     [](BlockCollector &collector, FolderBlock &, const Typed &typed) {
-         collector.checkOpenPic();
-         collector.m_pic = typed.value;
-     }},
-    {OptionId::SourceZone, [](BlockCollector &collector, FolderBlock &block,
-                              const Typed &typed) { collector.setOnce(block.sourceZone, typed); }},
-    {OptionId::TargetZone, [](BlockCollector &collector, FolderBlock &block,
-                              const Typed &typed) { collector.setOnce(block.targetZone, typed); }},
-    {OptionId::EmptyTags,
-     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-         collector.setOnce(block.emptyTags, typed, parseEmptyTags(typed.value),
-                           "cli_error_badEmptyTags");
-     }},
-    {OptionId::MovieDate,
-     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-         collector.setOnce(block.movieDate, typed, wordIn(movieDates, typed.value),
-                           "cli_error_badMovieDate");
-     }},
-    {OptionId::MovieClock,
-     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-         collector.setOnce(block.movieClock, typed, wordIn(movieClocks, typed.value),
-                           "cli_error_badMovieClock");
-     }},
-    {OptionId::FilterExt,
-     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-         collector.addFilter(block.filterExt, block.filterExtNot, typed);
-     }},
-    {OptionId::FilterExtNot,
-     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-         collector.addFilter(block.filterExtNot, block.filterExt, typed);
-     }},
-    {OptionId::Subfolders,
-     [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-         collector.setOnce(block.subfolderDepth, typed, parseDepth(typed.value),
-                           "cli_error_badDepth");
-     }},
+const BlockCollector::BlockHandler BlockCollector::blockHandlers[] =
+    {
+        {OptionId::Shift,
+         [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+             collector.setOnce(openCorrection(block).shift, typed, parseShift(typed.value),
+                               "cli_error_badShift");
+         }},
+        {OptionId::Pic, [](BlockCollector &collector, FolderBlock &block,
+                           const Typed &typed) { collector.openPic(block, typed.value); }},
+        {OptionId::Alternative,
+         [](BlockCollector &, FolderBlock &block, const Typed &typed) {
+             block.alternatives.push_back(typed.value);
+         }},
+        {OptionId::SourceZone,
+         [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+             collector.setOnce(openCorrection(block).sourceZone, typed);
+         }},
+        {OptionId::TargetZone,
+         [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+             collector.setOnce(openCorrection(block).targetZone, typed);
+         }},
+        {OptionId::EmptyTags,
+         [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+             collector.setOnce(block.emptyTags, typed, parseEmptyTags(typed.value),
+                               "cli_error_badEmptyTags");
+         }},
+        {OptionId::MovieDate,
+         [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+             collector.setOnce(block.movieDate, typed, wordIn(movieDates, typed.value),
+                               "cli_error_badMovieDate");
+         }},
+        {OptionId::MovieClock,
+         [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+             collector.setOnce(block.movieClock, typed, wordIn(movieClocks, typed.value),
+                               "cli_error_badMovieClock");
+         }},
+        {OptionId::FilterExt,
+         [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+             collector.addFilter(block.filterExt, block.filterExtNot, typed);
+         }},
+        {OptionId::FilterExtNot,
+         [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+             collector.addFilter(block.filterExtNot, block.filterExt, typed);
+         }},
+        {OptionId::Subfolders,
+         [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+             collector.setOnce(block.subfolderDepth, typed, parseDepth(typed.value),
+                               "cli_error_badDepth");
+         }},
 };
 
 void BlockCollector::fail(std::string message) {
@@ -101,7 +110,7 @@ void BlockCollector::add(OptionId id, const char *name, const std::string &value
 }
 
 void BlockCollector::openBlock(const std::string &path, bool isPlain) {
-    checkOpenPic();
+    closePic();
     m_line.blocks.push_back({});
     m_line.blocks.back().path = path;
     m_line.blocks.back().isPlain = isPlain;
@@ -110,14 +119,31 @@ void BlockCollector::openBlock(const std::string &path, bool isPlain) {
 }
 
 void BlockCollector::finish() {
-    checkOpenPic();
+    closePic();
     if (m_line.blocks.empty())
         fail(text("cli_error_noPaths"));
 }
 
-void BlockCollector::checkOpenPic() {
-    if (m_pic)
-        fail(text("cli_error_picWithoutShift", {printable(*m_pic)}));
+/// Behind a --pic the corrections are its own, up to the next one.
+Correction &BlockCollector::openCorrection(FolderBlock &block) {
+    if (block.pics.empty())
+        return block;
+    return block.pics.back();
+}
+
+void BlockCollector::openPic(FolderBlock &block, const std::string &name) {
+    closePic();
+    if (std::ranges::find(block.pics, name, &PicBlock::name) != block.pics.end())
+        fail(text("cli_error_picTwice", {printable(name)}));
+    block.pics.push_back({{}, name});
+}
+
+void BlockCollector::closePic() {
+    if (m_line.blocks.empty() || m_line.blocks.back().pics.empty())
+        return;
+    const PicBlock &pic = m_line.blocks.back().pics.back();
+    if (pic.isEmpty())
+        fail(text("cli_error_picWithoutCorrection", {printable(pic.name)}));
 }
 
 void BlockCollector::addToRun(OptionId id, const std::string &value) {
@@ -188,28 +214,17 @@ void BlockCollector::addFilter(std::optional<std::string> &filter,
         setOnce(filter, typed);
 }
 
-void BlockCollector::addShift(FolderBlock &block, const Typed &typed) {
-    const auto shift = parseShift(typed.value);
-    if (!m_pic) {
-        setOnce(block.shift, typed, shift, "cli_error_badShift");
-        return;
-    }
-    const std::string pic = *std::exchange(m_pic, std::nullopt);
-    const bool isKnown = std::any_of(block.picShifts.begin(), block.picShifts.end(),
-                                     [&](const auto &other) { return other.first == pic; });
-    if (isKnown)
-        fail(text("cli_error_picTwice", {printable(pic)}));
-    else if (!shift)
-        fail(text("cli_error_badShift", {printable(typed.value)}));
-    else
-        block.picShifts.emplace_back(pic, *shift);
+/// What the options at hand are about.
+const std::string &BlockCollector::openName() const {
+    const FolderBlock &block = m_line.blocks.back();
+    return block.pics.empty() ? block.path : block.pics.back().name;
 }
 
 template<class Value>
 void BlockCollector::setOnce(std::optional<Value> &place, const Typed &typed,
                              std::optional<Value> value, const char *complaintKey) {
     if (place)
-        fail(text("cli_error_optionTwice", {typed.name, printable(m_line.blocks.back().path)}));
+        fail(text("cli_error_optionTwice", {typed.name, printable(openName())}));
     else if (!value)
         fail(text(complaintKey, {printable(typed.value)}));
     else

@@ -38,7 +38,8 @@ private:
     void openBlock(const std::string &path, bool isPlain);
     void addToRun(OptionId id, const std::string &value);
     void addToBlock(const BlockHandler &handler, const Typed &typed);
-    void addShift(FolderBlock &block, const Typed &typed);
+    void openPic(FolderBlock &block, const std::string &name);
+    static Correction &openCorrection(FolderBlock &block);
     void addFilter(std::optional<std::string> &filter, const std::optional<std::string> &opposite,
                    const Typed &typed);
     void addDateSequence(const std::string &value);
@@ -49,10 +50,10 @@ private:
                  const char *complaintKey);
     void setOnce(std::optional<std::string> &place, const Typed &typed);
     void fail(std::string message);
-    void checkOpenPic();
+    void closePic();
+    const std::string &openName() const;
 
     CommandLine m_line;
-    std::optional<std::string> m_pic; ///< `--pic NAME` waits for its `--shift`
     std::optional<std::string> m_error;
 };
 

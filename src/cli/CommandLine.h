@@ -21,13 +21,25 @@ enum class MovieDate : std::uint8_t { Mdta, Mvhd };
 /// What a movie's header times tell: UTC as the format says, or the camera's own clock.
 enum class MovieClock : std::uint8_t { Utc, Local };
 
+/// What is to be corrected of a folder or of one item.
+struct Correction {
+    std::optional<absl::Duration> shift;
+    std::optional<std::string> sourceZone, targetZone; ///< names, not yet looked up
+
+    bool isEmpty() const { return !shift && !sourceZone && !targetZone; }
+};
+
+/// `--pic NAME` with the options behind it.
+struct PicBlock : Correction {
+    std::string name;
+};
+
 /// `--folder PATH` with the options behind it, or a plain PATH, which has none.
-struct FolderBlock {
+struct FolderBlock : Correction {
     std::string path;
     bool isPlain = false;
-    std::optional<absl::Duration> shift;
-    std::vector<std::pair<std::string, absl::Duration>> picShifts; ///< by file name
-    std::optional<std::string> sourceZone, targetZone;             ///< names, not yet looked up
+    std::vector<PicBlock> pics;
+    std::vector<std::string> alternatives; ///< files to be read as the earlier of two instants
     std::optional<EmptyTagsSpec> emptyTags;
     std::optional<MovieDate> movieDate;
     std::optional<MovieClock> movieClock;

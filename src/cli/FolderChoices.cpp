@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FolderChoices.h"
 
+#include <algorithm>
+
 namespace chronomender {
 namespace {
 
@@ -16,8 +18,10 @@ std::optional<ExtensionFilter> filterOf(const FolderBlock &block) {
 
 KeyStates keyStates(const FolderPlan &plan) {
     KeyStates states;
-    states.sfEditMode = plan.block.picShifts.empty() ? EditMode::Together : EditMode::Single;
-    states.adaptedZone = {plan.sourceZone, plan.targetZone};
+    const bool isAnyShifted =
+        std::ranges::any_of(plan.pics, [](const PicPlan &pic) { return pic.shift.has_value(); });
+    states.sfEditMode = isAnyShifted ? EditMode::Single : EditMode::Together;
+    states.adaptedZone = {plan.zones.source, plan.zones.target};
     states.filter = filterOf(plan.block);
     if (plan.block.subfolderDepth) {
         states.isSubFolderAutoImportEnabled = *plan.block.subfolderDepth > 0;

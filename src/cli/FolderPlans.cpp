@@ -94,24 +94,37 @@ private:
     }
 
     std::optional<Complaint> lookUpZones(FolderPlan &plan) const {
-        absl::TimeZone stampZone = m_zones.systemZone().rules;
-        if (plan.block.sourceZone) {
-            auto found = lookUpZone(*plan.block.sourceZone, m_zones);
-            if (auto *complaint = std::get_if<Complaint>(&found))
-                return *complaint;
-            stampZone = std::get<Zone>(found).rules;
-            plan.sourceZone = ZoneChoice::named(std::get<Zone>(found));
+        if (auto complaint = lookUp(plan.block, plan.zones))
+            return complaint;
+        for (const PicBlock &pic : plan.block.pics) {
+            plan.pics.push_back({pic.name, pic.shift, {}});
+            if (auto complaint = lookUp(pic, plan.pics.back().zones))
+                return complaint;
         }
-        if (plan.block.targetZone == "own") {
-            plan.targetZone = ZoneChoice::marker(ZoneChoice::Kind::Own);
-        } else if (plan.block.targetZone) {
-            auto found = lookUpZone(*plan.block.targetZone, m_zones);
-            if (auto *complaint = std::get_if<Complaint>(&found))
-                return *complaint;
-            plan.targetZone = ZoneChoice::named(std::get<Zone>(found));
-        }
+        const absl::TimeZone stampZone =
+            plan.zones.source ? plan.zones.source->zone()->rules : m_zones.systemZone().rules;
         plan.importOptions =
             importOptions(plan.block.emptyTags.value_or(EmptyTagsSpec{}), stampZone);
+        return std::nullopt;
+    }
+
+    std::optional<Complaint> lookUp(const Correction &correction, ZoneWish &wish) const {
+        if (auto complaint = lookUp(correction.sourceZone, wish.source))
+            return complaint;
+        if (correction.targetZone != "own")
+            return lookUp(correction.targetZone, wish.target);
+        wish.target = ZoneChoice::marker(ZoneChoice::Kind::Own);
+        return std::nullopt;
+    }
+
+    std::optional<Complaint> lookUp(const std::optional<std::string> &name,
+                                    std::optional<ZoneChoice> &choice) const {
+        if (!name)
+            return std::nullopt;
+        auto found = lookUpZone(*name, m_zones);
+        if (auto *complaint = std::get_if<Complaint>(&found))
+            return *complaint;
+        choice = ZoneChoice::named(std::get<Zone>(std::move(found)));
         return std::nullopt;
     }
 

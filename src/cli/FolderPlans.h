@@ -2,7 +2,7 @@
 #pragma once
 
 #include "CommandLine.h"
-#include "ZoneAssignments.h"
+#include "ZoneChange.h"
 #include "Zones.h"
 
 #include <optional>
@@ -18,12 +18,20 @@ struct Complaint {
     std::string message;
 };
 
+/// An item of a folder and what is to be corrected of it.
+struct PicPlan {
+    std::string name;
+    std::optional<absl::Duration> shift;
+    ZoneWish zones;
+};
+
 /// A folder to open, made from one block, or from all plain files of that folder.
 struct FolderPlan {
     std::string path;
     FolderBlock block;
     std::vector<std::string> names; ///< only these files; empty: the whole folder
-    std::optional<ZoneChoice> sourceZone, targetZone;
+    ZoneWish zones;
+    std::vector<PicPlan> pics;
     PerFolderImportOptions importOptions;
 };
 
@@ -33,7 +41,7 @@ struct FolderPlans {
 };
 
 /// Looks at the disk to tell files from folders, and looks up the zones. Two blocks that name the
-/// same directory, under whatever path, are a complaint.
+/// same directory, under whatever path, are a complaint, and so is an unknown zone.
 std::variant<FolderPlans, Complaint> planFolders(const std::vector<FolderBlock> &blocks,
                                                  const Zones &zones);
 

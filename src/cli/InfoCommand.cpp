@@ -46,6 +46,8 @@ public:
     Info(const MySinglePic &pic, const MySingleFolder &folder, const FolderPaths &paths,
          const Zones &zones)
         : m_pic(pic),
+          m_folder(folder),
+          m_zones(zones),
           m_path(paths.path(folder, pic)),
           m_slots(slotViews(pic, folder, zones)),
           m_sourceZone(sourceTimeZoneForPic(pic, folder, zones).name),
@@ -72,6 +74,7 @@ public:
         if (const MySinglePicPtr master = m_pic.bundleMasterImage())
             line.field("master", master->spName);
         line.beginObject("zones").field("source", m_sourceZone).field("target", m_targetZone).end();
+        appendAlerts(line, m_pic, m_folder, m_zones);
         line.finish();
     }
 
@@ -157,7 +160,8 @@ private:
                 {"cli_info_sidecars", sidecarText()},
                 {"cli_info_sourceZone", m_sourceZone},
                 {"cli_info_targetZone", m_targetZone},
-                {"cli_info_note", noteText(m_pic)}};
+                {"cli_info_note", noteText(m_pic)},
+                {"cli_info_alerts", alertsText(m_pic, m_folder, m_zones)}};
     }
 
     Table valueTable() const {
@@ -186,6 +190,8 @@ private:
     }
 
     const MySinglePic &m_pic;
+    const MySingleFolder &m_folder;
+    const Zones &m_zones;
     std::string m_path;
     std::vector<SlotView> m_slots;
     std::string m_sourceZone, m_targetZone;

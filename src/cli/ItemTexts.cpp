@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ItemTexts.h"
 
+#include "DateAlertTexts.h"
 #include "SourceSlot.h"
 #include "Texts.h"
 #include "ZoneLookup.h"
@@ -15,7 +16,7 @@ struct Note {
     bool (*applies)(const MySinglePic &);
     const char *key;
 };
-constexpr std::array<Note, 7> notes{{
+constexpr std::array<Note, 6> notes{{
     {isUnsaved, "cli_note_unsaved"},
     {[](const MySinglePic &pic) { return pic.importState.isLeftAlone; }, "cli_note_emptyTags"},
     {[](const MySinglePic &pic) {
@@ -25,10 +26,14 @@ constexpr std::array<Note, 7> notes{{
     {[](const MySinglePic &pic) { return hasNoDateTags(pic.spType); }, "cli_note_noTags"},
     {[](const MySinglePic &pic) { return isPreferringFileDate(pic.spType); },
      "cli_note_youngerThanFile"},
-    {[](const MySinglePic &pic) { return pic.zones.dstAmbiguityAtImportState != 0; },
-     "cli_note_repeatedHour"},
     {[](const MySinglePic &pic) { return pic.importState.isExtraHardLink; }, "cli_note_hardLinks"},
 }};
+
+std::string wordsOf(const DateAlert &alert, const MySinglePic &pic) {
+    const MySinglePicPtr &dependent = pic.group.bundleDependentImage;
+    return alert.isOfDependent && dependent ? dependent->spName + ": " + alertText(alert)
+                                            : alertText(alert);
+}
 
 } // namespace
 
@@ -49,6 +54,27 @@ std::string noteText(const MySinglePic &pic) {
         if (note.applies(pic))
             joined += (joined.empty() ? "" : "; ") + text(note.key);
     return joined;
+}
+
+std::string alertsText(const MySinglePic &pic, const MySingleFolder &folder, const Zones &zones) {
+    std::string joined;
+    for (const DateAlert &alert : dateAlerts(pic, folder, zones))
+        joined += (joined.empty() ? "" : "; ") + wordsOf(alert, pic);
+    return joined;
+}
+
+void appendAlerts(JsonLine &line, const MySinglePic &pic, const MySingleFolder &folder,
+                  const Zones &zones) {
+    const std::vector<DateAlert> alerts = dateAlerts(pic, folder, zones);
+    if (alerts.empty())
+        return;
+    line.beginArray("alerts");
+    for (const DateAlert &alert : alerts)
+        line.beginElement()
+            .field("name", alertName(alert.kind))
+            .field("text", wordsOf(alert, pic))
+            .end();
+    line.end();
 }
 
 std::string sourceText(const MySinglePic &pic) {

@@ -23,6 +23,14 @@ bool isUnsaved(const MySinglePic &pic);
 /// file…
 std::string noteText(const MySinglePic &pic);
 
+/// What makes an item's date doubtful, in words, separated by semicolons; "" for most items. An
+/// alert about the other half of a group begins with that file's name.
+std::string alertsText(const MySinglePic &pic, const MySingleFolder &folder, const Zones &zones);
+
+/// The same as "alerts"; nothing for an item without.
+void appendAlerts(JsonLine &line, const MySinglePic &pic, const MySingleFolder &folder,
+                  const Zones &zones);
+
 /// Where an item's date comes from, in words.
 std::string sourceText(const MySinglePic &pic);
 

@@ -36,7 +36,8 @@ public:
                 table.add(
                     {readableText(pic->spDateTimeModified(), displayZone(*pic, *folder, m_zones)),
                      printable(folder->sfFolder), printable(spNameComplete(*pic)),
-                     printable(pic->camera.pivMakeModel), noteText(*pic)});
+                     printable(pic->camera.pivMakeModel), noteText(*pic),
+                     printable(alertsText(*pic, *folder, m_zones))});
         const auto unsaved = std::count_if(m_items.begin(), m_items.end(),
                                            [](const auto &pic) { return isUnsaved(*pic); });
         return table.text() +
@@ -66,7 +67,9 @@ private:
                 .field("lon", *pic.location.gpsLong)
                 .end();
         appendCompanions(line, pic);
-        line.flag("unsaved", isUnsaved(pic)).finish();
+        line.flag("unsaved", isUnsaved(pic));
+        appendAlerts(line, pic, *folder, m_zones);
+        line.finish();
     }
 
     const std::vector<MySinglePicPtr> &m_items;

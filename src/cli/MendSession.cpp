@@ -2,6 +2,7 @@
 #include "MendSession.h"
 
 #include "Commands.h"
+#include "Corrections.h"
 #include "EventLoopWait.h"
 #include "FolderChoices.h"
 #include "ProgressBar.h"
@@ -9,7 +10,6 @@
 #include "Utf8Text.h"
 
 #include <algorithm>
-#include <set>
 
 namespace chronomender {
 namespace {
@@ -29,22 +29,6 @@ const char *complaintKey(OpenFolderResult result) {
     default:
         return "cli_error_notFound";
     }
-}
-
-/// The item with the file of that name; the other half of a group stands for its item.
-MySinglePicPtr itemWithName(const MySingleFolder &folder, const std::string &name) {
-    const auto &items = folder.sfPicDetails_fullArray;
-    const auto found = std::find_if(items.begin(), items.end(), [&](const auto &pic) {
-        const MySinglePicPtr &dependent = pic->group.bundleDependentImage;
-        return pic->spName == name || (dependent && dependent->spName == name);
-    });
-    return found == items.end() ? nullptr : *found;
-}
-
-std::optional<Complaint> complaintOf(DateChangeOutcome outcome, const std::string &what) {
-    if (outcome != DateChangeOutcome::RefusedOutOfBounds)
-        return std::nullopt;
-    return Complaint{2, text("cli_error_shiftOutOfBounds", {printable(what)})};
 }
 
 void tell(const std::string &message) {
@@ -79,7 +63,7 @@ std::optional<int> MendSession::open(const Opening &opening) {
     if (!complaint)
         importAll(opening.completion);
     for (std::size_t i = 0; i < m_folders.size() && !complaint && !wasInterrupted(); ++i)
-        complaint = shift(m_plans[i].block, *m_folders[i]);
+        complaint = correct(*m_controller, m_plans[i], *m_folders[i]);
     if (complaint) {
         tell(complaint->message);
         return complaint->exitCode;
@@ -156,7 +140,8 @@ void MendSession::addInnerFolder(const MySingleFolderPtr &folder, const MySingle
     FolderPlan plan = m_plans[static_cast<std::size_t>(outer)];
     plan.path = folder->sfFolderPath();
     plan.names.clear();
-    plan.block.picShifts.clear();
+    plan.pics.clear();
+    plan.block.alternatives.clear();
     m_importOptions[folder.get()] = plan.importOptions;
     m_innerFolders.insert(folder.get());
     m_folders.insert(m_folders.begin() + place, folder);
@@ -217,37 +202,6 @@ void MendSession::tellLeftAlone() const {
                                      [](const auto &pic) { return pic->importState.isLeftAlone; });
     if (count > 0)
         tell(text("cli_emptyTagsLeftAlone", {std::to_string(count)}));
-}
-
-std::optional<Complaint> MendSession::shift(const FolderBlock &block, MySingleFolder &folder) {
-    if (folder.sfEditMode == EditMode::Single)
-        return shiftSingly(block, folder);
-    if (!block.shift)
-        return std::nullopt;
-    return complaintOf(m_controller->shiftFolder(folder, *block.shift), block.path);
-}
-
-/// Single mode: the folder's shift is given to each item as its own, an item's own is added.
-std::optional<Complaint> MendSession::shiftSingly(const FolderBlock &block,
-                                                  MySingleFolder &folder) {
-    if (block.shift) {
-        const auto outcome = m_controller->shiftItems(folder.sfPicDetails_fullArray, *block.shift);
-        if (auto complaint = complaintOf(outcome, block.path))
-            return complaint;
-    }
-    std::set<MySinglePicPtr> shifted;
-    for (const auto &[name, shift] : block.picShifts) {
-        const MySinglePicPtr pic = itemWithName(folder, name);
-        if (!pic)
-            return Complaint{2,
-                             text("cli_error_noSuchPic", {printable(name), printable(block.path)})};
-        // Both files of a group named one by one: the item would move twice.
-        if (!shifted.insert(pic).second)
-            return Complaint{2, text("cli_error_picTwice", {printable(name)})};
-        if (auto complaint = complaintOf(m_controller->shiftItems({pic}, shift), name))
-            return complaint;
-    }
-    return std::nullopt;
 }
 
 /// Never asked for: every folder says so before its import.

@@ -52,8 +52,6 @@ private:
     void import(const FolderPlan &plan, const MySingleFolderPtr &folder,
                 CompletionScope completion);
     void tellSkipped(const FolderPlan &plan, const std::vector<SkippedEntry> &skipped);
-    std::optional<Complaint> shift(const FolderBlock &block, MySingleFolder &folder);
-    std::optional<Complaint> shiftSingly(const FolderBlock &block, MySingleFolder &folder);
     void tellLeftAlone() const;
     void failPath(const std::string &message);
 

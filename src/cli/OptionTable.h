@@ -13,6 +13,7 @@ enum class OptionId : std::uint8_t {
     Folder,
     Shift,
     Pic,
+    Alternative,
     SourceZone,
     TargetZone,
     EmptyTags,
@@ -47,12 +48,13 @@ inline constexpr unsigned ofInfo = commandBit(Command::Info);
 inline constexpr unsigned ofSave = commandBit(Command::Save);
 inline constexpr unsigned ofFolders = commandBit(Command::List) | ofInfo | ofSave;
 
-inline constexpr std::array<OptionDescription, 18> optionTable{{
+inline constexpr std::array<OptionDescription, 19> optionTable{{
     {OptionId::Folder, "--folder", "PATH", "cli_help_folder", true, ofFolders},
     {OptionId::Shift, "--shift", "SPEC", "cli_help_shift", true, ofFolders},
     {OptionId::Pic, "--pic", "NAME", "cli_help_pic", true, ofFolders},
     {OptionId::SourceZone, "--source-zone", "NAME", "cli_help_sourceZone", true, ofFolders},
     {OptionId::TargetZone, "--target-zone", "NAME|own", "cli_help_targetZone", true, ofFolders},
+    {OptionId::Alternative, "--alternative", "NAME", "cli_help_alternative", true, ofFolders},
     {OptionId::EmptyTags, "--empty-tags", "leave|file|DATE[+STEP]", "cli_help_emptyTags", true,
      ofFolders},
     {OptionId::MovieDate, "--movie-date", "mdta|mvhd", "cli_help_movieDate", true, ofFolders},

@@ -36,7 +36,7 @@ TEST_F(CommandLineUse, MistakesAreNamedAndNothingIsWritten) {
     expectUsageError({"list", canon, "--shift", "60"}, "--shift is about a folder");
     expectUsageError({"save", "--folder", canon, "--shift", "soon"}, "soon is no shift");
     expectUsageError({"save", "--folder", canon, "--shift", "1", "--shift", "2"}, "twice");
-    expectUsageError({"save", "--folder", canon, "--pic", "a.jpg"}, "needs a --shift");
+    expectUsageError({"save", "--folder", canon, "--pic", "a.jpg"}, "needs a --shift, a");
     expectUsageError({"save", "--folder", canon, "--pic", "b.jpg", "--shift", "1"},
                      "no item b.jpg");
     expectUsageError({"save", "--folder", canon, "--empty-tags", "guess"}, "guess says nothing");

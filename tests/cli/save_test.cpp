@@ -81,7 +81,7 @@ TEST_F(Save, WitnessSeesTheNewStamps) {
     const std::string other = writePhoto("phone/c.jpg", "2024:05:06 07:08:09");
     const RunResult run =
         mend({"save", "--json", "--folder", path("canon"), "--shift", "-1:00:00", "--folder",
-              path("phone"), "--pic", "b.jpg", "--shift", "+1:00:00", "--target-zone", "own"});
+              path("phone"), "--target-zone", "own", "--pic", "b.jpg", "--shift", "+1:00:00"});
     EXPECT_EQ(run.exitCode, 0) << run.errors;
     EXPECT_EQ(summaryOf(run).at("saved"), 2);
     EXPECT_EQ(summaryOf(run).at("unchanged"), 1);
