@@ -40,7 +40,7 @@ inline void readMovieAs(std::string_view bytes, FileFormatType format) {
         std::abort();
     const auto header = reader.readMovieHeader(format);
     requireTruth(header.value_or(MovieHeader()), bytes);
-    (void)reader.readMovieDetails(format);
+    (void)reader.readMovieDetails();
 }
 
 inline std::string_view textOf(const std::uint8_t *data, std::size_t size) {

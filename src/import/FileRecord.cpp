@@ -59,7 +59,7 @@ void readStill(MySingleFolderDataReader &reader, std::string_view extension, Fil
 
 void readMovie(MySingleFolderDataReader &reader, FileRecord &record) {
     record.movieHeader = reader.readMovieHeader(record.format);
-    record.movieDetails = reader.readMovieDetails(record.format);
+    record.movieDetails = reader.readMovieDetails();
 }
 
 } // namespace

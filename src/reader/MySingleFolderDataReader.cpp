@@ -143,7 +143,7 @@ std::optional<MovieHeader> MySingleFolderDataReader::readMovieHeader(FileFormatT
                : readQuicktimeHeader(m_file->window, format != FileFormatQuickTime);
 }
 
-MovieDetails MySingleFolderDataReader::readMovieDetails(FileFormatType /*format*/) {
+MovieDetails MySingleFolderDataReader::readMovieDetails() {
     return m_file ? chronomender::readMovieDetails(m_file->window) : MovieDetails();
 }
 

@@ -64,7 +64,7 @@ public:
     /// Dates and places of a movie, by format: atoms for QuickTime and MPEG-4, RIFF for the others.
     /// None when the file has none that could be read.
     std::optional<MovieHeader> readMovieHeader(FileFormatType format);
-    MovieDetails readMovieDetails(FileFormatType format);
+    MovieDetails readMovieDetails();
 
     /// The preview inside a raw file; none without one.
     std::optional<InternalPreview> readInternalPreview();

@@ -26,7 +26,7 @@ inline MovieDetails details(const std::string &bytes) {
     const little::MemoryFile file(bytes);
     MySingleFolderDataReader reader;
     EXPECT_TRUE(reader.borrow(file.descriptor()));
-    return reader.readMovieDetails(FileFormatQuickTime);
+    return reader.readMovieDetails();
 }
 
 /// The value stands at the place of that name, with these bytes and room for them.

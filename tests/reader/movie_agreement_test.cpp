@@ -72,7 +72,7 @@ std::optional<MovieHeader> readCorpusMovie(const CorpusFile &file, MovieDetails 
     std::string extension = std::filesystem::path(file.path).extension().string().substr(1);
     const auto format = fileFormatTypeForContent(reader.firstBytes(), extension)
                             .value_or(fileFormatTypeForExtension(extension));
-    *details = reader.readMovieDetails(format);
+    *details = reader.readMovieDetails();
     return reader.readMovieHeader(format);
 }
 

@@ -11,7 +11,7 @@ namespace {
 /// What reading all of a movie costs.
 ReadCount readsOf(MySingleFolderDataReader &reader, FileFormatType format) {
     (void)reader.readMovieHeader(format);
-    (void)reader.readMovieDetails(format);
+    (void)reader.readMovieDetails();
     return reader.readCount();
 }
 
