@@ -3,8 +3,23 @@
 <TS version="2.1" language="de">
 <context>
     <name></name>
+    <message id="cli_align_isAlignedAlready">
+        <translation>Die Auswahl steht schon so; nichts bewegt sich.</translation>
+    </message>
+    <message id="cli_align_noDateToCopy">
+        <translation>Keine Aufnahme der Auswahl hat eine solche Zeit, die von ihrer eigenen abweicht; nichts bewegt sich.</translation>
+    </message>
+    <message id="cli_align_nothingWritten">
+        <translation>Es wurde nichts geschrieben. --save schreibt dies.</translation>
+    </message>
     <message id="cli_emptyTagsLeftAlone">
         <translation>%1 Dateien haben leere Zeitfelder und bleiben, wie sie sind. --empty-tags sagt, was sie bedeuten sollen.</translation>
+    </message>
+    <message id="cli_error_alignOutOfBounds">
+        <translation>Die Ausrichtung würde eine Zeit aus den Jahren 1 bis 4999 schieben. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message id="cli_error_alignWithoutPics">
+        <translation>Geben Sie an, was ausgerichtet wird: --pics NAME… oder --pics all.</translation>
     </message>
     <message id="cli_error_badDateSequence">
         <translation>%1 ist keine Folge von Daten. Angegeben werden das erste Datum und ein Schritt, etwa 2024-05-01T10:00+60.</translation>
@@ -27,8 +42,14 @@
     <message id="cli_error_badShift">
         <translation>%1 ist keine Verschiebung. Möglich sind Sekunden wie -90 oder 0.5 oder Tage und Uhrzeit wie +1d, -1:00 oder +1d2:30:00.</translation>
     </message>
+    <message id="cli_error_badSlot">
+        <translation>%1 ist keine Zeit zum Übernehmen. Möglich sind %2.</translation>
+    </message>
     <message id="cli_error_emptyPath">
         <translation>Ein leerer Text ist kein Pfad.</translation>
+    </message>
+    <message id="cli_error_fewPics">
+        <translation>Diese Ausrichtung braucht mindestens %1 Aufnahmen. Es wurde nichts geschrieben.</translation>
     </message>
     <message id="cli_error_folderTwice">
         <translation>%1 ist zweimal angegeben; alles zu einem Ordner gehört hinter ein --folder.</translation>
@@ -36,17 +57,29 @@
     <message id="cli_error_libraryOfAnotherProgram">
         <translation>%1 gehört zur Mediathek eines Programms und darf nicht hinter dessen Rücken geändert werden.</translation>
     </message>
+    <message id="cli_error_mainNotSelected">
+        <translation>%1 gehört nicht zu --pics.</translation>
+    </message>
+    <message id="cli_error_mainWithoutPack">
+        <translation>--main gilt nur für --pack.</translation>
+    </message>
     <message id="cli_error_nameNotUtf8">
         <translation>%1 ist kein gültiges UTF-8. Benennen Sie den Ordner zuerst um.</translation>
     </message>
     <message id="cli_error_noAccess">
         <translation>%1 lässt sich nicht öffnen: Sie dürfen es nicht lesen.</translation>
     </message>
+    <message id="cli_error_noAlignment">
+        <translation>Geben Sie an, wie ausgerichtet wird: --gaps, --pack, --by-name, --reverse, --mirror oder --copy SLOT.</translation>
+    </message>
     <message id="cli_error_noPaths">
         <translation>Mindestens ein Ordner oder eine Datei muss angegeben sein.</translation>
     </message>
     <message id="cli_error_noSuchPic">
         <translation>Eine Aufnahme %1 gibt es in %2 nicht.</translation>
+    </message>
+    <message id="cli_error_noSuchPicAnywhere">
+        <translation>Eine Aufnahme %1 gibt es in diesen Ordnern nicht.</translation>
     </message>
     <message id="cli_error_notAFolder">
         <translation>%1 ist kein Ordner.</translation>
@@ -78,8 +111,14 @@
     <message id="cli_error_settingNotAllowed">
         <translation>Die Einstellung %1 kann nicht %2 sein; möglich ist %3.</translation>
     </message>
+    <message id="cli_error_severalPics">
+        <translation>%1 steht in mehreren Ordnern. Schreiben Sie %2.</translation>
+    </message>
     <message id="cli_error_shiftOutOfBounds">
         <translation>Die Verschiebung würde %1 aus den Jahren 1 bis 4999 hinausführen.</translation>
+    </message>
+    <message id="cli_error_twoAlignments">
+        <translation>Nur eine Ausrichtung auf einmal: eins von --gaps, --pack, --by-name, --reverse, --mirror und --copy.</translation>
     </message>
     <message id="cli_error_twoFilters">
         <translation>%1 hat --filter-ext und --filter-ext-not. Nur eines davon kann angegeben werden.</translation>
@@ -99,11 +138,29 @@
     <message id="cli_help_accept">
         <translation>Speichern, obwohl es dieses Bedenken gibt</translation>
     </message>
+    <message id="cli_help_align">
+        <translation>Bringt eine Auswahl in Ordnung und zeigt, was gespeichert würde</translation>
+    </message>
+    <message id="cli_help_align_footer">
+        <translation>Genau eins von --gaps, --pack, --by-name, --reverse, --mirror und --copy wird angegeben.
+Beispiele:
+  mend align --gaps --pics IMG_0001.JPG IMG_0002.JPG IMG_0003.JPG --folder canon
+  mend align --copy file-modification --pics all --folder scans --save</translation>
+    </message>
+    <message id="cli_help_alignSave">
+        <translation>Speichert die Ausrichtung mit allen anderen Korrekturen; sonst wird nichts geschrieben</translation>
+    </message>
     <message id="cli_help_all">
         <translation>Auch Dateien ohne Korrektur schreiben</translation>
     </message>
     <message id="cli_help_alternative">
         <translation>Eine Datei des Ordners, deren Zeit zweimal vorkommt: Sie gilt als die frühere von beiden</translation>
+    </message>
+    <message id="cli_help_byName">
+        <translation>Vergibt die Zeiten der Auswahl in der Folge der Namen</translation>
+    </message>
+    <message id="cli_help_copy">
+        <translation>Datiert jede Aufnahme nach einer anderen ihrer eigenen Zeiten: digitized, modification, file-creation oder file-modification, wie in der Datei oder, mit -new dahinter, wie nach dem Speichern</translation>
     </message>
     <message id="cli_help_dateSequence">
         <translation>Gibt den Bildern aller Ordner ein Datum nach dem anderen, in der Folge ihrer Namen: das erste Datum und den Schritt STEP (Sekunden oder H:MM:SS) zum nächsten</translation>
@@ -132,6 +189,9 @@
     <message id="cli_help_footer">
         <translation>Ergebnis: 0 erledigt, 1 bei manchen Dateien misslungen, 2 Aufruf falsch, 3 Bedenken vor dem Speichern und nichts geschrieben, 130 unterbrochen.</translation>
     </message>
+    <message id="cli_help_gaps">
+        <translation>Verteilt die Auswahl gleichmäßig zwischen ihrer ersten und letzten Aufnahme</translation>
+    </message>
     <message id="cli_help_help">
         <translation>Diese Hilfe ausgeben</translation>
     </message>
@@ -155,8 +215,14 @@
         <translation>Beispiel:
   mend list --folder canon --shift -1:00:00 --folder nikon --source-zone America/New_York phone</translation>
     </message>
+    <message id="cli_help_main">
+        <translation>Die Hauptaufnahme für --pack, die stehen bleibt (sonst die erste der Auswahl)</translation>
+    </message>
     <message id="cli_help_mend">
         <translation>Bringt Fotos mehrerer Kameras in eine Reihenfolge und korrigiert ihre Zeiten in den Dateien.</translation>
+    </message>
+    <message id="cli_help_mirror">
+        <translation>Kehrt die Folge der Auswahl um; jede Aufnahme behält die Abstände zu ihren Nachbarn</translation>
     </message>
     <message id="cli_help_movieClock">
         <translation>Was die Zeiten im Filmkopf bedeuten: utc, wie es das Format verlangt (Voreinstellung), oder local, die Uhr der Kamera</translation>
@@ -164,11 +230,20 @@
     <message id="cli_help_movieDate">
         <translation>Welches Datum eines Films zählt: mdta, das seiner Metadaten, wo es eines gibt (Voreinstellung), oder mvhd, das seines Kopfs</translation>
     </message>
+    <message id="cli_help_pack">
+        <translation>Rückt die Auswahl um ihre Hauptaufnahme zusammen, je eine Sekunde auseinander</translation>
+    </message>
     <message id="cli_help_path">
         <translation>Ordner oder Dateien ohne eigene Angaben</translation>
     </message>
     <message id="cli_help_pic">
         <translation>Eine Aufnahme des Ordners; --shift (kommt zu dem des Ordners dazu), --source-zone und --target-zone dahinter gelten nur für sie</translation>
+    </message>
+    <message id="cli_help_pics">
+        <translation>Die Auswahl: Namen bis zur nächsten Option, ORDNER/NAME oder Pfade, wo ein Name in mehreren Ordnern steht; oder all</translation>
+    </message>
+    <message id="cli_help_reverse">
+        <translation>Kehrt die Zeiten der Auswahl um: Die erste bekommt die der letzten</translation>
     </message>
     <message id="cli_help_runOptions">
         <translation>Angaben zum ganzen Lauf</translation>

@@ -3,8 +3,23 @@
 <TS version="2.1" language="en">
 <context>
     <name></name>
+    <message id="cli_align_isAlignedAlready">
+        <translation>The selection is aligned so already; nothing moves.</translation>
+    </message>
+    <message id="cli_align_noDateToCopy">
+        <translation>No item of the selection has such a date, other than its own; nothing moves.</translation>
+    </message>
+    <message id="cli_align_nothingWritten">
+        <translation>Nothing was written. --save writes this.</translation>
+    </message>
     <message id="cli_emptyTagsLeftAlone">
         <translation>%1 files have empty date tags and are left alone. --empty-tags says what they are to mean.</translation>
+    </message>
+    <message id="cli_error_alignOutOfBounds">
+        <translation>The alignment would move a date out of the years 1 to 4999. Nothing was written.</translation>
+    </message>
+    <message id="cli_error_alignWithoutPics">
+        <translation>Say what to align: --pics NAME…, or --pics all.</translation>
     </message>
     <message id="cli_error_badDateSequence">
         <translation>%1 is no sequence of dates. Give the first date and a step, such as 2024-05-01T10:00+60.</translation>
@@ -27,8 +42,14 @@
     <message id="cli_error_badShift">
         <translation>%1 is no shift. Give seconds, such as -90 or 0.5, or days and a clock, such as +1d, -1:00 or +1d2:30:00.</translation>
     </message>
+    <message id="cli_error_badSlot">
+        <translation>%1 is no date to copy. Give one of %2.</translation>
+    </message>
     <message id="cli_error_emptyPath">
         <translation>An empty text is no path.</translation>
+    </message>
+    <message id="cli_error_fewPics">
+        <translation>This alignment needs at least %1 items. Nothing was written.</translation>
     </message>
     <message id="cli_error_folderTwice">
         <translation>%1 is given twice; put all that is about one folder behind one --folder.</translation>
@@ -36,17 +57,29 @@
     <message id="cli_error_libraryOfAnotherProgram">
         <translation>%1 belongs to the library of a program, which must not be changed behind its back.</translation>
     </message>
+    <message id="cli_error_mainNotSelected">
+        <translation>%1 is not one of --pics.</translation>
+    </message>
+    <message id="cli_error_mainWithoutPack">
+        <translation>--main is about --pack only.</translation>
+    </message>
     <message id="cli_error_nameNotUtf8">
         <translation>%1 is not valid UTF-8. Rename the folder first.</translation>
     </message>
     <message id="cli_error_noAccess">
         <translation>%1 cannot be opened: you may not read it.</translation>
     </message>
+    <message id="cli_error_noAlignment">
+        <translation>Say how to align: --gaps, --pack, --by-name, --reverse, --mirror or --copy SLOT.</translation>
+    </message>
     <message id="cli_error_noPaths">
         <translation>Name at least one folder or file.</translation>
     </message>
     <message id="cli_error_noSuchPic">
         <translation>There is no item %1 in %2.</translation>
+    </message>
+    <message id="cli_error_noSuchPicAnywhere">
+        <translation>There is no item %1 in these folders.</translation>
     </message>
     <message id="cli_error_notAFolder">
         <translation>%1 is not a folder.</translation>
@@ -78,8 +111,14 @@
     <message id="cli_error_settingNotAllowed">
         <translation>The preference %1 cannot be %2; it accepts %3.</translation>
     </message>
+    <message id="cli_error_severalPics">
+        <translation>%1 stands in several folders. Write one of %2.</translation>
+    </message>
     <message id="cli_error_shiftOutOfBounds">
         <translation>The shift would move %1 out of the years 1 to 4999.</translation>
+    </message>
+    <message id="cli_error_twoAlignments">
+        <translation>Only one alignment at a time: one of --gaps, --pack, --by-name, --reverse, --mirror and --copy.</translation>
     </message>
     <message id="cli_error_twoFilters">
         <translation>%1 has --filter-ext and --filter-ext-not. Give one of them.</translation>
@@ -99,11 +138,29 @@
     <message id="cli_help_accept">
         <translation>Save although this problem was found</translation>
     </message>
+    <message id="cli_help_align">
+        <translation>Put a selection in order and show what a save would write</translation>
+    </message>
+    <message id="cli_help_align_footer">
+        <translation>Exactly one of --gaps, --pack, --by-name, --reverse, --mirror and --copy is given.
+Examples:
+  mend align --gaps --pics IMG_0001.JPG IMG_0002.JPG IMG_0003.JPG --folder canon
+  mend align --copy file-modification --pics all --folder scans --save</translation>
+    </message>
+    <message id="cli_help_alignSave">
+        <translation>Save the alignment with all other corrections; without it nothing is written</translation>
+    </message>
     <message id="cli_help_all">
         <translation>Write files without a correction as well</translation>
     </message>
     <message id="cli_help_alternative">
         <translation>A file of the folder whose date happens twice: it is read as the earlier of the two</translation>
+    </message>
+    <message id="cli_help_byName">
+        <translation>Give the dates of the selection out in the order of the names</translation>
+    </message>
+    <message id="cli_help_copy">
+        <translation>Date each item by another of its own dates: digitized, modification, file-creation or file-modification, each as in the file or, with -new behind it, as a save would leave it</translation>
     </message>
     <message id="cli_help_dateSequence">
         <translation>Gives the items of all folders one date after the other, in the order of their names: the first date, and the STEP (seconds or H:MM:SS) to the next</translation>
@@ -132,6 +189,9 @@
     <message id="cli_help_footer">
         <translation>Exit codes: 0 done, 1 some item failed, 2 usage, 3 problems before the save and nothing written, 130 interrupted.</translation>
     </message>
+    <message id="cli_help_gaps">
+        <translation>Spread the selection evenly between its first and its last item</translation>
+    </message>
     <message id="cli_help_help">
         <translation>Print this help and end</translation>
     </message>
@@ -155,8 +215,14 @@
         <translation>Example:
   mend list --folder canon --shift -1:00:00 --folder nikon --source-zone America/New_York phone</translation>
     </message>
+    <message id="cli_help_main">
+        <translation>The main item for --pack, which stays (default: the first of the selection)</translation>
+    </message>
     <message id="cli_help_mend">
         <translation>Puts photos of several cameras in one order and corrects their dates inside the files.</translation>
+    </message>
+    <message id="cli_help_mirror">
+        <translation>Reverse the order of the selection; each item keeps its gaps to its neighbours</translation>
     </message>
     <message id="cli_help_movieClock">
         <translation>What the times in a movie’s header tell: utc, as the format says (default), or local, the clock of the camera</translation>
@@ -164,11 +230,20 @@
     <message id="cli_help_movieDate">
         <translation>Which of a movie’s dates counts: mdta, that of its metadata where there is one (default), or mvhd, that of its header</translation>
     </message>
+    <message id="cli_help_pack">
+        <translation>Pack the selection around its main item, one second apart</translation>
+    </message>
     <message id="cli_help_path">
         <translation>Folders or files without options of their own</translation>
     </message>
     <message id="cli_help_pic">
         <translation>An item of the folder; the --shift (added to the folder’s), --source-zone and --target-zone behind it are for it alone</translation>
+    </message>
+    <message id="cli_help_pics">
+        <translation>The selection: names up to the next option, FOLDER/NAME or paths where a name stands in several folders; or all</translation>
+    </message>
+    <message id="cli_help_reverse">
+        <translation>Swap the dates of the selection end for end</translation>
     </message>
     <message id="cli_help_runOptions">
         <translation>Options of the whole run</translation>

@@ -22,6 +22,18 @@ constexpr std::array<Word<MovieDate>, 2> movieDates{
 constexpr std::array<Word<MovieClock>, 2> movieClocks{
     {{"utc", MovieClock::Utc}, {"local", MovieClock::Local}}};
 
+/// The dates that `--copy` can take, as found in the file and as a save would leave them.
+constexpr std::array<Word<AlignCommand>, 8> copyableSlots{{
+    {"digitized", AlignCommand::CopyDigitizedOld},
+    {"digitized-new", AlignCommand::CopyDigitizedNew},
+    {"modification", AlignCommand::CopyTiffOld},
+    {"modification-new", AlignCommand::CopyTiffNew},
+    {"file-creation", AlignCommand::CopyFileCreationOld},
+    {"file-creation-new", AlignCommand::CopyFileCreationNew},
+    {"file-modification", AlignCommand::CopyFileModificationOld},
+    {"file-modification-new", AlignCommand::CopyFileModificationNew},
+}};
+
 template<class Value, std::size_t count>
 std::optional<Value> wordIn(const std::array<Word<Value>, count> &words, std::string_view typed) {
     const auto found = std::ranges::find(words, typed, &Word<Value>::word);
@@ -90,6 +102,40 @@ const BlockCollector::BlockHandler BlockCollector::blockHandlers[] =
          }},
 };
 
+const BlockCollector::RunHandler BlockCollector::runHandlers[] = {
+    {OptionId::Json, [](BlockCollector &c, const std::string &) { c.m_line.isJson = true; }},
+    {OptionId::DryRun, [](BlockCollector &c, const std::string &) { c.m_line.isDryRun = true; }},
+    {OptionId::All, [](BlockCollector &c, const std::string &) { c.m_line.savesAll = true; }},
+    {OptionId::DateSequence,
+     [](BlockCollector &c, const std::string &value) { c.addDateSequence(value); }},
+    {OptionId::Set, [](BlockCollector &c, const std::string &value) { c.addSetting(value); }},
+    {OptionId::Accept, [](BlockCollector &c, const std::string &value) { c.addAccepted(value); }},
+    {OptionId::SystemZone,
+     [](BlockCollector &c, const std::string &value) { c.m_line.systemZone = value; }},
+    {OptionId::Gaps,
+     [](BlockCollector &c, const std::string &) { c.addAlignment(AlignCommand::MatchingGaps); }},
+    {OptionId::Pack,
+     [](BlockCollector &c, const std::string &) { c.addAlignment(AlignCommand::MinimizingGaps); }},
+    {OptionId::ByName,
+     [](BlockCollector &c, const std::string &) { c.addAlignment(AlignCommand::Filename); }},
+    {OptionId::Reverse,
+     [](BlockCollector &c, const std::string &) { c.addAlignment(AlignCommand::Reversing); }},
+    {OptionId::Mirror,
+     [](BlockCollector &c, const std::string &) { c.addAlignment(AlignCommand::ReversingAlt); }},
+    {OptionId::Copy, [](BlockCollector &c, const std::string &value) { c.addCopy(value); }},
+    {OptionId::Pics,
+     [](BlockCollector &c, const std::string &value) { c.m_line.align.pics.push_back(value); }},
+    {OptionId::Main,
+     [](BlockCollector &c, const std::string &value) { c.m_line.align.mainPic = value; }},
+    {OptionId::Save, [](BlockCollector &c, const std::string &) { c.m_line.isDryRun = false; }},
+};
+
+/// An alignment is only shown until it is to be saved.
+BlockCollector::BlockCollector(Command command) {
+    m_line.command = command;
+    m_line.isDryRun = command == Command::Align;
+}
+
 void BlockCollector::fail(std::string message) {
     if (!m_error)
         m_error = std::move(message);
@@ -103,10 +149,13 @@ void BlockCollector::add(OptionId id, const char *name, const std::string &value
         return;
     }
     const auto handler = std::ranges::find(blockHandlers, id, &BlockHandler::id);
-    if (handler != std::end(blockHandlers))
+    if (handler != std::end(blockHandlers)) {
         addToBlock(*handler, {name, value});
-    else
-        addToRun(id, value);
+        return;
+    }
+    const auto ofRun = std::ranges::find(runHandlers, id, &RunHandler::id);
+    if (ofRun != std::end(runHandlers))
+        ofRun->take(*this, value);
 }
 
 void BlockCollector::openBlock(const std::string &path, bool isPlain) {
@@ -122,6 +171,34 @@ void BlockCollector::finish() {
     closePic();
     if (m_line.blocks.empty())
         fail(text("cli_error_noPaths"));
+    if (m_line.command == Command::Align)
+        checkAlignment();
+}
+
+void BlockCollector::checkAlignment() {
+    const AlignWish &wish = m_line.align;
+    if (!wish.command)
+        fail(text("cli_error_noAlignment"));
+    else if (wish.pics.empty())
+        fail(text("cli_error_alignWithoutPics"));
+    else if (wish.mainPic && wish.command != AlignCommand::MinimizingGaps)
+        fail(text("cli_error_mainWithoutPack"));
+}
+
+void BlockCollector::addAlignment(AlignCommand command) {
+    if (m_line.align.command)
+        fail(text("cli_error_twoAlignments"));
+    m_line.align.command = command;
+}
+
+void BlockCollector::addCopy(const std::string &slot) {
+    std::string known;
+    for (const auto &word : copyableSlots)
+        known += (known.empty() ? "" : ", ") + std::string(word.word);
+    if (const auto command = wordIn(copyableSlots, slot))
+        addAlignment(*command);
+    else
+        fail(text("cli_error_badSlot", {printable(slot), known}));
 }
 
 /// Behind a --pic the corrections are its own, up to the next one.
@@ -144,34 +221,6 @@ void BlockCollector::closePic() {
     const PicBlock &pic = m_line.blocks.back().pics.back();
     if (pic.isEmpty())
         fail(text("cli_error_picWithoutCorrection", {printable(pic.name)}));
-}
-
-void BlockCollector::addToRun(OptionId id, const std::string &value) {
-    switch (id) {
-    case OptionId::Json:
-        m_line.isJson = true;
-        break;
-    case OptionId::DryRun:
-        m_line.isDryRun = true;
-        break;
-    case OptionId::All:
-        m_line.savesAll = true;
-        break;
-    case OptionId::DateSequence:
-        addDateSequence(value);
-        break;
-    case OptionId::Set:
-        addSetting(value);
-        break;
-    case OptionId::Accept:
-        addAccepted(value);
-        break;
-    case OptionId::SystemZone:
-        m_line.systemZone = value;
-        break;
-    default:
-        break;
-    }
 }
 
 void BlockCollector::addDateSequence(const std::string &value) {

@@ -13,7 +13,7 @@ namespace chronomender {
 /// run. After an error nothing more is taken.
 class BlockCollector {
 public:
-    explicit BlockCollector(Command command) { m_line.command = command; }
+    explicit BlockCollector(Command command);
 
     void add(OptionId id, const char *name, const std::string &value);
     /// The checks that need the whole line.
@@ -34,9 +34,14 @@ private:
         void (*take)(BlockCollector &collector, FolderBlock &block, const Typed &typed);
     };
     static const BlockHandler blockHandlers[];
+    /// What takes an option of the run; flags have no value.
+    struct RunHandler {
+        OptionId id;
+        void (*take)(BlockCollector &collector, const std::string &value);
+    };
+    static const RunHandler runHandlers[];
 
     void openBlock(const std::string &path, bool isPlain);
-    void addToRun(OptionId id, const std::string &value);
     void addToBlock(const BlockHandler &handler, const Typed &typed);
     void openPic(FolderBlock &block, const std::string &name);
     static Correction &openCorrection(FolderBlock &block);
@@ -45,6 +50,9 @@ private:
     void addDateSequence(const std::string &value);
     void addSetting(const std::string &value);
     void addAccepted(const std::string &value);
+    void addAlignment(AlignCommand command);
+    void addCopy(const std::string &slot);
+    void checkAlignment();
     template<class Value>
     void setOnce(std::optional<Value> &place, const Typed &typed, std::optional<Value> value,
                  const char *complaintKey);

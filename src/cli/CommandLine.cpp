@@ -26,6 +26,7 @@ constexpr CommandDescription commandTable[]{
     {Command::List, "list", "cli_help_list", "cli_help_list_footer"},
     {Command::Info, "info", "cli_help_info", "cli_help_info_footer"},
     {Command::Save, "save", "cli_help_save", "cli_help_save_footer"},
+    {Command::Align, "align", "cli_help_align", "cli_help_align_footer"},
 };
 
 const OptionDescription *findOption(const std::string &name) {
@@ -40,13 +41,22 @@ bool takesNextArgument(const std::string &argument) {
     return argument == "--language" || (option && *option->valueName);
 }
 
+bool takesAllNextArguments(const std::string &argument) {
+    const OptionDescription *option = findOption(argument);
+    return option && option->takesSeveral;
+}
+
 /// The library reads a plain argument in brackets as a list of values; "./[a]" names the same file.
 void shieldBrackets(std::vector<std::string> &arguments) {
-    for (std::size_t i = 0; i < arguments.size(); ++i)
+    bool isPlain = true;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (arguments[i].starts_with('-'))
+            isPlain = !takesAllNextArguments(arguments[i]);
         if (takesNextArgument(arguments[i]))
             ++i;
-        else if (arguments[i].starts_with('['))
+        else if (isPlain && arguments[i].starts_with('['))
             arguments[i].insert(0, "./");
+    }
 }
 
 /// The library's parser of one command, and which of its options is which of ours.
@@ -96,8 +106,10 @@ private:
         if (*description.valueName) {
             option = m_app->add_option(description.name, m_values[&description],
                                        text(description.textKey));
-            option->expected(1)->type_name(description.valueName);
-            option->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)->allow_extra_args(false);
+            option->expected(1, description.takesSeveral ? -1 : 1);
+            option->type_name(description.valueName);
+            option->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+                ->allow_extra_args(description.takesSeveral);
         } else {
             const std::string help = text(description.textKey);
             option = m_app->add_flag(description.name, help);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Alignment.h"
 #include "SaveErrors.h"
 #include "ShiftSpec.h"
 
@@ -47,7 +48,14 @@ struct FolderBlock : Correction {
     std::optional<int> subfolderDepth;                  ///< 0: no folders inside the folder
 };
 
-enum class Command : std::uint8_t { List, Info, Save };
+/// What `mend align` is to do.
+struct AlignWish {
+    std::optional<AlignCommand> command;
+    std::vector<std::string> pics;      ///< names, FOLDER/NAME or paths; "all"
+    std::optional<std::string> mainPic; ///< likewise; none: the first of the selection
+};
+
+enum class Command : std::uint8_t { List, Info, Save, Align };
 
 /// What the user asked for, checked as far as that goes without looking at the disk.
 struct CommandLine {
@@ -57,6 +65,7 @@ struct CommandLine {
     std::optional<std::string> systemZone;
     /// Dates that all items of all folders get, one after the other in the order of their names.
     std::optional<EmptyTagsSpec> dateSequence;
+    AlignWish align;
     bool isJson = false, isDryRun = false, savesAll = false;
     bool acceptsAll = false;
     std::set<PreSaveProblem> accepted;

@@ -18,5 +18,6 @@ enum ExitCode : int {
 int runList(const CommandLine &line);
 int runInfo(const CommandLine &line);
 int runSave(const CommandLine &line);
+int runAlign(const CommandLine &line);
 
 } // namespace chronomender

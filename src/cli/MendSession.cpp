@@ -31,10 +31,6 @@ const char *complaintKey(OpenFolderResult result) {
     }
 }
 
-void tell(const std::string &message) {
-    writeError("mend: " + message + '\n');
-}
-
 } // namespace
 
 std::optional<int> MendSession::open(const Opening &opening) {
@@ -65,7 +61,7 @@ std::optional<int> MendSession::open(const Opening &opening) {
     for (std::size_t i = 0; i < m_folders.size() && !complaint && !wasInterrupted(); ++i)
         complaint = correct(*m_controller, m_plans[i], *m_folders[i]);
     if (complaint) {
-        tell(complaint->message);
+        complain(complaint->message);
         return complaint->exitCode;
     }
     m_controller->buildNewSource();
@@ -98,7 +94,7 @@ std::optional<Complaint> MendSession::applySettings(AppServices &services) const
 
 void MendSession::failPath(const std::string &message) {
     m_hasFailedPaths = true;
-    tell(message);
+    complain(message);
 }
 
 std::optional<Complaint> MendSession::addFolders(const FolderPlans &plans) {
@@ -179,7 +175,7 @@ void MendSession::import(const FolderPlan &plan, const MySingleFolderPtr &folder
         [&](auto finished) { m_controller->startImport(std::move(request), finished); });
     tellSkipped(plan, outcome.skipped);
     for (const ImportError &error : outcome.importErrors)
-        tell(text("cli_skipped", {printable(error.path), text(textKey(error.id))}));
+        complain(text("cli_skipped", {printable(error.path), text(textKey(error.id))}));
 }
 
 void MendSession::tellSkipped(const FolderPlan &plan, const std::vector<SkippedEntry> &skipped) {
@@ -190,10 +186,10 @@ void MendSession::tellSkipped(const FolderPlan &plan, const std::vector<SkippedE
             continue;
         }
         m_hasFailedPaths = m_hasFailedPaths || !plan.names.empty();
-        tell(text("cli_skipped", {printable(entry.path), text(textKey(entry.reason))}));
+        complain(text("cli_skipped", {printable(entry.path), text(textKey(entry.reason))}));
     }
     if (notReached > 0)
-        tell(text("cli_importInterrupted", {printable(plan.path), std::to_string(notReached)}));
+        complain(text("cli_importInterrupted", {printable(plan.path), std::to_string(notReached)}));
 }
 
 void MendSession::tellLeftAlone() const {
@@ -201,7 +197,7 @@ void MendSession::tellLeftAlone() const {
     const auto count = std::count_if(items.begin(), items.end(),
                                      [](const auto &pic) { return pic->importState.isLeftAlone; });
     if (count > 0)
-        tell(text("cli_emptyTagsLeftAlone", {std::to_string(count)}));
+        complain(text("cli_emptyTagsLeftAlone", {std::to_string(count)}));
 }
 
 /// Never asked for: every folder says so before its import.
@@ -224,7 +220,7 @@ int settledCode(const MendSession &session, int code) {
 int codeAfterWriting(WriteResult written, int code) {
     if (written != WriteResult::Failed)
         return code;
-    tell(text("cli_error_outputFailed"));
+    complain(text("cli_error_outputFailed"));
     return code == exitDone ? exitItemFailed : code;
 }
 

@@ -29,6 +29,15 @@ enum class OptionId : std::uint8_t {
     DryRun,
     Accept,
     Json,
+    Gaps,
+    Pack,
+    ByName,
+    Reverse,
+    Mirror,
+    Copy,
+    Pics,
+    Main,
+    Save,
 };
 
 /// One option of a command: which commands have it, and what it belongs to.
@@ -39,6 +48,7 @@ struct OptionDescription {
     const char *textKey;
     bool isOfFolder; ///< belongs to the block that is open, not to the run
     unsigned commands;
+    bool takesSeveral = false; ///< all values up to the next option
 };
 
 constexpr unsigned commandBit(Command command) {
@@ -46,9 +56,10 @@ constexpr unsigned commandBit(Command command) {
 }
 inline constexpr unsigned ofInfo = commandBit(Command::Info);
 inline constexpr unsigned ofSave = commandBit(Command::Save);
-inline constexpr unsigned ofFolders = commandBit(Command::List) | ofInfo | ofSave;
+inline constexpr unsigned ofAlign = commandBit(Command::Align);
+inline constexpr unsigned ofFolders = commandBit(Command::List) | ofInfo | ofSave | ofAlign;
 
-inline constexpr std::array<OptionDescription, 19> optionTable{{
+inline constexpr std::array<OptionDescription, 28> optionTable{{
     {OptionId::Folder, "--folder", "PATH", "cli_help_folder", true, ofFolders},
     {OptionId::Shift, "--shift", "SPEC", "cli_help_shift", true, ofFolders},
     {OptionId::Pic, "--pic", "NAME", "cli_help_pic", true, ofFolders},
@@ -62,10 +73,19 @@ inline constexpr std::array<OptionDescription, 19> optionTable{{
     {OptionId::FilterExt, "--filter-ext", "LIST", "cli_help_filterExt", true, ofFolders},
     {OptionId::FilterExtNot, "--filter-ext-not", "LIST", "cli_help_filterExtNot", true, ofFolders},
     {OptionId::Subfolders, "--subfolders", "DEPTH", "cli_help_subfolders", true, ofFolders},
+    {OptionId::Gaps, "--gaps", "", "cli_help_gaps", false, ofAlign},
+    {OptionId::Pack, "--pack", "", "cli_help_pack", false, ofAlign},
+    {OptionId::ByName, "--by-name", "", "cli_help_byName", false, ofAlign},
+    {OptionId::Reverse, "--reverse", "", "cli_help_reverse", false, ofAlign},
+    {OptionId::Mirror, "--mirror", "", "cli_help_mirror", false, ofAlign},
+    {OptionId::Copy, "--copy", "SLOT", "cli_help_copy", false, ofAlign},
+    {OptionId::Pics, "--pics", "NAME|all", "cli_help_pics", false, ofAlign, true},
+    {OptionId::Main, "--main", "NAME", "cli_help_main", false, ofAlign},
+    {OptionId::Save, "--save", "", "cli_help_alignSave", false, ofAlign},
     {OptionId::DateSequence, "--date-sequence", "DATE[+STEP]", "cli_help_dateSequence", false,
      ofFolders},
     {OptionId::DryRun, "--dry-run", "", "cli_help_dryRun", false, ofSave},
-    {OptionId::Accept, "--accept", "KEY|all", "cli_help_accept", false, ofSave},
+    {OptionId::Accept, "--accept", "KEY|all", "cli_help_accept", false, ofSave | ofAlign},
     {OptionId::All, "--all", "", "cli_help_all", false, ofSave},
     {OptionId::Json, "--json", "", "cli_help_json", false, ofFolders},
     {OptionId::Set, "--set", "KEY=VALUE", "cli_help_set", false, ofFolders},

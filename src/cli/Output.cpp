@@ -38,6 +38,10 @@ void writeError(std::string_view bytes) {
     writeAll(STDERR_FILENO, bytes);
 }
 
+void complain(const std::string &message) {
+    writeError("mend: " + message + '\n');
+}
+
 std::vector<std::string>
 buildPieces(std::size_t count,
             const std::function<void(std::size_t index, std::string &buffer)> &append) {

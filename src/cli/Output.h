@@ -16,6 +16,8 @@ WriteResult writeOutput(std::string_view bytes);
 WriteResult writeOutput(const std::vector<std::string> &pieces);
 /// Writes to standard error; there is nowhere left to complain.
 void writeError(std::string_view bytes);
+/// One line to standard error, with the program's name in front.
+void complain(const std::string &message);
 
 /// Builds text for 0 ≤ index < count by appending to a buffer, on all processors, and answers the
 /// pieces in order. `append` is called on several threads.

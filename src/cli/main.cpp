@@ -19,6 +19,8 @@ int run(const CommandLine &line) {
         return runList(line);
     case Command::Info:
         return runInfo(line);
+    case Command::Align:
+        return runAlign(line);
     case Command::Save:
         break;
     }

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Commands.h"
+
+#include "MendSession.h"
+#include "Output.h"
+#include "PicLookup.h"
+#include "SaveRun.h"
+#include "Texts.h"
+#include "Utf8Text.h"
+
+#include <algorithm>
+#include <set>
+
+namespace chronomender {
+namespace {
+
+/// Fewer items than this have nothing to be aligned with.
+constexpr std::size_t fewestPics(AlignCommand command) {
+    if (command == AlignCommand::MatchingGaps)
+        return 3;
+    return command < AlignCommand::CopyDigitizedOld ? 2 : 1;
+}
+
+bool isCopy(AlignCommand command) {
+    return command >= AlignCommand::CopyDigitizedOld;
+}
+
+/// The selection that the command line names, and what is done to it.
+class Align {
+public:
+    explicit Align(MendSession &session)
+        : m_session(session), m_wish(session.line().align), m_lookup(session.folders()) {}
+
+    std::optional<Complaint> run() {
+        AlignSelection selection;
+        if (auto complaint = select(selection))
+            return complaint;
+        const std::size_t fewest = fewestPics(*m_wish.command);
+        if (selection.sortedSelectedThumbsArray.size() < fewest)
+            return Complaint{2, text("cli_error_fewPics", {std::to_string(fewest)})};
+        switch (m_session.controller().align(*m_wish.command, selection)) {
+        case AlignOutcome::RefusedOutOfBounds:
+            return Complaint{2, text("cli_error_alignOutOfBounds")};
+        case AlignOutcome::NothingChanged:
+            complain(text(isCopy(*m_wish.command) ? "cli_align_noDateToCopy"
+                                                  : "cli_align_isAlignedAlready"));
+            break;
+        case AlignOutcome::Done:
+            m_session.controller().buildNewSource();
+        }
+        return std::nullopt;
+    }
+
+private:
+    /// In display order, with the main item, which must be one of them.
+    std::optional<Complaint> select(AlignSelection &selection) {
+        std::set<MySinglePicPtr> chosen;
+        for (const std::string &name : m_wish.pics)
+            if (name == "all")
+                chosen.insert(allPics().begin(), allPics().end());
+            else if (auto complaint = insert(name, chosen))
+                return complaint;
+        std::ranges::copy_if(allPics(), std::back_inserter(selection.sortedSelectedThumbsArray),
+                             [&](const auto &pic) { return chosen.contains(pic); });
+        if (!m_wish.mainPic)
+            return std::nullopt;
+        std::set<MySinglePicPtr> anchors;
+        if (auto complaint = insert(*m_wish.mainPic, anchors))
+            return complaint;
+        selection.picSelection = *anchors.begin();
+        if (!chosen.contains(selection.picSelection))
+            return Complaint{2, text("cli_error_mainNotSelected", {printable(*m_wish.mainPic)})};
+        return std::nullopt;
+    }
+
+    std::optional<Complaint> insert(const std::string &name, std::set<MySinglePicPtr> &pics) const {
+        auto found = m_lookup.find(name);
+        if (const auto *complaint = std::get_if<Complaint>(&found))
+            return *complaint;
+        pics.insert(std::get<MySinglePicPtr>(std::move(found)));
+        return std::nullopt;
+    }
+
+    const std::vector<MySinglePicPtr> &allPics() { return m_session.controller().source_full(); }
+
+    MendSession &m_session;
+    const AlignWish &m_wish;
+    PicLookup m_lookup;
+};
+
+} // namespace
+
+int runAlign(const CommandLine &line) {
+    MendSession session(line);
+    if (const auto code = session.open({BadPath::Stop, CompletionScope::None}))
+        return *code;
+    const auto complaint =
+        session.wasInterrupted() ? std::optional<Complaint>() : Align(session).run();
+    if (complaint) {
+        complain(complaint->message);
+        return complaint->exitCode;
+    }
+    return saveSession(session);
+}
+
+} // namespace chronomender

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "FolderPlans.h"
+#include "MySingleFolder.h"
+
+#include <string>
+#include <unordered_map>
+#include <variant>
+#include <vector>
+
+namespace chronomender {
+
+/// Finds the items that names mean, over all folders of a session. Both files of a group are names
+/// of their item. Good until a folder gains or loses items.
+class PicLookup {
+public:
+    explicit PicLookup(const std::vector<MySingleFolderPtr> &folders);
+
+    /// `typed` is a name, FOLDER/NAME with the folder's shown name, or a path. A name that means
+    /// none or several items is a complaint, which names those.
+    std::variant<MySinglePicPtr, Complaint> find(const std::string &typed) const;
+
+private:
+    struct File {
+        MySingleFolderPtr folder;
+        MySinglePicPtr pic;
+    };
+    std::vector<File> candidates(const std::string &typed) const;
+    std::vector<File> filesWithName(const std::string &name) const;
+    static std::string namesOf(const std::vector<File> &files, const std::string &name);
+
+    std::unordered_multimap<std::string, File> m_files; ///< by name
+};
+
+} // namespace chronomender

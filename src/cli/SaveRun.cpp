@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SaveRun.h"
+
+#include "Commands.h"
+#include "EventLoopWait.h"
+#include "Output.h"
+#include "ProgressBar.h"
+#include "SaveReport.h"
+#include "Texts.h"
+
+#include <algorithm>
+
+namespace chronomender {
+namespace {
+
+/// The two stages of one save, and what is said about them.
+class Save {
+public:
+    explicit Save(MendSession &session) : m_session(session) {
+        m_request.savingAll = session.line().savesAll;
+    }
+
+    int run() {
+        m_plan = preProcess();
+        if (m_plan.wasCancelled || m_session.wasInterrupted())
+            return finish(m_plan.items, Stage::Plan, exitInterrupted);
+        if (m_plan.items.empty())
+            return finish(m_plan.items, Stage::Plan, exitDone);
+        const bool needsConsent = hasUnacceptedProblem();
+        if (m_session.line().isDryRun || needsConsent)
+            return finish(m_plan.items, Stage::Plan,
+                          needsConsent ? exitProblems : exitCodeOf(m_plan.items), plannedErrors());
+        const SaveRunResult result = continueProcess();
+        return finish(result.items, Stage::Run,
+                      result.wasCancelled ? exitInterrupted : exitCodeOf(result.items),
+                      result.errors);
+    }
+
+private:
+    using Stage = SaveReport::Stage;
+
+    PreProcessResult preProcess() {
+        ProgressBar bar(text("workPanelPreSave"));
+        return waitFor<PreProcessResult>([&](auto finished) {
+            m_session.controller().startPreProcess(m_request, progressTo(bar), finished);
+        });
+    }
+
+    SaveRunResult continueProcess() {
+        ProgressBar bar(text("workPanelSave"));
+        return waitFor<SaveRunResult>([&](auto finished) {
+            m_session.controller().startContinueProcess(m_request, m_plan, progressTo(bar),
+                                                        finished);
+        });
+    }
+
+    static AppController::Progress progressTo(ProgressBar &bar) {
+        return [&bar](std::size_t done, std::size_t total) { bar.update(done, total); };
+    }
+
+    bool isAccepted(PreSaveProblem problem) const {
+        const CommandLine &line = m_session.line();
+        return line.acceptsAll || line.accepted.contains(problem);
+    }
+
+    bool hasUnacceptedProblem() const {
+        return std::any_of(m_plan.items.begin(), m_plan.items.end(), [&](const auto &item) {
+            return std::any_of(item.problems.begin(), item.problems.end(),
+                               [&](const auto &finding) { return !isAccepted(finding.problem); });
+        });
+    }
+
+    static int exitCodeOf(const std::vector<ItemOutcome> &items) {
+        const bool isWhole = std::none_of(items.begin(), items.end(), [](const auto &item) {
+            return item.result == ItemResult::Refused || item.result == ItemResult::Failed ||
+                   !item.errors.empty();
+        });
+        return isWhole ? exitDone : exitItemFailed;
+    }
+
+    /// What a save would fail with, known without writing.
+    std::vector<SaveError> plannedErrors() const {
+        std::vector<SaveError> errors;
+        for (const ItemOutcome &item : m_plan.items)
+            errors.insert(errors.end(), item.errors.begin(), item.errors.end());
+        return errors;
+    }
+
+    int finish(const std::vector<ItemOutcome> &items, Stage stage, int code,
+               const std::vector<SaveError> &errors = {}) {
+        const int exitCode = settledCode(m_session, code);
+        const SaveReport report(m_session.controller(), m_session.folders(), items, stage,
+                                acceptedProblems());
+        const bool isInterrupted = exitCode == exitInterrupted;
+        const CommandLine &line = m_session.line();
+        const WriteResult written =
+            writeOutput(line.isJson ? report.jsonLines({line.isDryRun, isInterrupted, exitCode})
+                                    : reportText(report, stage, exitCode));
+        writeError(actionErrorText(errors));
+        return codeAfterWriting(written, exitCode);
+    }
+
+    std::string reportText(const SaveReport &report, Stage stage, int exitCode) const {
+        std::string out;
+        if (m_session.line().isDryRun)
+            out += report.plannedText();
+        out += report.problemText();
+        out += report.notReachedText();
+        out += report.summaryText();
+        if (exitCode == exitInterrupted && stage == Stage::Plan)
+            out += text("cli_save_interruptedBefore") + '\n';
+        else if (report.count(ReportedResult::NotReached) > 0)
+            out += text("cli_save_interrupted") + '\n';
+        else if (report.isEmpty())
+            out += text("cli_save_nothingToSave") + '\n';
+        else if (stage == Stage::Plan)
+            out += text(exitCode == exitProblems ? "cli_save_problemsNothingWritten"
+                        : m_session.line().command == Command::Align
+                            ? "cli_align_nothingWritten"
+                            : "cli_save_dryRunNothingWritten") +
+                   '\n';
+        return out;
+    }
+
+    std::set<PreSaveProblem> acceptedProblems() const {
+        std::set<PreSaveProblem> accepted;
+        for (const ItemOutcome &item : m_plan.items)
+            for (const PreSaveFinding &finding : item.problems)
+                if (isAccepted(finding.problem))
+                    accepted.insert(finding.problem);
+        return accepted;
+    }
+
+    MendSession &m_session;
+    SaveRequest m_request;
+    PreProcessResult m_plan;
+};
+
+} // namespace
+
+int saveSession(MendSession &session) {
+    return Save(session).run();
+}
+
+} // namespace chronomender
