@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// make_trip FOLDER: a sample trip of five cameras whose clocks disagree.
+// make_trip FOLDER: a sample trip of five cameras whose clocks disagree, and one night at home.
 //
 //   canon/   a camera on local time, but one hour fast; half of its files carry zone stamps, some
 //            shots lie in a raw file and a JPEG, and one raw file has an XMP sidecar
@@ -9,6 +9,8 @@
 //            picture without any date, an AAE sidecar
 //   gopro/   movies whose header holds the camera's own clock, two hours slow
 //   oldcam/  AVI movies on home time
+//   party/   a compact camera without zone stamps, in the night in which Berlin's clocks go back
+//   friend/  a phone in the same night, which writes zone stamps
 //   walk.gpx   the phone's track
 //   plan.json  for every file, the stamps that it should hold after mending, and which encoder is
 //              still to make it: scripts/trip/encode.py does that
@@ -20,6 +22,7 @@
 #include <absl/time/time.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -60,6 +63,7 @@ struct Camera {
     bool isOnHomeTime;
     int secondsFast;
     int firstNumber;
+    bool isAtHome = false; ///< the pictures were taken at home
 };
 constexpr std::array cameras{
     Camera{"canon", "Canon", "Canon EOS R6", "RF24-105mm F4 L IS USM", "IMG_%04d", ByteOrder::Intel,
@@ -70,8 +74,22 @@ constexpr std::array cameras{
            0, 1},
     Camera{"gopro", "GoPro", "HERO9 Black", "", "GOPR%04d", ByteOrder::Motorola, false, -7200, 12},
     Camera{"oldcam", "PENTAX", "Optio S", "", "IMGP%04d", ByteOrder::Intel, true, 0, 77},
+    Camera{"party", "OLYMPUS", "STYLUS 850", "", "P%04d", ByteOrder::Intel, true, 0, 1, true},
+    Camera{"friend", "Fairphone", "FP5", "", "FP_%04d", ByteOrder::Intel, true, 0, 1, true},
 };
-enum : std::size_t { Canon, Nikon, Phone, GoPro, OldCam };
+enum : std::size_t { Canon, Nikon, Phone, GoPro, OldCam, Party, Friend };
+
+/// Berlin's clocks went back from 3 to 2 o'clock on 25 October 2026, at 1:00 UTC. The camera's own
+/// clock shows its time twice in the hour before and the hour after.
+struct NightShot {
+    std::size_t camera;
+    int hour, minute, second; ///< of the wall clock
+    int hoursAheadOfUtc;
+};
+constexpr std::array nightShots{
+    NightShot{Party, 1, 50, 11, 2}, NightShot{Party, 2, 30, 0, 2},  NightShot{Friend, 2, 45, 20, 2},
+    NightShot{Friend, 2, 10, 5, 1}, NightShot{Party, 2, 40, 30, 1}, NightShot{Party, 3, 10, 45, 1},
+};
 
 struct Shot {
     std::size_t camera;
@@ -133,36 +151,46 @@ Position positionAt(absl::Time time) {
 }
 
 struct PlannedShot {
-    const Shot &shot;
+    Shot shot;
     const Camera &camera;
-    absl::CivilSecond trueTime; ///< in the trip's zone
+    absl::CivilSecond trueTime; ///< where it was taken
     absl::Time instant;
+    std::string zoneStamp; ///< of the place where it was taken
     std::string name;
     CameraRecord record;
 };
+
+CameraRecord cameraRecord(const Camera &camera, absl::CivilSecond wallClock, bool isCompressed) {
+    return {.order = camera.order,
+            .make = camera.make,
+            .model = camera.model,
+            .lens = camera.lens,
+            .wallClock = wallClock,
+            .edited = {},
+            .zoneStamp = {},
+            .fractionOfSecond = {},
+            .position = {},
+            .width = Width,
+            .height = Height,
+            .isCompressed = isCompressed,
+            .makerNote = {},
+            .thumbnail = {}};
+}
+
+std::string fileName(const Camera &camera, int number) {
+    char name[32];
+    std::snprintf(name, sizeof name, camera.namePattern, number);
+    return name;
+}
 
 PlannedShot planned(const Shot &shot, int number) {
     const auto &camera = cameras[shot.camera];
     const absl::CivilSecond trueTime(2026, 4, shot.day, shot.hour, shot.minute, shot.second);
     const auto instant = absl::FromCivil(trueTime, zone(TripZone));
     const auto cameraZone = zone(camera.isOnHomeTime ? HomeZone : TripZone);
-    char name[32];
-    std::snprintf(name, sizeof name, camera.namePattern, number);
-
-    CameraRecord record{.order = camera.order,
-                        .make = camera.make,
-                        .model = camera.model,
-                        .lens = camera.lens,
-                        .wallClock = absl::ToCivilSecond(instant, cameraZone) + camera.secondsFast,
-                        .edited = {},
-                        .zoneStamp = {},
-                        .fractionOfSecond = {},
-                        .position = {},
-                        .width = Width,
-                        .height = Height,
-                        .isCompressed = shot.kind == Kind::Jpeg,
-                        .makerNote = {},
-                        .thumbnail = {}};
+    CameraRecord record =
+        cameraRecord(camera, absl::ToCivilSecond(instant, cameraZone) + camera.secondsFast,
+                     shot.kind == Kind::Jpeg);
     if (shot.editedAfterDays)
         record.edited = record.wallClock + 86400 * shot.editedAfterDays;
     if (shot.hasZoneStamp)
@@ -171,7 +199,25 @@ PlannedShot planned(const Shot &shot, int number) {
         record.position = positionAt(instant);
         record.fractionOfSecond = "250";
     }
-    return {shot, camera, trueTime, instant, name, record};
+    return {shot,  camera, trueTime, instant, std::string(TripStamp), fileName(camera, number),
+            record};
+}
+
+/// A picture of the night: its clock is right.
+PlannedShot planned(const NightShot &night, int number) {
+    const auto &camera = cameras[night.camera];
+    const absl::CivilSecond wallClock(2026, 10, 25, night.hour, night.minute, night.second);
+    const auto offset = absl::Hours(night.hoursAheadOfUtc);
+    const std::string zoneStamp = "+0" + std::to_string(night.hoursAheadOfUtc) + ":00";
+    Shot shot{night.camera, 25, night.hour, night.minute, night.second};
+    shot.hasZoneStamp = night.camera == Friend;
+    CameraRecord record = cameraRecord(camera, wallClock, true);
+    if (shot.hasZoneStamp)
+        record.zoneStamp = zoneStamp;
+    return {shot,      camera,
+            wallClock, absl::FromCivil(wallClock, absl::UTCTimeZone()) - offset,
+            zoneStamp, fileName(camera, number),
+            record};
 }
 
 std::string uncompressedTiff(const Picture &picture, const CameraRecord &record) {
@@ -211,9 +257,15 @@ std::string jpegFile(const PlannedShot &plan, unsigned seed) {
 
 /// Cards keep file times as the camera's wall clock; a computer at home takes them for its own.
 absl::Time fileTime(const PlannedShot &plan) {
-    if (plan.shot.camera == Phone)
+    if (plan.shot.camera == Phone || plan.camera.isAtHome)
         return plan.instant;
     return absl::FromCivil(plan.record.edited.value_or(plan.record.wallClock), zone(HomeZone));
+}
+
+/// "2026-04-11T08:57:12+09:00", in the zone of the place.
+std::string takenText(const PlannedShot &plan) {
+    return absl::FormatTime(absl::RFC3339_sec, plan.instant,
+                            zone(plan.camera.isAtHome ? HomeZone : TripZone));
 }
 
 std::string withDashes(std::string stamp) {
@@ -230,7 +282,7 @@ Json exifExpectation(const PlannedShot &plan) {
     if (plan.shot.hasZoneStamp)
         for (const char *tag :
              {"EXIF:OffsetTime", "EXIF:OffsetTimeOriginal", "EXIF:OffsetTimeDigitized"})
-            wanted[tag] = TripStamp;
+            wanted[tag] = plan.zoneStamp;
     return wanted;
 }
 
@@ -344,7 +396,8 @@ private:
     void tell(const std::string &ending, Json expected) {
         m_files.push_back(
             {{"path", std::string(m_shot->camera.folder) + "/" + m_shot->name + ending},
-             {"taken", absl::FormatTime(absl::RFC3339_sec, m_shot->instant, zone(TripZone))},
+             {"taken", takenText(*m_shot)},
+             {"isAtHome", m_shot->camera.isAtHome},
              {"clock", exifStamp(m_shot->record.wallClock)},
              {"isEdited", m_shot->record.edited.has_value()},
              {"isDependent", false},
@@ -384,6 +437,19 @@ std::string track() {
     return out + "</trk>\n</gpx>\n";
 }
 
+/// Makes the pictures of a list in turn; each camera counts its own.
+template<class Shots>
+bool addAll(const Shots &list, std::array<int, cameras.size()> &numbers, TripMaker &maker) {
+    unsigned seed = 1;
+    return std::ranges::all_of(list, [&](const auto &shot) {
+        const auto one = planned(shot, numbers[shot.camera]++);
+        const bool isWritten = maker.add(one, seed++);
+        if (!isWritten)
+            std::fprintf(stderr, "make_trip: cannot write %s\n", one.name.c_str());
+        return isWritten;
+    });
+}
+
 int makeTrip(const fs::path &root) {
     std::array<int, cameras.size()> numbers{};
     for (std::size_t i = 0; i < cameras.size(); ++i) {
@@ -391,14 +457,8 @@ int makeTrip(const fs::path &root) {
         fs::create_directories(root / cameras[i].folder);
     }
     TripMaker maker(root);
-    unsigned seed = 1;
-    for (const auto &shot : shots) {
-        const auto one = planned(shot, numbers[shot.camera]++);
-        if (!maker.add(one, seed++)) {
-            std::fprintf(stderr, "make_trip: cannot write %s\n", one.name.c_str());
-            return 1;
-        }
-    }
+    if (!addAll(shots, numbers, maker) || !addAll(nightShots, numbers, maker))
+        return 1;
     const Json plan{{"homeZone", HomeZone}, {"tripZone", TripZone}, {"files", maker.files()}};
     return write(root / "walk.gpx", track()) && write(root / "plan.json", plan.dump(1) + "\n") ? 0
                                                                                                : 1;
