@@ -2,8 +2,9 @@
 """witness.py TRIP: judges a mended sample trip without asking the program that mended it.
 
 TRIP holds photos/ (with plan.json, the truth), untouched/ (a copy from before), info.jsonl (where
-the program said that values stand), before.jsonl and after.jsonl (its lists). Exit code 1 when
-anything is not as it should be."""
+the program said that values stand), before.jsonl and after.jsonl (its lists), and the same two of
+the night at home, whose clocks were right. Exit code 1 when anything is not as it should be."""
+import datetime
 import json
 import pathlib
 import subprocess
@@ -21,6 +22,10 @@ NAMING_TAGS = ["EXIF:DateTimeOriginal", "QuickTime:CreationDate", "QuickTime:Cre
 
 def json_lines(path):
     return [json.loads(line) for line in path.read_text().splitlines() if line.strip()]
+
+
+def instant(file):
+    return datetime.datetime.fromisoformat(file["taken"])
 
 
 def read_with_exiftool(photos, paths):
@@ -42,7 +47,7 @@ def judge_dates(photos, files):
     read = read_with_exiftool(photos, [file["path"] for file in files])
     print(f"\n{'file':<20} {'its clock said':<20} {'ExifTool reads now':<27} {'really taken':<26}")
     faults = 0
-    for file in sorted(files, key=lambda file: file["taken"]):
+    for file in sorted(files, key=instant):
         found = read.get(file["path"], {})
         wrong = difference(file["expected"], found)
         faults += bool(wrong)
@@ -56,7 +61,7 @@ def judge_dates(photos, files):
 
 def order_faults(files, listed):
     shots = [file for file in files if not file["isDependent"]]
-    true_order = [file["path"] for file in sorted(shots, key=lambda file: file["taken"])]
+    true_order = [file["path"] for file in sorted(shots, key=instant)]
     found = ["/".join(pathlib.PurePath(entry["path"]).parts[-2:]) for entry in listed]
     return sum(a != b for a, b in zip(true_order, found)) + abs(len(true_order) - len(found))
 
@@ -81,11 +86,12 @@ def judge_bytes(trip, files):
     return changed_files, changed_bytes, strays, resized
 
 
-def phone_is_untouched(trip, files):
+def right_ones_are_untouched(trip, files):
+    """Files whose clock was right all the time: the phone's, and those of the night at home."""
     def seen(path):
         state = path.stat()
         return path.read_bytes(), state.st_mtime_ns
-    paths = [file["path"] for file in files if file["path"].startswith("phone/")]
+    paths = [file["path"] for file in files if file["isAtHome"] or file["path"].startswith("phone/")]
     return all(seen(trip / "photos" / path) == seen(trip / "untouched" / path) for path in paths)
 
 
@@ -93,19 +99,27 @@ def main():
     trip = pathlib.Path(sys.argv[1])
     files = json.loads((trip / "photos" / "plan.json").read_text())["files"]
     date_faults = judge_dates(trip / "photos", files)
-    shots = sum(not file["isDependent"] for file in files)
-    before = order_faults(files, json_lines(trip / "before.jsonl"))
-    after = order_faults(files, json_lines(trip / "after.jsonl"))
+    trip_files = [file for file in files if not file["isAtHome"]]
+    night_files = [file for file in files if file["isAtHome"]]
+    shots = sum(not file["isDependent"] for file in trip_files)
+    before = order_faults(trip_files, json_lines(trip / "before.jsonl"))
+    after = order_faults(trip_files, json_lines(trip / "after.jsonl"))
+    night_before = order_faults(night_files, json_lines(trip / "night-before.jsonl"))
+    night_after = order_faults(night_files, json_lines(trip / "night-after.jsonl"))
     changed_files, changed_bytes, strays, resized = judge_bytes(trip, files)
     verdicts = [
         (date_faults == 0, f"dates: {len(files) - date_faults} of {len(files)} files hold the true "
                            "time in every stamp and zone stamp that they have"),
         (before > 0 and after == 0,
          f"order: {before} of {shots} shots stood out of place before, {after} do now"),
+        (night_before > 0 and night_after == 0,
+         f"night: {night_before} of {len(night_files)} shots stood out of place when both times "
+         f"were read as the later, {night_after} with the other reading of one"),
         (changed_files > 0 and strays == 0 and resized == 0,
          f"bytes: {changed_bytes} bytes differ in {changed_files} files, {strays} of them outside "
          f"the date values; {resized} files changed in size"),
-        (phone_is_untouched(trip, files), "care: the phone's files are as they were, times included"),
+        (right_ones_are_untouched(trip, files),
+         "care: the files of the phone and of the night are as they were, times included"),
     ]
     print()
     for is_good, text in verdicts:
