@@ -50,8 +50,20 @@ TEST_F(CommandLineUse, MistakesAreNamedAndNothingIsWritten) {
     expectUsageError({"save", "--folder", canon, "--shift", "60", path("missing")},
                      "Nothing was written");
     expectUsageError({"list", "--language", "fr", canon}, "fr");
-    for (const char *option : {"--target-zone", "--source-zone"})
+    for (const char *option : {"--target-zone", "--source-zone"}) {
         expectUsageError({"save", "--folder", canon, option, "Europe/Berln"}, "Europe/Berlin");
+        expectUsageError({"save", "--folder", canon, "--pic", "a.jpg", option, "Europe/Berln"},
+                         "Europe/Berlin");
+    }
+    expectUsageError(
+        {"save", "--folder", canon, "--pic", "a.jpg", "--pic", "b.jpg", "--shift", "1"},
+        "needs a --shift, a");
+    expectUsageError({"save", "--folder", canon, "--pic", "a.jpg", "--shift", "1", "--shift", "2"},
+                     "twice for a.jpg");
+    expectUsageError({"save", "--folder", canon, "--pic", "b.jpg", "--source-zone", "UTC"},
+                     "no item b.jpg");
+    expectUsageError({"save", "--folder", canon, "--alternative", "b.jpg"}, "no item b.jpg");
+    expectUsageError({"save", "--folder", canon, "--alternative", "a.jpg"}, "one instant only");
     expectUsageError({"list", "--system-zone", "Europe/Berln", canon}, "Europe/Berlin");
     expectUsageError({"list", "--folder", canon, "--source-zone", "own"}, "no time zone own");
     expectUsageError({"list", "--set", "nothing=1", canon}, "no preference nothing");

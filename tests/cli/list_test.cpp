@@ -2,6 +2,7 @@
 #include "MendRun.h"
 
 #include <gmock/gmock.h>
+#include <map>
 
 namespace chronomender {
 namespace {
@@ -70,6 +71,56 @@ TEST_F(Trip, PicShiftIsAddedToItsFoldersShift) {
     EXPECT_EQ(lines[0].at("name"), "IMG_10.jpg");
     EXPECT_EQ(lines[0].at("date"), "2024-05-06T12:00:00Z");
     EXPECT_EQ(lines[1].at("date"), "2024-05-06T12:05:00Z");
+}
+
+/// Zones of one item are an exception from its folder's, and a source alone makes nothing unsaved.
+TEST_F(Trip, PicZonesAreItsOwn) {
+    struct Case {
+        Arguments options;
+        const char *localOfTwo, *localOfTen;
+        bool isTwoUnsaved, isTenUnsaved;
+    };
+    const Case cases[]{
+        {{"--pic", "IMG_2.jpg", "--source-zone", "America/New_York"},
+         "2024-05-06T13:00:00-04:00",
+         "2024-05-06T13:00:00+02:00",
+         false,
+         false},
+        {{"--source-zone", "Asia/Tokyo", "--pic", "IMG_2.jpg", "--source-zone", "+05:45"},
+         "2024-05-06T13:00:00+05:45",
+         "2024-05-06T13:00:00+09:00",
+         false,
+         false},
+        {{"--target-zone", "Asia/Tokyo", "--pic", "IMG_2.jpg", "--target-zone", "own"},
+         "2024-05-06T13:00:00+02:00",
+         "2024-05-06T20:00:00+09:00",
+         false,
+         true},
+        {{"--pic", "IMG_2.jpg", "--source-zone", "UTC", "--target-zone", "Asia/Tokyo", "--shift",
+          "-60"},
+         "2024-05-06T21:59:00+09:00",
+         "2024-05-06T13:00:00+02:00",
+         true,
+         false},
+        {{"--shift", "60", "--pic", "IMG_2.jpg", "--source-zone", "UTC"},
+         "2024-05-06T13:01:00+00:00",
+         "2024-05-06T13:01:00+02:00",
+         true,
+         true},
+    };
+    for (const Case &one : cases) {
+        std::map<std::string, Json> lines;
+        for (const Json &line : mend(joined({"list", "--json", "--system-zone", "Europe/Berlin",
+                                             "--folder", path("canon")},
+                                            one.options))
+                                    .lines())
+            lines[line.at("name")] = line;
+        const std::string what = ::testing::PrintToString(one.options);
+        EXPECT_EQ(lines["IMG_2.jpg"]["local"], one.localOfTwo) << what;
+        EXPECT_EQ(lines["IMG_10.jpg"]["local"], one.localOfTen) << what;
+        EXPECT_EQ(lines["IMG_2.jpg"]["unsaved"], one.isTwoUnsaved) << what;
+        EXPECT_EQ(lines["IMG_10.jpg"]["unsaved"], one.isTenUnsaved) << what;
+    }
 }
 
 class EmptyTags : public MendTest {
