@@ -149,11 +149,14 @@ std::string shiftedStamp(const std::string &stamp) {
 
 class RoundTrip : public CorpusCopies {
 protected:
-    RunResult saveAlike(const std::string &shiftText) const {
-        return save(shiftText, {"--target-zone", "own"},
-                    {"--accept", "error_13_unreadableStamp", "--set",
-                     "dateChangeEXIFEXIFDigiDate=3", "--set", "dateChangeEXIFEXIFModDate=3",
-                     "--set", "dateChangeNoEXIFButTIFFMetaModDate=3"});
+    /// Every slot of a file moves by the same.
+    RunResult saveAlike(const std::string &shiftText,
+                        const Arguments &forFolders = {"--target-zone", "own"},
+                        const std::string &accepted = "error_13_unreadableStamp") const {
+        return save(shiftText, forFolders,
+                    {"--accept", accepted, "--set", "dateChangeEXIFEXIFDigiDate=3", "--set",
+                     "dateChangeEXIFEXIFModDate=3", "--set",
+                     "dateChangeNoEXIFButTIFFMetaModDate=3"});
     }
 
     std::map<std::string, std::string> leftOut() const {
@@ -202,6 +205,88 @@ TEST_F(RoundTrip, ThereAndBackGivesTheSameBytes) {
     EXPECT_LE(excluded.size() * 10, m_info.size());
     if (!hasWitness)
         GTEST_SKIP() << "exiftool is not installed: the stamps in between had no witness";
+}
+
+class ZoneRoundTrip : public RoundTrip {
+protected:
+    Arguments zones(const std::string &source, const std::string &target) const {
+        return {"--source-zone", source, "--target-zone", target};
+    }
+
+    /// What a command says of each file, with the zones given to each folder.
+    std::map<std::string, Json> told(const std::string &command, const Arguments &options) const {
+        Arguments arguments{command, "--json", "--system-zone", "UTC"};
+        for (const char *kind : kinds)
+            arguments = joined(joined(arguments, {"--folder", path(kind)}), options);
+        std::map<std::string, Json> lines;
+        for (const Json &line : mend(arguments).lines())
+            lines[line.at("path")] = line;
+        return lines;
+    }
+
+    /// Notes the files with a stamp in an hour that one of the zones has twice or not at all.
+    void noteDoubtful(const Arguments &options) {
+        for (const auto &[file, line] : told("list", options))
+            for (const Json &alert : line.value("alerts", Json::array()))
+                for (const char *name : {"repeatedTime", "skippedTime", "cannotBeWritten"})
+                    if (alert.at("name") == name)
+                        m_doubtful[file] = alert.at("text");
+    }
+
+    /// The instants of a file's stamps; zone stamps and dates that do not fit change them.
+    static std::map<std::string, std::string> instants(const Json &info) {
+        std::map<std::string, std::string> dates;
+        for (const StampKey &stamp : stampKeys)
+            if (const auto slot = info.at("slots").find(stamp.slot);
+                slot != info.at("slots").end() && slot->contains("old"))
+                dates[stamp.slot] = slot->at("old");
+        return dates;
+    }
+
+    static bool hasZoneStamp(const Json &info, const std::string &hour) {
+        return std::any_of(std::begin(zoneKeys), std::end(zoneKeys), [&](const char *key) {
+            const Json *value = valueWithKey(info, key);
+            return value && value->at("text").get<std::string>().starts_with(hour);
+        });
+    }
+
+    std::map<std::string, std::string> m_doubtful;
+};
+
+TEST_F(ZoneRoundTrip, IntoAnotherZoneAndBackGivesTheSameBytes) {
+    const std::string here = "America/New_York", there = "Asia/Tokyo";
+    noteDoubtful(zones("UTC", here));
+    const RunResult start = saveAlike("0", zones("UTC", here), "all");
+    ASSERT_EQ(start.exitCode, 0) << start.errors;
+    for (auto &[file, bytes] : m_before)
+        bytes = little::fileContent(file);
+    const auto before = told("info", {"--source-zone", here});
+
+    noteDoubtful(zones(here, there));
+    const RunResult away = saveAlike("0", zones(here, there), "all");
+    ASSERT_EQ(away.exitCode, 0) << away.errors;
+    std::size_t changed = 0, zoned = 0;
+    for (const auto &[file, info] : told("info", {"--source-zone", there}))
+        if (m_info.contains(file) && !m_doubtful.contains(file)) {
+            EXPECT_EQ(instants(info), instants(before.at(file))) << file;
+            changed += changedBytes(file).empty() ? 0 : 1;
+            zoned += hasZoneStamp(info, "+09") ? 1 : 0;
+        }
+    EXPECT_GE(changed, m_info.size() / 2);
+    EXPECT_GT(zoned, 5U);
+
+    noteDoubtful(zones(there, here));
+    const RunResult back = saveAlike("0", zones(there, here), "all");
+    ASSERT_EQ(back.exitCode, 0) << back.errors;
+    for (const auto &[file, info] : m_info)
+        if (!m_doubtful.contains(file)) {
+            EXPECT_EQ(changedBytes(file), std::vector<std::size_t>()) << file;
+        }
+    std::printf("%zu files, %zu changed, %zu with zone stamps, %zu left out:\n", m_info.size(),
+                changed, zoned, m_doubtful.size());
+    for (const auto &[file, reason] : m_doubtful)
+        std::printf("  %s: %s\n", file.substr(disk().path().size() + 1).c_str(), reason.c_str());
+    EXPECT_LE(m_doubtful.size() * 20, m_info.size());
 }
 
 class DefaultSave : public CorpusCopies {

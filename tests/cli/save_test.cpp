@@ -11,6 +11,7 @@ namespace {
 
 using ::testing::AllOf;
 using ::testing::ContainsRegex;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -62,6 +63,32 @@ TEST_F(Save, DryRunTellsOldDatesAsTheFileDoes) {
                      .at("slots")
                      .at("exifDateTimeOriginal")
                      .at("stays"));
+}
+
+TEST_F(Save, DatesAndZoneStampsGoIntoAnotherZoneTogetherAndComeBack) {
+    const std::string plain = writePhoto("trip/a.jpg", "2024:12:31 20:30:00");
+    const std::string zoned = writeZonedPhoto("trip/b.jpg", "2024:07:01 20:30:00", "+02:00");
+    const std::string winter = writeZonedPhoto("trip/c.jpg", "2024:01:01 00:30:00", "+01:00");
+    const auto bytes = [&] {
+        return std::vector{little::fileContent(plain), little::fileContent(zoned),
+                           little::fileContent(winter)};
+    };
+    const auto move = [&](const char *from, const char *to) {
+        const RunResult run = mend({"save", "--json", "--system-zone", "UTC", "--folder",
+                                    path("trip"), "--source-zone", from, "--target-zone", to});
+        EXPECT_EQ(run.exitCode, 0) << run.errors;
+        EXPECT_EQ(summaryOf(run).at("saved"), 3);
+    };
+    const auto before = bytes();
+    move("Europe/Berlin", "Asia/Kathmandu");
+    EXPECT_THAT(bytes(),
+                ElementsAre(AllOf(HasSubstr("2025:01:01 01:15:00"), Not(HasSubstr("2024:12:31"))),
+                            AllOf(HasSubstr("2024:07:02 00:15:00"), HasSubstr("+05:45"),
+                                  Not(HasSubstr("+02:00")), Not(HasSubstr("2024:07:01"))),
+                            AllOf(HasSubstr("2024:01:01 05:15:00"), HasSubstr("+05:45"),
+                                  Not(HasSubstr("+01:00")))));
+    move("Asia/Kathmandu", "Europe/Berlin");
+    EXPECT_EQ(bytes(), before);
 }
 
 TEST_F(Save, SettingsReachTheCalculationAndNowIsAConcreteDate) {
