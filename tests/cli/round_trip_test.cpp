@@ -267,8 +267,9 @@ TEST_F(ZoneRoundTrip, IntoAnotherZoneAndBackGivesTheSameBytes) {
     ASSERT_EQ(away.exitCode, 0) << away.errors;
     std::size_t changed = 0, zoned = 0;
     for (const auto &[file, info] : told("info", {"--source-zone", there}))
-        if (m_info.contains(file) && !m_doubtful.contains(file)) {
-            EXPECT_EQ(instants(info), instants(before.at(file))) << file;
+        if (m_info.contains(file)) {
+            EXPECT_TRUE(instants(info) == instants(before.at(file)) || m_doubtful.contains(file))
+                << file;
             changed += changedBytes(file).empty() ? 0 : 1;
             zoned += hasZoneStamp(info, "+09") ? 1 : 0;
         }
@@ -278,11 +279,10 @@ TEST_F(ZoneRoundTrip, IntoAnotherZoneAndBackGivesTheSameBytes) {
     noteDoubtful(zones(there, here));
     const RunResult back = saveAlike("0", zones(there, here), "all");
     ASSERT_EQ(back.exitCode, 0) << back.errors;
-    for (const auto &[file, info] : m_info)
-        if (!m_doubtful.contains(file)) {
-            EXPECT_EQ(changedBytes(file), std::vector<std::size_t>()) << file;
-        }
-    std::printf("%zu files, %zu changed, %zu with zone stamps, %zu left out:\n", m_info.size(),
+    for (const auto &[file, info] : m_info) {
+        EXPECT_TRUE(changedBytes(file).empty() || m_doubtful.contains(file)) << file;
+    }
+    std::printf("%zu files, %zu changed, %zu with zone stamps, %zu doubtful:\n", m_info.size(),
                 changed, zoned, m_doubtful.size());
     for (const auto &[file, reason] : m_doubtful)
         std::printf("  %s: %s\n", file.substr(disk().path().size() + 1).c_str(), reason.c_str());
