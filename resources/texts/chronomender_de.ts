@@ -3,6 +3,30 @@
 <TS version="2.1" language="de">
 <context>
     <name></name>
+    <message id="alignByCopyingOtherFileDate">
+        <translation>Anderes Datum der Datei übernehmen</translation>
+    </message>
+    <message id="alignByFileName">
+        <translation>Nach Dateinamen ordnen</translation>
+    </message>
+    <message id="alignByMatchingGaps">
+        <translation>Gleichmäßig verteilen</translation>
+    </message>
+    <message id="alignByMinimizingGaps">
+        <translation>Dicht aneinanderreihen</translation>
+    </message>
+    <message id="alignByMinimizingGapsAlt">
+        <translation>Gleiche Zeiten trennen</translation>
+    </message>
+    <message id="alignByReversing">
+        <translation>Zeiten von Ende zu Ende tauschen</translation>
+    </message>
+    <message id="alignByReversingAlt">
+        <translation>Umkehren und Abstände spiegeln</translation>
+    </message>
+    <message id="changeEditMode">
+        <translation>Zwischen Ordner- und Einzelverschiebung wechseln</translation>
+    </message>
     <message id="cli_align_isAlignedAlready">
         <translation>Die Auswahl steht schon so; nichts bewegt sich.</translation>
     </message>
@@ -571,6 +595,12 @@ Beispiele:
     </message>
     <message id="errorPanelMessageText">
         <translation>Es konnte nicht alles ausgeführt werden.</translation>
+    </message>
+    <message id="menu_copyOtherFileDate_selection">
+        <translation>Anderes Datum jeder Datei übernehmen</translation>
+    </message>
+    <message id="menu_copyOtherFileDate_single">
+        <translation>Anderes Datum der Datei übernehmen</translation>
     </message>
     <message id="preSaveSummary_error_01_ambiguousStamp">
         <translation>Die neue Zeit liegt in der Stunde, die durch die Zeitumstellung doppelt vorkommt oder ausfällt</translation>

@@ -3,6 +3,30 @@
 <TS version="2.1" language="en">
 <context>
     <name></name>
+    <message id="alignByCopyingOtherFileDate">
+        <translation>Take Over Another Date of the File</translation>
+    </message>
+    <message id="alignByFileName">
+        <translation>Order by File Name</translation>
+    </message>
+    <message id="alignByMatchingGaps">
+        <translation>Spread Evenly</translation>
+    </message>
+    <message id="alignByMinimizingGaps">
+        <translation>Pack Tightly</translation>
+    </message>
+    <message id="alignByMinimizingGapsAlt">
+        <translation>Separate Identical Times</translation>
+    </message>
+    <message id="alignByReversing">
+        <translation>Swap Times End for End</translation>
+    </message>
+    <message id="alignByReversingAlt">
+        <translation>Reverse and Mirror Gaps</translation>
+    </message>
+    <message id="changeEditMode">
+        <translation>Switch Between Folder and Single Shifts</translation>
+    </message>
     <message id="cli_align_isAlignedAlready">
         <translation>The selection is aligned so already; nothing moves.</translation>
     </message>
@@ -571,6 +595,12 @@ Examples:
     </message>
     <message id="errorPanelMessageText">
         <translation>Not everything could be done.</translation>
+    </message>
+    <message id="menu_copyOtherFileDate_selection">
+        <translation>Take Over Another Date of Each File</translation>
+    </message>
+    <message id="menu_copyOtherFileDate_single">
+        <translation>Take Over Another Date of the File</translation>
     </message>
     <message id="preSaveSummary_error_01_ambiguousStamp">
         <translation>The new time falls into the hour that the change of clocks repeats or skips</translation>

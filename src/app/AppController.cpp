@@ -8,7 +8,6 @@
 
 #include <absl/time/clock.h>
 
-#include <set>
 #include <utility>
 
 namespace chronomender {
@@ -85,7 +84,7 @@ std::size_t AppController::setZones(const std::vector<MySinglePicPtr> &items,
     const std::size_t changed =
         assignZones(items, wish, *m_services.zones, dateComparisonThresold());
     if (changed > 0)
-        refreshRanges(items);
+        updateFolderRanges(items);
     return changed;
 }
 
@@ -104,15 +103,6 @@ NewDateContext AppController::liveContext() const {
 
 int AppController::dateComparisonThresold() const {
     return m_services.defaults->integerForKey("dateComparisonThresold");
-}
-
-void AppController::refreshRanges(const std::vector<MySinglePicPtr> &items) {
-    std::set<MySingleFolderPtr> folders;
-    for (const MySinglePicPtr &pic : items)
-        if (MySingleFolderPtr folder = pic->spSingleRealFolder())
-            folders.insert(std::move(folder));
-    for (const MySingleFolderPtr &folder : folders)
-        sfUpdatePicsFromAndTill(*folder);
 }
 
 void AppController::startPreProcess(SaveRequest request, Progress progress,

@@ -105,7 +105,6 @@ public:
 
 private:
     int dateComparisonThresold() const;
-    static void refreshRanges(const std::vector<MySinglePicPtr> &items);
 
     AppServices m_services;
     Cancellation m_cancellation;

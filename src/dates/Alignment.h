@@ -40,22 +40,24 @@ struct Alignment {
 };
 
 /// Times are cut to whole seconds before they are compared, so that no item gains or loses the
-/// fraction that it has. `context` is a live calculation's; the copying commands fill the NEW slots
-/// of the items with it.
+/// fraction that it has. Items without a date take no part. `context` is a live calculation's, by
+/// which the copying commands ask for NEW dates; no item changes.
 Alignment alignment(AlignCommand command, const AlignSelection &selection,
                     const NewDateContext &context);
 
-/// Two neighbours share a second.
+/// Two neighbours share a second, or the first stands at the start of 1970.
 bool areThereIdenticalTimesIn(const std::vector<MySinglePicPtr> &pics);
 
 enum class AlignOutcome { Done, NothingChanged, RefusedOutOfBounds };
 /// Carries a command out as one undoable step: folders of the selection go into single mode first,
 /// where each item keeps the date that it shows. Refused as a whole when an item would leave the
-/// bounds of all dates. Main thread.
+/// bounds of all dates. A command without records, or with none for an item that can be shifted,
+/// changes nothing; one whose items all stand right already is a step. Main thread.
 AlignOutcome realignSelection(AlignCommand command, const AlignSelection &selection,
                               const NewDateContext &context, UndoManager &undo);
 
-/// The slot holds a date that at least one of the items could take over.
+/// The slot holds a date that at least one of the items could take over: neither its main date nor
+/// the one it shows and, for a NEW slot, not what the file holds. "Now" is no date to take over.
 bool isCopyOffered(AlignCommand command, const std::vector<MySinglePicPtr> &pics,
                    const NewDateContext &context);
 

@@ -2,6 +2,7 @@
 #include "DateModifications.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 namespace chronomender {
@@ -37,19 +38,8 @@ void setSinglePicModification(MySinglePic &pic, absl::Duration shift) {
         removeSinglePicModeImage(*folder);
 }
 
-/// An undo step that refreshes the folder's range. One stands at each end of a group, as a group
-/// is performed backwards: so the range is right after undo and after redo.
-void registerRangeRefresh(MySingleFolder &folder, UndoManager &undo) {
-    undo.registerUndo(folder.shared_from_this(), [&undo](MySingleFolder &target) {
-        sfUpdatePicsFromAndTill(target);
-        registerRangeRefresh(target, undo);
-    });
-}
-
-void registerSingleShift(MySinglePic &pic, absl::Duration inverse, UndoManager &undo) {
-    undo.registerUndo(pic.shared_from_this(), [inverse, &undo](MySinglePic &target) {
-        undoRedoUpdateSinglePicModeDate(target, inverse, undo);
-    });
+bool isInsideBounds(Date date) {
+    return date > minDate() && date < maxDate();
 }
 
 } // namespace
@@ -60,6 +50,21 @@ Date minDate() {
 
 Date maxDate() {
     return utcDate(4999, 12, 31, 23, 59, 59);
+}
+
+bool isMovable(const MySinglePic &pic) {
+    return !pic.isMovedToTrash && pic.hasCorrectableDate();
+}
+
+bool staysInsideBounds(const MySinglePic &pic, absl::Duration totalShift) {
+    return isMarker(pic.spDateTimeOriginal) ||
+           isInsideBounds(shifted(pic.spDateTimeOriginal, totalShift));
+}
+
+bool staysInsideBounds(const MySingleFolder &folder, absl::Duration totalShift) {
+    return std::ranges::all_of(folder.sfPicDetails_fullArray, [&](const MySinglePicPtr &pic) {
+        return !pic->hasCorrectableDate() || staysInsideBounds(*pic, totalShift);
+    });
 }
 
 void updateSinglePicModificationBy(MySinglePic &pic, absl::Duration difference) {
@@ -110,6 +115,28 @@ void sfUpdatePicsFromAndTill(MySingleFolder &folder, UndoManager *undo, FolderRe
     }
 }
 
+std::vector<MySingleFolderPtr> foldersOf(const std::vector<MySinglePicPtr> &pics) {
+    std::vector<MySingleFolderPtr> folders;
+    std::unordered_set<const MySingleFolder *> seen;
+    for (const MySinglePicPtr &pic : pics)
+        if (MySingleFolderPtr folder = pic->spSingleRealFolder();
+            folder && seen.insert(folder.get()).second)
+            folders.push_back(std::move(folder));
+    return folders;
+}
+
+void updateFolderRanges(const std::vector<MySinglePicPtr> &pics) {
+    for (const MySingleFolderPtr &folder : foldersOf(pics))
+        sfUpdatePicsFromAndTill(*folder);
+}
+
+void registerRangeRefresh(MySingleFolder &folder, UndoManager &undo) {
+    undo.registerUndo(folder.shared_from_this(), [&undo](MySingleFolder &target) {
+        sfUpdatePicsFromAndTill(target);
+        registerRangeRefresh(target, undo);
+    });
+}
+
 void addSinglePicModeImage(MySingleFolder &folder) {
     ++folder.singlePicModeImages;
 }
@@ -138,29 +165,37 @@ void changeEditMode(MySingleFolder &folder, EditMode mode) {
     setTogetherShift(folder, absl::ZeroDuration(), {});
 }
 
-void updateThumbValues(const std::vector<ShiftRecord> &records, UndoManager &undo) {
-    if (records.empty())
+void updateThumbValues(const std::vector<ShiftRecord> &records, UndoManager &undo,
+                       const MySinglePicPtr &selection) {
+    std::vector<MySinglePicPtr> moved;
+    for (const ShiftRecord &record : records)
+        if (isMovable(*record.thumb))
+            moved.push_back(record.thumb);
+    if (moved.empty())
         return;
-    const MySingleFolderPtr folder = records.front().thumb->spSingleRealFolder();
+    const MySinglePicPtr &main = selection ? selection : moved.front();
+    const std::vector<MySingleFolderPtr> folders = foldersOf(moved);
     const UndoGroup group(undo);
-    if (folder)
+    for (const MySingleFolderPtr &folder : folders)
         registerRangeRefresh(*folder, undo);
     for (const ShiftRecord &record : records) {
-        if (record.thumb->isMovedToTrash)
+        if (!isMovable(*record.thumb))
             continue;
-        updateSinglePicModificationBy(*record.thumb, record.dateDifference);
-        registerSingleShift(*record.thumb, -record.dateDifference, undo);
+        const auto role = record.thumb == main ? ShiftedItem::Selection : ShiftedItem::Other;
+        undoRedoUpdateSinglePicModeDate(*record.thumb, record.dateDifference, role, undo);
     }
-    if (!folder)
-        return;
-    sfUpdatePicsFromAndTill(*folder, &undo);
-    registerRangeRefresh(*folder, undo);
+    for (const MySingleFolderPtr &folder : folders) {
+        sfUpdatePicsFromAndTill(*folder, &undo);
+        registerRangeRefresh(*folder, undo);
+    }
 }
 
 void undoRedoUpdateSinglePicModeDate(MySinglePic &pic, absl::Duration difference,
-                                     UndoManager &undo) {
+                                     ShiftedItem isSelection, UndoManager &undo) {
     updateSinglePicModificationBy(pic, difference);
-    registerSingleShift(pic, -difference, undo);
+    undo.registerUndo(pic.shared_from_this(), [=, &undo](MySinglePic &target) {
+        undoRedoUpdateSinglePicModeDate(target, -difference, isSelection, undo);
+    });
 }
 
 void undoRedoUpdateFolderModeDateModifications(MySingleFolder &folder, absl::Duration shift,

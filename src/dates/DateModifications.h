@@ -20,6 +20,13 @@ struct ShiftRecord {
     absl::Duration dateDifference;
 };
 
+/// The item can be shifted: it has a correctable date and is not in the trash.
+bool isMovable(const MySinglePic &pic);
+/// A total shift leaves the item's date, or the folder's first and last correctable one, between
+/// the bounds of all dates. Markers are never shifted and so never leave them.
+bool staysInsideBounds(const MySinglePic &pic, absl::Duration totalShift);
+bool staysInsideBounds(const MySingleFolder &folder, absl::Duration totalShift);
+
 /// Adds to the item's own shift; its dependent takes the same value. Types without a correctable
 /// date never shift. Keeps the folder's count of items with a shift of their own.
 void updateSinglePicModificationBy(MySinglePic &pic, absl::Duration difference);
@@ -51,6 +58,11 @@ DateModificationFields keepingOwnParts(const MySingleFolder &folder, const Compo
 enum class FolderRefresh { Normal, DuringReimport };
 void sfUpdatePicsFromAndTill(MySingleFolder &folder, UndoManager *undo = nullptr,
                              FolderRefresh refresh = FolderRefresh::Normal);
+/// The same for every folder that one of the items stands in.
+void updateFolderRanges(const std::vector<MySinglePicPtr> &pics);
+/// An undo step that refreshes the folder's range. One stands at each end of a group, as a group is
+/// performed backwards: so the range is right after undo and after redo.
+void registerRangeRefresh(MySingleFolder &folder, UndoManager &undo);
 // The folder's count of items with a shift of their own; no item is changed here.
 void addSinglePicModeImage(MySingleFolder &folder);
 void removeSinglePicModeImage(MySingleFolder &folder);
@@ -61,12 +73,22 @@ void clearSinglePicModeImages(MySingleFolder &folder);
 /// Switches the mode. Into single mode each item keeps the date it shows: it takes the folder's
 /// shift as its own. Into together mode the items' shifts are dropped.
 void changeEditMode(MySingleFolder &folder, EditMode mode);
+/// The same as an undoable step. Undo brings mode, folder shift, shown fields, direction flags and
+/// every item's own shift back as they were; redo switches again.
+void changeEditMode(MySingleFolder &folder, EditMode mode, UndoManager &undo);
 
-/// Applies shift records as one undoable step, passing over trashed items, and refreshes the range
-/// of the first item's folder.
-void updateThumbValues(const std::vector<ShiftRecord> &records, UndoManager &undo);
+/// Each folder that one of the items stands in, once.
+std::vector<MySingleFolderPtr> foldersOf(const std::vector<MySinglePicPtr> &pics);
+
+/// Applies shift records as one undoable step, passing over items that cannot be shifted. The
+/// ranges of all folders concerned are right afterwards, after undo and after redo. `selection` is
+/// the main item among them, which a window shows again after undo and redo; null: the first.
+void updateThumbValues(const std::vector<ShiftRecord> &records, UndoManager &undo,
+                       const MySinglePicPtr &selection = nullptr);
+/// One item's part of such a step: adds the difference and registers its negation.
+enum class ShiftedItem { Selection, Other };
 void undoRedoUpdateSinglePicModeDate(MySinglePic &pic, absl::Duration difference,
-                                     UndoManager &undo);
+                                     ShiftedItem isSelection, UndoManager &undo);
 void undoRedoUpdateFolderModeDateModifications(MySingleFolder &folder, absl::Duration shift,
                                                bool isDirectionNegative, UndoManager &undo);
 /// Gives every item of the folder its original date back, as one undoable step.

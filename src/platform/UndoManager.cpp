@@ -58,10 +58,12 @@ void UndoManager::perform(std::vector<Group> &from, State state) {
 }
 
 void UndoManager::setActionName(std::string key) {
+    if (m_state != State::Idle)
+        return;
     if (m_depth > 0)
         m_open.actionName = std::move(key);
-    else if (!currentStack().empty())
-        currentStack().back().actionName = std::move(key);
+    else if (!m_undo.empty())
+        m_undo.back().actionName = std::move(key);
 }
 
 std::string UndoManager::undoActionName() const {

@@ -43,7 +43,8 @@ public:
     bool isUndoing() const { return m_state == State::Undoing; }
     bool isRedoing() const { return m_state == State::Redoing; }
 
-    /// Names the step being built, or the last one: a text key, shown in menus.
+    /// Names the step being built, or the last one: a text key, shown in menus. What is done again
+    /// by undo or redo keeps the name of its step.
     void setActionName(std::string key);
     std::string undoActionName() const;
     std::string redoActionName() const;

@@ -1,61 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FolderDrag.h"
 
-#include <algorithm>
-#include <set>
-
 namespace chronomender {
-
 namespace {
 
 constexpr const char *dateChangeName = "undoDateChangeText";
 constexpr const char *resetName = "resetAllInFolderMode";
 constexpr const char *itemChangeName = "dragInSingleMode";
-
-bool isInsideBounds(Date date) {
-    return date > minDate() && date < maxDate();
-}
-
-/// Earliest and latest main date of the items that a shift moves; none without such an item.
-struct DateRange {
-    OptionalDate first, last;
-};
-
-DateRange correctableRange(const MySingleFolder &folder) {
-    DateRange range;
-    for (const MySinglePicPtr &pic : folder.sfPicDetails_fullArray) {
-        if (!pic->hasCorrectableDate() || isMarker(pic->spDateTimeOriginal))
-            continue;
-        const Date date = pic->spDateTimeOriginal;
-        range.first = range.first ? std::min(*range.first, date) : date;
-        range.last = range.last ? std::max(*range.last, date) : date;
-    }
-    return range;
-}
-
-bool staysInsideBounds(const MySingleFolder &folder, absl::Duration totalShift) {
-    const DateRange range = correctableRange(folder);
-    return !range.first || (isInsideBounds(shifted(*range.first, totalShift)) &&
-                            isInsideBounds(shifted(*range.last, totalShift)));
-}
-
-bool isMovable(const MySinglePicPtr &pic) {
-    return !pic->isMovedToTrash && pic->hasCorrectableDate();
-}
-
-bool staysInsideBounds(const MySinglePic &pic, absl::Duration difference) {
-    return isInsideBounds(
-        shifted(pic.spDateTimeOriginal, pic.shift.singlePicModification + difference));
-}
-
-void updateFolderRanges(const std::vector<MySinglePicPtr> &pics) {
-    std::set<MySingleFolderPtr> folders;
-    for (const MySinglePicPtr &pic : pics)
-        if (auto folder = pic->spSingleRealFolder())
-            folders.insert(std::move(folder));
-    for (const MySingleFolderPtr &folder : folders)
-        sfUpdatePicsFromAndTill(*folder);
-}
 
 } // namespace
 
@@ -81,23 +32,20 @@ DateChangeOutcome dragChangedDates(absl::Duration totalShift, MySingleFolder &fo
 
 DateChangeOutcome dragMovesValuesBy(absl::Duration difference,
                                     const std::vector<MySinglePicPtr> &items, UndoManager &undo) {
-    std::vector<MySinglePicPtr> moved;
-    std::ranges::copy_if(items, std::back_inserter(moved), isMovable);
-    if (moved.empty() || difference == absl::ZeroDuration())
+    std::vector<ShiftRecord> records;
+    for (const MySinglePicPtr &pic : items)
+        if (isMovable(*pic))
+            records.push_back({pic, difference});
+    if (records.empty() || difference == absl::ZeroDuration())
         return DateChangeOutcome::NothingChanged;
-    for (const MySinglePicPtr &pic : moved)
-        if (!staysInsideBounds(*pic, difference))
+    for (const ShiftRecord &record : records) {
+        const MySinglePic &pic = *record.thumb;
+        if (!staysInsideBounds(pic, pic.shift.singlePicModification + difference))
             return DateChangeOutcome::RefusedOutOfBounds;
-
-    const UndoGroup group(undo);
-    for (const MySinglePicPtr &pic : moved) {
-        updateSinglePicModificationBy(*pic, difference);
-        undo.registerUndo(pic, [=, &undo](MySinglePic &target) {
-            undoRedoUpdateSinglePicModeDate(target, -difference, undo);
-        });
     }
+    const UndoGroup group(undo);
+    updateThumbValues(records, undo);
     undo.setActionName(itemChangeName);
-    updateFolderRanges(moved);
     return DateChangeOutcome::Done;
 }
 
