@@ -3,6 +3,39 @@
 <TS version="2.1" language="de">
 <context>
     <name></name>
+    <message id="alert_cannotBeWritten">
+        <translation>würde als %1 geschrieben, was am %2 in %3 zweimal vorkommt, und als die spätere Zeit gelesen</translation>
+    </message>
+    <message id="alert_day">
+        <translation>%1. %2 %3</translation>
+    </message>
+    <message id="alert_gpsApart_earlier">
+        <translation>%1 früher als die GPS-Zeit</translation>
+    </message>
+    <message id="alert_gpsApart_later">
+        <translation>%1 später als die GPS-Zeit</translation>
+    </message>
+    <message id="alert_groupApart_earlier">
+        <translation>die andere Datei des Paares liegt %1 früher</translation>
+    </message>
+    <message id="alert_groupApart_later">
+        <translation>die andere Datei des Paares liegt %1 später</translation>
+    </message>
+    <message id="alert_otherThanInFile">
+        <translation>in der Datei steht %1, gezeigt wird %2</translation>
+    </message>
+    <message id="alert_repeatedTime_earlier">
+        <translation>kommt am %1 in %2 zweimal vor; gelesen als die frühere Zeit</translation>
+    </message>
+    <message id="alert_repeatedTime_later">
+        <translation>kommt am %1 in %2 zweimal vor; gelesen als die spätere Zeit</translation>
+    </message>
+    <message id="alert_skippedTime">
+        <translation>gibt es am %1 in %2 nicht; gelesen als %3</translation>
+    </message>
+    <message id="alert_zoneDisagrees">
+        <translation>in der Datei steht %1, aber in %2 galt da %3 (%4 Unterschied)</translation>
+    </message>
     <message id="alignByCopyingOtherFileDate">
         <translation>Anderes Datum der Datei übernehmen</translation>
     </message>
@@ -23,6 +56,9 @@
     </message>
     <message id="alignByReversingAlt">
         <translation>Umkehren und Abstände spiegeln</translation>
+    </message>
+    <message id="ambiguityCorrection_undoRedo">
+        <translation>Deutung doppelter Zeiten</translation>
     </message>
     <message id="changeEditMode">
         <translation>Zwischen Ordner- und Einzelverschiebung wechseln</translation>
@@ -601,6 +637,42 @@ Beispiele:
     </message>
     <message id="menu_copyOtherFileDate_single">
         <translation>Anderes Datum der Datei übernehmen</translation>
+    </message>
+    <message id="month_short_1">
+        <translation>Jan.</translation>
+    </message>
+    <message id="month_short_2">
+        <translation>Feb.</translation>
+    </message>
+    <message id="month_short_3">
+        <translation>März</translation>
+    </message>
+    <message id="month_short_4">
+        <translation>Apr.</translation>
+    </message>
+    <message id="month_short_5">
+        <translation>Mai</translation>
+    </message>
+    <message id="month_short_6">
+        <translation>Juni</translation>
+    </message>
+    <message id="month_short_7">
+        <translation>Juli</translation>
+    </message>
+    <message id="month_short_8">
+        <translation>Aug.</translation>
+    </message>
+    <message id="month_short_9">
+        <translation>Sept.</translation>
+    </message>
+    <message id="month_short_10">
+        <translation>Okt.</translation>
+    </message>
+    <message id="month_short_11">
+        <translation>Nov.</translation>
+    </message>
+    <message id="month_short_12">
+        <translation>Dez.</translation>
     </message>
     <message id="preSaveSummary_error_01_ambiguousStamp">
         <translation>Die neue Zeit liegt in der Stunde, die durch die Zeitumstellung doppelt vorkommt oder ausfällt</translation>

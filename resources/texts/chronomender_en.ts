@@ -3,6 +3,39 @@
 <TS version="2.1" language="en">
 <context>
     <name></name>
+    <message id="alert_cannotBeWritten">
+        <translation>would be written as %1, which happens twice on %2 in %3, and be read as the later one</translation>
+    </message>
+    <message id="alert_day">
+        <translation>%1 %2 %3</translation>
+    </message>
+    <message id="alert_gpsApart_earlier">
+        <translation>%1 earlier than its GPS time</translation>
+    </message>
+    <message id="alert_gpsApart_later">
+        <translation>%1 later than its GPS time</translation>
+    </message>
+    <message id="alert_groupApart_earlier">
+        <translation>the other file of the pair is %1 earlier</translation>
+    </message>
+    <message id="alert_groupApart_later">
+        <translation>the other file of the pair is %1 later</translation>
+    </message>
+    <message id="alert_otherThanInFile">
+        <translation>the file says %1, but it is shown as %2</translation>
+    </message>
+    <message id="alert_repeatedTime_earlier">
+        <translation>happens twice on %1 in %2; read as the earlier one</translation>
+    </message>
+    <message id="alert_repeatedTime_later">
+        <translation>happens twice on %1 in %2; read as the later one</translation>
+    </message>
+    <message id="alert_skippedTime">
+        <translation>does not exist on %1 in %2; read as %3</translation>
+    </message>
+    <message id="alert_zoneDisagrees">
+        <translation>the file says %1, but %2 was %3 then (%4 apart)</translation>
+    </message>
     <message id="alignByCopyingOtherFileDate">
         <translation>Take Over Another Date of the File</translation>
     </message>
@@ -23,6 +56,9 @@
     </message>
     <message id="alignByReversingAlt">
         <translation>Reverse and Mirror Gaps</translation>
+    </message>
+    <message id="ambiguityCorrection_undoRedo">
+        <translation>Reading of Repeated Times</translation>
     </message>
     <message id="changeEditMode">
         <translation>Switch Between Folder and Single Shifts</translation>
@@ -601,6 +637,42 @@ Examples:
     </message>
     <message id="menu_copyOtherFileDate_single">
         <translation>Take Over Another Date of the File</translation>
+    </message>
+    <message id="month_short_1">
+        <translation>Jan</translation>
+    </message>
+    <message id="month_short_2">
+        <translation>Feb</translation>
+    </message>
+    <message id="month_short_3">
+        <translation>Mar</translation>
+    </message>
+    <message id="month_short_4">
+        <translation>Apr</translation>
+    </message>
+    <message id="month_short_5">
+        <translation>May</translation>
+    </message>
+    <message id="month_short_6">
+        <translation>Jun</translation>
+    </message>
+    <message id="month_short_7">
+        <translation>Jul</translation>
+    </message>
+    <message id="month_short_8">
+        <translation>Aug</translation>
+    </message>
+    <message id="month_short_9">
+        <translation>Sep</translation>
+    </message>
+    <message id="month_short_10">
+        <translation>Oct</translation>
+    </message>
+    <message id="month_short_11">
+        <translation>Nov</translation>
+    </message>
+    <message id="month_short_12">
+        <translation>Dec</translation>
     </message>
     <message id="preSaveSummary_error_01_ambiguousStamp">
         <translation>The new time falls into the hour that the change of clocks repeats or skips</translation>

@@ -5,24 +5,41 @@
 #include "Zones.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace chronomender {
 
 // What an item says about its date more than once: a zone in the file and the zone assumed for it,
 // the two files of a group, a GPS time. Main thread, or a worker on items that nobody sees yet.
 
-/// Seconds by which the zone in the file disagrees with the assumed one; 0 when they agree or
-/// nothing can be compared. An hour next to a daylight-saving step says nothing: then the result is
-/// 0 and `dstSpecialCase`, if given, tells the case (1 or 2).
-std::int64_t checkMDTADateWithTimeZone(const MySinglePic &pic, const absl::TimeZone &zone,
-                                       int *dstSpecialCase = nullptr);
-std::int64_t checkEXOFTimeWithTimeZone(const MySinglePic &pic, const absl::TimeZone &zone,
-                                       int *dstSpecialCase = nullptr);
-std::int64_t checkXmpTZTimeWithTimeZone(const MySinglePic &pic, const absl::TimeZone &zone,
-                                        int *dstSpecialCase = nullptr);
+/// Why an hour between a file's zone and the assumed one says nothing about the zones.
+enum class DstSpecialCase : std::uint8_t {
+    None = 0,
+    SameClock = 1,   ///< both instants show the same time there: it happens twice
+    SkippedTime = 2, ///< the time in the file does not exist there
+};
 
-/// Sets bit 4 of `majorDateDifferenceType` for a group whose two dates lie apart or are harmonised.
-/// True when they lie apart and only one side is a wall clock without a zone.
+/// Seconds by which the zone in the file disagrees with the assumed one; 0 when they agree, nothing
+/// can be compared, or a special case explains the hour between them.
+///
+///     "2024-06-01T12:00:00+09:00" in Berlin    -25200: Tokyo's noon comes seven hours earlier
+std::int64_t checkMDTADateWithTimeZone(const MySinglePic &pic, const absl::TimeZone &zone,
+                                       DstSpecialCase *specialCase = nullptr);
+std::int64_t checkEXOFTimeWithTimeZone(const MySinglePic &pic, const absl::TimeZone &zone,
+                                       DstSpecialCase *specialCase = nullptr);
+std::int64_t checkXmpTZTimeWithTimeZone(const MySinglePic &pic, const absl::TimeZone &zone,
+                                        DstSpecialCase *specialCase = nullptr);
+
+/// The zone that the file tells for the item's date, and what came of comparing it.
+struct ZoneDisagreement {
+    std::int32_t secondsEastOfUtc = 0; ///< of the zone in the file
+    std::int64_t seconds = 0;          ///< as the three functions above give it, never 0
+};
+std::optional<ZoneDisagreement> zoneDisagreement(const MySinglePic &pic,
+                                                 const absl::TimeZone &zone);
+
+/// Stores in `majorDateDifferenceType` whether the two sides of the item's group deviate. True when
+/// they lie apart and one side alone is a wall clock without a zone.
 bool validateGroupDeviations(MySinglePic &pic);
 
 /// Stores major and minor differences, divergence and ambiguity of the item under a source zone.
@@ -33,6 +50,7 @@ bool validateDateDifferences(MySinglePic &pic, const MySingleFolder &folder, con
 /// The lighter check for movies during import: the zone in the file, divergence and ambiguity.
 void validateMovieDatesOnImport(MySinglePic &pic, const MySingleFolder &folder, const Zones &zones);
 
+/// The zones disagree, or only one side of the group is without one.
 bool hasMajorDateDifference(const MySinglePic &pic);
 
 } // namespace chronomender

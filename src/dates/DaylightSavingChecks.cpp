@@ -6,6 +6,7 @@
 #include "MovieStampSyntax.h"
 #include "StampConversions.h"
 #include "XmpStampConversions.h"
+#include "ZoneLookup.h"
 
 namespace chronomender {
 namespace {
@@ -59,22 +60,22 @@ std::optional<CivilFields> movieClock(const MySinglePic &pic, StampSlot slot) {
     return date ? std::optional(civilFromInstant(*date, absl::UTCTimeZone())) : std::nullopt;
 }
 
-bool tellsAnotherClock(const MySinglePic &pic, StampSlot slot, const CivilFields &clock) {
-    if (pic.isMovie()) {
-        const auto told = movieClock(pic, slot);
-        return told && *told != clock;
-    }
-    const LocatedBytes *stamp = pic.stamp(slot);
-    const auto text = stamp ? exifTimeStampFromData(stamp->data) : std::nullopt;
-    if (text)
-        return civilFromExifTimeStamp(*text) != clock;
-    const auto fromXmp = stamp ? std::nullopt : wallClockOfXmpStamp(pic.xmpStamp(slot));
-    return fromXmp && *fromXmp != clock;
+/// Import looks at the item's stamps, which are wall clocks that a zone gives their meaning.
+bool hasStampsToCheck(const MySinglePic &pic) {
+    return isPhotoWithStamps(pic.spType) || (isLocalMovieDate(pic) && !isNullerFile(pic.spType));
 }
 
+/// Whole seconds are compared as fields, which is the same as comparing the texts that they make,
+/// and does not take a stamp written oddly ("2024: 6: 1") for another time.
 Verdict verdictFor(const MySinglePic &pic, StampSlot slot, Date date, const absl::TimeZone &zone) {
-    return {tellsAnotherClock(pic, slot, civilFromInstant(date, zone)),
-            isAmbiguousLocalTime(date, zone)};
+    const auto told = wallClockInFile(pic, slot);
+    return {told && *told != civilFromInstant(date, zone), isAmbiguousLocalTime(date, zone)};
+}
+
+template<class Question>
+bool isTrueOfBundle(const MySinglePic &pic, Question isTrue) {
+    const MySinglePicPtr &dependent = pic.group.bundleDependentImage;
+    return isTrue(pic) || (dependent && isTrue(*dependent));
 }
 
 StampSlot mainSlot(SpType type) {
@@ -106,14 +107,29 @@ StampSlot slotFor(ExportDate which, SpType type) {
     return StampSlot::Modification;
 }
 
-const StampSlot *firstFilledSlot(const MySinglePic &pic) {
-    for (const StampSlot &slot : stampSlots)
-        if (pic.slots.*description(slot).oldDate)
-            return &slot;
-    return nullptr;
+/// What its file can hold of a movie's header time; other stamps hold all dates of these years.
+bool canBeStored(const MySinglePic &pic, Date date, const absl::TimeZone &zone) {
+    return !isQtMovie(pic.spType) || mvhdDataFromDate(date, MvhdCorrection::On, zone);
 }
 
 } // namespace
+
+std::optional<StampSlot> firstDatedSlot(const MySinglePic &pic) {
+    for (StampSlot slot : stampSlots)
+        if (isCleanDate(pic.slots.*description(slot).oldDate))
+            return slot;
+    return std::nullopt;
+}
+
+std::optional<CivilFields> wallClockInFile(const MySinglePic &pic, StampSlot slot) {
+    if (pic.isMovie())
+        return movieClock(pic, slot);
+    const LocatedBytes *stamp = pic.stamp(slot);
+    const auto text = stamp ? exifTimeStampFromData(stamp->data) : std::nullopt;
+    if (text)
+        return civilFromExifTimeStamp(*text);
+    return stamp ? std::nullopt : wallClockOfXmpStamp(pic.xmpStamp(slot));
+}
 
 bool isAmbiguousLocalTime(Date date, const absl::TimeZone &zone) {
     return !isMarker(date) && zone.At(date).cs == zone.At(date - usualStep).cs;
@@ -139,20 +155,68 @@ bool hasDSTAmbiguityForDate(const MySinglePic &pic, Date date, ExportDate which,
     if (isPhoto && !isLocalStamp(pic, slotFor(which, pic.spType)))
         return false;
     const Date readAgain = instantFromCivil(civilFromInstant(date, zone), zone);
-    return distance(readAgain, date) > roundTripTolerance;
+    return distance(readAgain, date) > roundTripTolerance && canBeStored(pic, date, zone);
+}
+
+bool hasDSTAmbiguityAtExportDatesource(const MySinglePic &pic, const MySingleFolder &folder,
+                                       const Zones &zones) {
+    return pic.isThisTimeUnsaved() &&
+           hasDSTAmbiguityForDate(pic, pic.spDateTimeModified(), ExportDate::Main,
+                                  targetTimeZoneForPic(pic, folder, zones).rules, DSTPreFilter::On);
+}
+
+unsigned dstAmbiguityAtExportState(const MySinglePic &pic, const MySingleFolder &folder,
+                                   const Zones &zones) {
+    if (!hasDSTAmbiguityAtExportDatesource(pic, folder, zones))
+        return 0;
+    switch (pic.spType) {
+    case SpTypeExifOriginal:
+    case SpTypeMovieRiff:
+    case SpTypeMovieMvhdCreation:
+        return bit(StampSlot::Original);
+    case SpTypeExifDigitized:
+        return bit(StampSlot::Digitized);
+    default:
+        return bit(StampSlot::Modification);
+    }
+}
+
+bool hasBundleDstAmbiguityAtExport(const MySinglePic &pic, const MySingleFolder &folder,
+                                   const Zones &zones) {
+    return isTrueOfBundle(pic, [&](const MySinglePic &each) {
+        return hasDSTAmbiguityAtExportDatesource(each, folder, zones);
+    });
+}
+
+bool hasBundleDstDivergence(const MySinglePic &pic) {
+    return isTrueOfBundle(
+        pic, [](const MySinglePic &each) { return each.zones.dstDivergenceState != 0; });
+}
+
+bool hasBundleDstAmbiguityAtImport(const MySinglePic &pic) {
+    return isTrueOfBundle(pic, hasImportAmbiguityForMainDate);
+}
+
+bool hasImportAmbiguityForDate(const MySinglePic &pic, const OptionalDate &date,
+                               const absl::TimeZone &zone) {
+    return date && hasStampsToCheck(pic) && isAmbiguousLocalTime(*date, zone);
 }
 
 DSTState checkDSTDivergence(const MySinglePic &pic, const absl::TimeZone &zone) {
+    return checkDSTDivergence(pic, zone, pic.slots);
+}
+
+DSTState checkDSTDivergence(const MySinglePic &pic, const absl::TimeZone &zone,
+                            const DateSlots &slots) {
     DSTState state;
-    const bool isLocalMovie = isLocalMovieDate(pic) && !isNullerFile(pic.spType);
-    if (!isPhotoWithStamps(pic.spType) && !isLocalMovie)
+    if (!hasStampsToCheck(pic))
         return state;
     // The three stamps of a photo are mostly equal: such slots take the verdict of the one before.
     OptionalDate judgedDate;
     const LocatedBytes *judgedStamp = nullptr;
     Verdict verdict;
     for (StampSlot slot : stampSlots) {
-        const OptionalDate &date = pic.slots.*description(slot).oldDate;
+        const OptionalDate &date = slots.*description(slot).oldDate;
         if (!isCleanDate(date) || !isLocalStamp(pic, slot))
             continue;
         const LocatedBytes *stamp = readBytes(pic, slot);
@@ -176,8 +240,12 @@ void checkImportDivergencyAndAmbiguityUsingZone(MySinglePic &pic, const absl::Ti
 }
 
 bool isDateSourceAmbiguousAtImport(const MySinglePic &pic) {
-    const StampSlot *slot = firstFilledSlot(pic);
+    const auto slot = firstDatedSlot(pic);
     return slot && (pic.zones.dstAmbiguityAtImportState & bit(*slot));
+}
+
+bool hasImportAmbiguityForMainDate(const MySinglePic &pic) {
+    return pic.zones.dstAmbiguityAtImportState != 0;
 }
 
 void correctAmbiguousDatesBy(MySinglePic &pic, absl::Duration difference) {
@@ -187,7 +255,7 @@ void correctAmbiguousDatesBy(MySinglePic &pic, absl::Duration difference) {
             date = shifted(*date, difference);
     }
     // An item that shows its file date is not moved by its stamp.
-    const StampSlot *slot = firstFilledSlot(pic);
+    const auto slot = firstDatedSlot(pic);
     if (slot && !isPreferringFileDate(pic.spType))
         pic.spDateTimeOriginal = *(pic.slots.*description(*slot).oldDate);
     if (pic.location.spGpsUTCDate)
@@ -196,7 +264,7 @@ void correctAmbiguousDatesBy(MySinglePic &pic, absl::Duration difference) {
 
 void reapplyAmbiguityCorrection(MySinglePic &pic) {
     if (pic.zones.usesAltTimeAtAmbiguityReason != 0)
-        correctAmbiguousDatesBy(pic, -usualStep);
+        correctAmbiguousDatesBy(pic, kEarlierReading);
 }
 
 } // namespace chronomender

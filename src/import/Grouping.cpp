@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Grouping.h"
 
+#include "DateDifferences.h"
 #include "GroupingPairs.h"
 #include "GroupingTransfer.h"
 
@@ -145,6 +146,11 @@ GroupingResult checkForPossibleBundles(MySingleFolder &folder,
     std::ranges::copy_if(newItems, std::back_inserter(result.newDependents), isDependent);
     folder.takeHarmonizingRawJpgsType(context.defaults);
     folder.settleSortFolderLPsByMov(context.defaults);
+    // Whether the two sides deviate depends on the folder's kind of harmonising, settled just now;
+    // a movie may have got another date as the half of a live photo.
+    for (const MergedGroup &group : result.merged)
+        for (MySinglePic *half : {group.dependent.get(), group.master.get()})
+            validateDateDifferences(*half, folder, context.zones);
     return result;
 }
 

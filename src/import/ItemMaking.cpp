@@ -2,6 +2,7 @@
 #include "ItemMaking.h"
 
 #include "CameraText.h"
+#include "DateDifferences.h"
 #include "DaylightSavingChecks.h"
 #include "ItemFilling.h"
 #include "MovieFilling.h"
@@ -30,14 +31,16 @@ bool hasGpsInstant(const MySinglePic &pic) {
 }
 
 /// A folder that says what its cameras' clocks meant has its stamps read so. Without that, stamps
-/// that carry no zone and have no GPS time beside them are looked at for ambiguity.
+/// that carry no zone and have no GPS time beside them are looked at for ambiguity alone; the
+/// others tell their time in more than one way.
 void settleZones(MySinglePic &pic, const FillContext &context) {
     if (context.folder.sourceTimeZones.folderDefault)
         updateAllDatesAfterUpdatingTimezone(pic, context.folder, context.zones,
                                             context.dateComparisonThresold);
     else if (!hasZonedSource(pic) && !hasGpsInstant(pic))
         checkImportDivergencyAndAmbiguityUsingZone(pic, context.zones.systemZone().rules);
-    // The others' dates can be compared with each other: the place of validateDateDifferences.
+    else
+        validateDateDifferencesUsingTimeZone(pic, context.zones.systemZone().rules);
 }
 
 void takeCamera(MySinglePic &pic, const DatesData &dates) {
@@ -71,7 +74,8 @@ void fillMovie(MySinglePic &pic, FileRecord &record, const FillContext &context)
     setImageAttributesFromFileAttributes(pic, record.attributes, context.dateComparisonThresold);
     if (isNullerFile(pic.spType))
         markEmptyHeaderTimes(pic);
-    // The place of validateMovieDatesOnImport, which compares header and metadata dates.
+    if (pic.hasCorrectableDate())
+        validateMovieDatesOnImport(pic, context.folder, context.zones);
 }
 
 } // namespace

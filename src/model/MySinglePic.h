@@ -34,15 +34,23 @@ struct XmpFlags {
     bool hasModiXmp = false; ///< a TIFF tag exists and XMP holds a modification stamp as well
 };
 
-/// Zone and daylight-saving state. Bit sets are over `StampSlot`.
+/// Bits of `majorDateDifferenceType`.
+enum MajorDateDifference : unsigned {
+    kZoneDisagrees = 1,      ///< the zone in the file is not the one assumed for the item
+    kOnlyOneSideIsLocal = 2, ///< a group lies apart, and one side alone is without a zone
+    kGroupDeviates = 4,      ///< a group lies more than 300 s apart, or is harmonised
+};
+
+/// Zone and daylight-saving state. The states are bit sets over `StampSlot`.
 struct ZoneFlags {
     bool isUnsavedDueToTZC = false;
     unsigned dstDivergenceState = 0;
     unsigned dstAmbiguityAtImportState = 0;
-    unsigned dstAmbiguityAtExportState = 0;
+    /// Not 0: an ambiguous stamp is read as the earlier of its two instants. Kept, without effect,
+    /// while the stamp means one instant only.
     int usesAltTimeAtAmbiguityReason = 0;
-    unsigned majorDateDifferenceType = 0; ///< bits 1, 2, 4
-    bool hasMinorDateDifference = false;
+    unsigned majorDateDifferenceType = 0; ///< bits of MajorDateDifference
+    bool hasMinorDateDifference = false;  ///< the GPS time differs from a date without a zone
 };
 
 /// What a movie says of itself.

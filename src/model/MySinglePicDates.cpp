@@ -139,7 +139,7 @@ bool MySinglePic::isDataSourceLocal() const {
     if (spType == SpTypeTiffYoungerThanFile)
         return false;
     for (StampSlot slot : stampSlots)
-        if (slots.*description(slot).oldDate) {
+        if (isCleanDate(slots.*description(slot).oldDate)) {
             const XmpStamp *fromXmp = xmpStamp(slot);
             return fromXmp ? fromXmp->type == XmpStampType::Local : !zoneStamp(slot);
         }

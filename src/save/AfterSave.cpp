@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AfterSave.h"
 
+#include "DateDifferences.h"
 #include "DateModifications.h"
-#include "DaylightSavingChecks.h"
 #include "ItemFilling.h"
 #include "SourceSlot.h"
 #include "ZoneLookup.h"
@@ -31,6 +31,17 @@ void updateStampSlots(MySinglePic &pic, const PatchPlan &plan) {
     for (std::size_t i = 0; i < stampSlots.size(); ++i)
         if (plan.stamps[i].readBack && plan.stamps[i].result != SlotResult::Refused)
             pic.slots.*description(stampSlots[i]).oldDate = plan.stamps[i].readBack;
+}
+
+/// What was written reads as its later instant, unless the earlier was wanted and accepted as such.
+/// Without any stamp in the plan the reading stays.
+void settleReading(MySinglePic &pic, const PatchPlan &plan) {
+    const auto any = [&](auto isSo) { return std::ranges::any_of(plan.stamps, isSo); };
+    int &usesAlternative = pic.zones.usesAltTimeAtAmbiguityReason;
+    if (any([](const StampPlan &stamp) { return stamp.isAmbiguous; }))
+        usesAlternative = 1;
+    else if (any([](const StampPlan &stamp) { return stamp.readBack.has_value(); }))
+        usesAlternative = 0;
 }
 
 void clearUndoRedo(const MySingleFolder &folder, UndoManager &undo) {
@@ -89,14 +100,13 @@ void dropSingleShifts(MySingleFolder &folder, const std::vector<MySinglePicPtr> 
 
 bool needsFullUpdate(const MySinglePic &pic, const PatchPlan &plan) {
     return isEligibleForYoungerThanFile(typeAfterFillingEmptyTags(pic.spType)) ||
+           pic.zones.usesAltTimeAtAmbiguityReason != 0 ||
            std::any_of(plan.stamps.begin(), plan.stamps.end(),
                        [](const StampPlan &stamp) { return stamp.isAmbiguous; });
 }
 
 void applySavedPlan(MySinglePic &pic, const PatchPlan &plan, const PatchOutcome &outcome,
                     const MySingleFolder &folder, const Zones &zones) {
-    const bool isAmbiguous = std::any_of(plan.stamps.begin(), plan.stamps.end(),
-                                         [](const StampPlan &stamp) { return stamp.isAmbiguous; });
     const Zone &target = targetTimeZoneForPic(pic, folder, zones);
     applyPatches(pic.singlePicAttributes, plan.patches);
     if (outcome.attributes)
@@ -108,9 +118,8 @@ void applySavedPlan(MySinglePic &pic, const PatchPlan &plan, const PatchOutcome 
     updateMainDate(pic);
     if (plan.newGpsDate)
         pic.location.spGpsUTCDate = plan.newGpsDate;
-    if (isAmbiguous)
-        pic.zones.usesAltTimeAtAmbiguityReason = 1;
-    checkImportDivergencyAndAmbiguityUsingZone(pic, target.rules);
+    settleReading(pic, plan);
+    validateDateDifferencesUsingTimeZone(pic, target.rules);
     pic.zones.isUnsavedDueToTZC = false;
     pic.livePhoto.livePhotoExactTimeCached.reset();
     pic.save.saveErrorType = 0;
@@ -144,6 +153,9 @@ void clearDateValuesAfterSavingFolder(MySingleFolder &folder, const FolderSaveSu
         dropSingleShifts(folder, summary.saved);
     for (const MySinglePicPtr &pic : summary.needingFullUpdate)
         updateAllDatesAfterUpdatingTimezone(*pic, folder, zones, dateComparisonThresold);
+    // Only now both halves of every group are what was saved.
+    for (const MySinglePicPtr &pic : summary.saved)
+        validateGroupDeviations(*pic);
     if (folder.sfEditMode == EditMode::Single || !summary.needingFullUpdate.empty())
         sfUpdatePicsFromAndTill(folder);
 }

@@ -255,7 +255,7 @@ TEST_F(EmptyTagsTest, ThePreferenceAnswersInsteadOfAPerson) {
 
 using AmbiguityTest = ImportTest;
 
-TEST_F(AmbiguityTest, AStampInTheHourThatCameTwiceIsMarkedUnlessItsZoneOrGpsTellsTheInstant) {
+TEST_F(AmbiguityTest, AStampInTheHourThatCameTwiceIsMarkedUnlessItSaysItsZone) {
     const std::string local = "2024:10:27 02:30:00", xmpLocal = "2024-10-27T02:30:00";
     const auto packet = [](const std::string &taken, const std::string &gps = "") {
         return little::PhotoFields{.xmp = little::Xmp()
@@ -264,24 +264,30 @@ TEST_F(AmbiguityTest, AStampInTheHourThatCameTwiceIsMarkedUnlessItsZoneOrGpsTell
                                               .end()
                                               .bytes()};
     };
-    const std::pair<little::PhotoFields, bool> table[]{
-        {{.original = local}, true},
-        {{.original = local, .location = little::PhotoLocation{}}, false},
-        {{.original = local, .zoneOriginal = "+02:00"}, false},
-        {packet(xmpLocal), true},
-        {packet("2024-10-27T02:30:00+02:00"), false},
-        {packet("2024-10-27T00:30:00Z"), false},
-        {packet(xmpLocal, "2024-10-27T02:30:00"), true},
-        {packet(xmpLocal, "2024-10-27T00:30:00Z"), false}};
+    const struct {
+        little::PhotoFields photo;
+        bool isAmbiguous, isGpsApart;
+        unsigned majorDifference = 0;
+    } table[]{{{.original = local}, true, false},
+              {{.original = local, .location = little::PhotoLocation{}}, true, true},
+              {{.original = local, .zoneOriginal = "+02:00"}, false, false},
+              {{.original = local, .zoneOriginal = "+09:00"}, false, false, kZoneDisagrees},
+              {packet(xmpLocal), true, false},
+              {packet("2024-10-27T02:30:00+02:00"), false, false},
+              {packet("2024-10-27T00:30:00Z"), false, false},
+              {packet(xmpLocal, "2024-10-27T02:30:00"), true, false},
+              {packet(xmpLocal, "2024-10-27T00:30:00Z"), true, true}};
     for (std::size_t i = 0; i < std::size(table); ++i)
-        photo(std::to_string(i) + ".jpg", table[i].first);
+        photo(std::to_string(i) + ".jpg", table[i].photo);
     const auto items = import().items;
     ASSERT_EQ(items.size(), std::size(table));
     for (std::size_t i = 0; i < items.size(); ++i) {
         EXPECT_EQ(items[i]->spType, SpTypeExifOriginal) << i;
         EXPECT_EQ(items[i]->zones.dstAmbiguityAtImportState,
-                  table[i].second ? bit(StampSlot::Original) : 0U)
+                  table[i].isAmbiguous ? bit(StampSlot::Original) : 0U)
             << i;
+        EXPECT_EQ(items[i]->zones.hasMinorDateDifference, table[i].isGpsApart) << i;
+        EXPECT_EQ(items[i]->zones.majorDateDifferenceType, table[i].majorDifference) << i;
     }
     EXPECT_EQ(items[0]->spDateTimeOriginal, utc("2024-10-27 01:30:00")) << "the later one";
 }
