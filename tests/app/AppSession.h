@@ -29,7 +29,8 @@ public:
     }
 };
 
-/// A session in UTC with registered defaults, over files of its own.
+/// A session in UTC (or another zone, after a restart) with registered defaults, over files of its
+/// own.
 class AppSession : public ::testing::Test {
 protected:
     static void SetUpTestSuite() {
@@ -41,11 +42,11 @@ protected:
 
     AppSession() { restart(); }
 
-    void restart() {
+    void restart(const char *systemZone = "UTC") {
         m_controller.reset();
         AppServices services{makeSystemFileLayer(), std::make_unique<UserDefaults>(),
                              std::make_unique<Zones>(), [] { return absl::Now(); }};
-        services.zones->setSystemZone(Zones::utc());
+        services.zones->setSystemZone(*services.zones->zoneWithName(systemZone));
         m_controller = std::make_unique<AppController>(std::move(services), m_questions);
     }
 
