@@ -55,8 +55,8 @@ const BlockCollector::BlockHandler BlockCollector::blockHandlers[] =
     {
         {OptionId::Shift,
          [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-             collector.setOnce(openCorrection(block).shift, typed, parseShift(typed.value),
-                               "cli_error_badShift");
+             collector.setOnce(openName(block), openCorrection(block).shift, typed,
+                               parseShift(typed.value), "cli_error_badShift");
          }},
         {OptionId::Pic, [](BlockCollector &collector, FolderBlock &block,
                            const Typed &typed) { collector.openPic(block, typed.value); }},
@@ -66,26 +66,26 @@ const BlockCollector::BlockHandler BlockCollector::blockHandlers[] =
          }},
         {OptionId::SourceZone,
          [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-             collector.setOnce(openCorrection(block).sourceZone, typed);
+             collector.setOnce(openName(block), openCorrection(block).sourceZone, typed);
          }},
         {OptionId::TargetZone,
          [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-             collector.setOnce(openCorrection(block).targetZone, typed);
+             collector.setOnce(openName(block), openCorrection(block).targetZone, typed);
          }},
         {OptionId::EmptyTags,
          [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-             collector.setOnce(block.emptyTags, typed, parseEmptyTags(typed.value),
+             collector.setOnce(block.path, block.emptyTags, typed, parseEmptyTags(typed.value),
                                "cli_error_badEmptyTags");
          }},
         {OptionId::MovieDate,
          [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-             collector.setOnce(block.movieDate, typed, wordIn(movieDates, typed.value),
+             collector.setOnce(block.path, block.movieDate, typed, wordIn(movieDates, typed.value),
                                "cli_error_badMovieDate");
          }},
         {OptionId::MovieClock,
          [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-             collector.setOnce(block.movieClock, typed, wordIn(movieClocks, typed.value),
-                               "cli_error_badMovieClock");
+             collector.setOnce(block.path, block.movieClock, typed,
+                               wordIn(movieClocks, typed.value), "cli_error_badMovieClock");
          }},
         {OptionId::FilterExt,
          [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
@@ -97,7 +97,7 @@ const BlockCollector::BlockHandler BlockCollector::blockHandlers[] =
          }},
         {OptionId::Subfolders,
          [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
-             collector.setOnce(block.subfolderDepth, typed, parseDepth(typed.value),
+             collector.setOnce(block.path, block.subfolderDepth, typed, parseDepth(typed.value),
                                "cli_error_badDepth");
          }},
 };
@@ -260,28 +260,28 @@ void BlockCollector::addFilter(std::optional<std::string> &filter,
     if (opposite)
         fail(text("cli_error_twoFilters", {printable(m_line.blocks.back().path)}));
     else
-        setOnce(filter, typed);
+        setOnce(m_line.blocks.back().path, filter, typed);
 }
 
-/// What the options at hand are about.
-const std::string &BlockCollector::openName() const {
-    const FolderBlock &block = m_line.blocks.back();
+const std::string &BlockCollector::openName(const FolderBlock &block) {
     return block.pics.empty() ? block.path : block.pics.back().name;
 }
 
 template<class Value>
-void BlockCollector::setOnce(std::optional<Value> &place, const Typed &typed,
-                             std::optional<Value> value, const char *complaintKey) {
+void BlockCollector::setOnce(const std::string &owner, std::optional<Value> &place,
+                             const Typed &typed, std::optional<Value> value,
+                             const char *complaintKey) {
     if (place)
-        fail(text("cli_error_optionTwice", {typed.name, printable(openName())}));
+        fail(text("cli_error_optionTwice", {typed.name, printable(owner)}));
     else if (!value)
         fail(text(complaintKey, {printable(typed.value)}));
     else
         place = std::move(value);
 }
 
-void BlockCollector::setOnce(std::optional<std::string> &place, const Typed &typed) {
-    setOnce(place, typed, std::optional(typed.value), "");
+void BlockCollector::setOnce(const std::string &owner, std::optional<std::string> &place,
+                             const Typed &typed) {
+    setOnce(owner, place, typed, std::optional(typed.value), "");
 }
 
 } // namespace chronomender

@@ -45,6 +45,7 @@ private:
     void addToBlock(const BlockHandler &handler, const Typed &typed);
     void openPic(FolderBlock &block, const std::string &name);
     static Correction &openCorrection(FolderBlock &block);
+    static const std::string &openName(const FolderBlock &block);
     void addFilter(std::optional<std::string> &filter, const std::optional<std::string> &opposite,
                    const Typed &typed);
     void addDateSequence(const std::string &value);
@@ -54,12 +55,11 @@ private:
     void addCopy(const std::string &slot);
     void checkAlignment();
     template<class Value>
-    void setOnce(std::optional<Value> &place, const Typed &typed, std::optional<Value> value,
-                 const char *complaintKey);
-    void setOnce(std::optional<std::string> &place, const Typed &typed);
+    void setOnce(const std::string &owner, std::optional<Value> &place, const Typed &typed,
+                 std::optional<Value> value, const char *complaintKey);
+    void setOnce(const std::string &owner, std::optional<std::string> &place, const Typed &typed);
     void fail(std::string message);
     void closePic();
-    const std::string &openName() const;
 
     CommandLine m_line;
     std::optional<std::string> m_error;

@@ -40,19 +40,26 @@ std::vector<MySinglePicPtr> itemsWithDependents(const MySingleFolder &folder) {
     return items;
 }
 
+/// The other half of a group tells its alerts itself.
+std::vector<DateAlert> ownAlerts(const MySinglePic &pic, const MySingleFolder &folder,
+                                 const Zones &zones) {
+    std::vector<DateAlert> alerts = dateAlerts(pic, folder, zones);
+    std::erase_if(alerts, [](const DateAlert &alert) { return alert.isOfDependent; });
+    return alerts;
+}
+
 /// One item and what is said about it.
 class Info {
 public:
     Info(const MySinglePic &pic, const MySingleFolder &folder, const FolderPaths &paths,
          const Zones &zones)
         : m_pic(pic),
-          m_folder(folder),
-          m_zones(zones),
           m_path(paths.path(folder, pic)),
           m_slots(slotViews(pic, folder, zones)),
           m_sourceZone(sourceTimeZoneForPic(pic, folder, zones).name),
           m_targetZone(targetTimeZoneForPic(pic, folder, zones).name),
-          m_displayZone(displayZone(pic, folder, zones)) {}
+          m_displayZone(displayZone(pic, folder, zones)),
+          m_alerts(ownAlerts(pic, folder, zones)) {}
 
     void appendJson(std::string &buffer) const {
         JsonLine line(buffer);
@@ -74,7 +81,7 @@ public:
         if (const MySinglePicPtr master = m_pic.bundleMasterImage())
             line.field("master", master->spName);
         line.beginObject("zones").field("source", m_sourceZone).field("target", m_targetZone).end();
-        appendAlerts(line, m_pic, m_folder, m_zones);
+        appendAlerts(line, m_alerts, m_pic);
         line.finish();
     }
 
@@ -161,7 +168,7 @@ private:
                 {"cli_info_sourceZone", m_sourceZone},
                 {"cli_info_targetZone", m_targetZone},
                 {"cli_info_note", noteText(m_pic)},
-                {"cli_info_alerts", alertsText(m_pic, m_folder, m_zones)}};
+                {"cli_info_alerts", alertsText(m_alerts, m_pic)}};
     }
 
     Table valueTable() const {
@@ -190,12 +197,11 @@ private:
     }
 
     const MySinglePic &m_pic;
-    const MySingleFolder &m_folder;
-    const Zones &m_zones;
     std::string m_path;
     std::vector<SlotView> m_slots;
     std::string m_sourceZone, m_targetZone;
     absl::TimeZone m_displayZone;
+    std::vector<DateAlert> m_alerts;
 };
 
 } // namespace

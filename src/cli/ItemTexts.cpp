@@ -56,16 +56,14 @@ std::string noteText(const MySinglePic &pic) {
     return joined;
 }
 
-std::string alertsText(const MySinglePic &pic, const MySingleFolder &folder, const Zones &zones) {
+std::string alertsText(const std::vector<DateAlert> &alerts, const MySinglePic &pic) {
     std::string joined;
-    for (const DateAlert &alert : dateAlerts(pic, folder, zones))
+    for (const DateAlert &alert : alerts)
         joined += (joined.empty() ? "" : "; ") + wordsOf(alert, pic);
     return joined;
 }
 
-void appendAlerts(JsonLine &line, const MySinglePic &pic, const MySingleFolder &folder,
-                  const Zones &zones) {
-    const std::vector<DateAlert> alerts = dateAlerts(pic, folder, zones);
+void appendAlerts(JsonLine &line, const std::vector<DateAlert> &alerts, const MySinglePic &pic) {
     if (alerts.empty())
         return;
     line.beginArray("alerts");

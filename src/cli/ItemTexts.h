@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "DateAlerts.h"
 #include "JsonLine.h"
 #include "MySingleFolder.h"
 #include "Zones.h"
@@ -23,13 +24,12 @@ bool isUnsaved(const MySinglePic &pic);
 /// file…
 std::string noteText(const MySinglePic &pic);
 
-/// What makes an item's date doubtful, in words, separated by semicolons; "" for most items. An
-/// alert about the other half of a group begins with that file's name.
-std::string alertsText(const MySinglePic &pic, const MySingleFolder &folder, const Zones &zones);
+/// Alerts of an item in words, separated by semicolons; "" for most items. What is about the other
+/// half of a group begins with that file's name.
+std::string alertsText(const std::vector<DateAlert> &alerts, const MySinglePic &pic);
 
 /// The same as "alerts"; nothing for an item without.
-void appendAlerts(JsonLine &line, const MySinglePic &pic, const MySingleFolder &folder,
-                  const Zones &zones);
+void appendAlerts(JsonLine &line, const std::vector<DateAlert> &alerts, const MySinglePic &pic);
 
 /// Where an item's date comes from, in words.
 std::string sourceText(const MySinglePic &pic);

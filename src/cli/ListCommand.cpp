@@ -37,7 +37,7 @@ public:
                     {readableText(pic->spDateTimeModified(), displayZone(*pic, *folder, m_zones)),
                      printable(folder->sfFolder), printable(spNameComplete(*pic)),
                      printable(pic->camera.pivMakeModel), noteText(*pic),
-                     printable(alertsText(*pic, *folder, m_zones))});
+                     printable(alertsText(dateAlerts(*pic, *folder, m_zones), *pic))});
         const auto unsaved = std::count_if(m_items.begin(), m_items.end(),
                                            [](const auto &pic) { return isUnsaved(*pic); });
         return table.text() +
@@ -68,7 +68,7 @@ private:
                 .end();
         appendCompanions(line, pic);
         line.flag("unsaved", isUnsaved(pic));
-        appendAlerts(line, pic, *folder, m_zones);
+        appendAlerts(line, dateAlerts(pic, *folder, m_zones), pic);
         line.finish();
     }
 

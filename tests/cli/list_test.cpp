@@ -123,6 +123,73 @@ TEST_F(Trip, PicZonesAreItsOwn) {
     }
 }
 
+/// Stamps around the steps of Berlin's clocks in 2024.
+class Alerts : public MendTest {
+protected:
+    Alerts() {
+        writePhoto("night/autumn.jpg", "2024:10:27 02:30:00");
+        writePhoto("night/before.jpg", "2024:10:27 01:30:00");
+        writePhoto("night/spring.jpg", "2024:03:31 02:30:00");
+        writeZonedPhoto("night/zoned.jpg", "2024:10:27 02:30:00", "+02:00");
+        little::PhotoFields fields;
+        fields.original = "2024:10:27 02:40:00";
+        disk().write("night/pair.CR2", little::tiffPhoto(fields).bytes);
+        write("night/pair.JPG", fields);
+    }
+
+    RunResult run(const std::string &command, const Arguments &options = {}) const {
+        return mend(joined({command, "--system-zone", "Europe/Berlin", "--folder", path("night")},
+                           options));
+    }
+
+    /// Of each file that has alerts: their names and texts, one a line.
+    std::map<std::string, std::string> alerts(const Arguments &options = {}) const {
+        std::map<std::string, std::string> all;
+        for (const Json &line : run("list", joined(options, {"--json"})).lines())
+            for (const Json &alert : line.value("alerts", Json::array()))
+                all[line.at("name")] += alert.at("name").get<std::string>() + ": " +
+                                        alert.at("text").get<std::string>() + '\n';
+        return all;
+    }
+};
+
+constexpr const char *later =
+    "happens twice on 27 Oct 2024 in Europe/Berlin; read as the later one";
+constexpr const char *earlier =
+    "happens twice on 27 Oct 2024 in Europe/Berlin; read as the earlier one";
+
+TEST_F(Alerts, NameTheDatesThatCannotBeTrusted) {
+    auto found = alerts();
+    EXPECT_EQ(found["autumn.jpg"], std::string("repeatedTime: ") + later + '\n');
+    EXPECT_EQ(found["pair.CR2"], found["autumn.jpg"]); // both halves alike: said once
+    EXPECT_THAT(found["spring.jpg"], HasSubstr("skippedTime: does not exist on 31 Mar 2024"));
+    EXPECT_EQ(found.size(), 3U) << ::testing::PrintToString(found);
+    found = alerts({"--pic", "before.jpg", "--shift", "1:00:00", "--pic", "zoned.jpg",
+                    "--source-zone", "Asia/Tokyo"});
+    EXPECT_THAT(found["before.jpg"], HasSubstr("cannotBeWritten: "));
+    EXPECT_THAT(found["zoned.jpg"], HasSubstr("zoneDisagrees: "));
+    EXPECT_THAT(run("list").output, HasSubstr(std::string("Little One  ") + later + '\n'));
+    EXPECT_THAT(run("info").output, HasSubstr(later));
+}
+
+TEST_F(Alerts, AlternativeIsTheEarlierReadingOfTheFileWithThatName) {
+    const auto dates = [&](const Arguments &options) {
+        std::map<std::string, std::string> all;
+        for (const Json &line : run("list", joined(options, {"--json"})).lines())
+            all[line.at("name")] = line.at("date");
+        return all;
+    };
+    const Arguments options{"--alternative", "autumn.jpg", "--alternative", "pair.JPG"};
+    EXPECT_EQ(dates({})["autumn.jpg"], "2024-10-27T01:30:00Z");
+    EXPECT_EQ(dates(options)["autumn.jpg"], "2024-10-27T00:30:00Z");
+    EXPECT_EQ(dates(options)["pair.CR2"], "2024-10-27T01:40:00Z");
+    auto found = alerts(options);
+    EXPECT_EQ(found["autumn.jpg"], std::string("repeatedTime: ") + earlier + '\n');
+    EXPECT_THAT(found["pair.CR2"], HasSubstr(std::string("repeatedTime: ") + later));
+    EXPECT_THAT(found["pair.CR2"], HasSubstr(std::string("repeatedTime: pair.JPG: ") + earlier));
+    EXPECT_EQ(run("save", joined(options, {"--dry-run"})).exitCode, 0);
+}
+
 class EmptyTags : public MendTest {
 protected:
     EmptyTags() {
