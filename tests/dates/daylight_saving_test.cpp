@@ -86,6 +86,70 @@ TEST_F(DaylightSaving, ASlotWithItsOwnZoneStampIsNeverInDanger) {
     }
 }
 
+TEST_F(DaylightSaving, TheDangerOfASaveFollowsShiftModeAndTargetZone) {
+    Zones zones;
+    zones.setSystemZone(zone("Europe/Berlin"));
+    const auto isSeen = [&] { return hasBundleDstAmbiguityAtExport(*pic, *folder, zones); };
+    const Date dangerous = autumnChange - absl::Minutes(30);
+    pic->spDateTimeOriginal = dangerous - absl::Hours(24);
+    const auto jpeg = addItem(folder, SpTypeExifOriginal, pic->spDateTimeOriginal);
+    makeDependent(jpeg, pic);
+    jpeg->singlePicAttributes.exifOffsetTimeOriginal = located("+02:00");
+    EXPECT_FALSE(isSeen());
+    folder->sfDateModificationsTimeInterval = absl::Hours(24);
+    EXPECT_TRUE(isSeen());
+    folder->targetTimeZones.folderDefault = ZoneChoice::named(zone("Asia/Tokyo"));
+    EXPECT_FALSE(isSeen());
+    folder->targetTimeZones.folderDefault.reset();
+    folder->sfEditMode = EditMode::Single;
+    EXPECT_FALSE(isSeen());
+    pic->shift.singlePicModification = absl::Hours(24);
+    EXPECT_TRUE(isSeen());
+    EXPECT_EQ(dstAmbiguityAtExportState(*jpeg, *folder, zones), 0U);
+    pic->save.saveErrorType = 4; // asked anew each time
+    pic->shift.singlePicModification = absl::ZeroDuration();
+    EXPECT_FALSE(isSeen());
+
+    pic->save.saveErrorType = 0;
+    pic->spDateTimeOriginal = dangerous; // nothing would be written
+    EXPECT_FALSE(isSeen());
+    pic->zones.isUnsavedDueToTZC = true;
+    EXPECT_TRUE(isSeen());
+    folder->isQuicktimeMVHDTimezoneCorrectionEnabled = true;
+    const std::pair<SpType, unsigned> rows[] = {{SpTypeExifOriginal, original},
+                                                {SpTypeExifDigitized, digitized},
+                                                {SpTypeTiffDateTime, modification},
+                                                {SpTypeEmptyOriginalFileDate, modification},
+                                                {SpTypeMovieRiff, original},
+                                                {SpTypeMovieMvhdCreation, original},
+                                                {SpTypeMovieMvhdModification, modification},
+                                                {SpTypeMovieMdta, 0},
+                                                {SpTypeNoTagsFileDate, 0}};
+    for (const auto &[type, state] : rows) {
+        pic->spType = type;
+        EXPECT_EQ(dstAmbiguityAtExportState(*pic, *folder, zones), state) << static_cast<int>(type);
+    }
+    // A header cannot say 2044 at all, which is an error of another kind.
+    const Date far = utc(2044, 10, 30, 0, 30);
+    pic->spType = SpTypeMovieMvhdCreation;
+    EXPECT_FALSE(isInDanger(far));
+    pic->spType = SpTypeMovieRiff;
+    EXPECT_TRUE(isInDanger(far));
+}
+
+TEST_F(DaylightSaving, ATagToBeAddedIsNoDate) {
+    const Date later = autumnChange + absl::Minutes(30);
+    setAllSlots(later, "2024:10:27 02:30:00");
+    pic->spType = SpTypeTiffDateTime;
+    pic->slots.exifDateTimeOriginalOLD = pic->slots.exifDateTimeDigitizedOLD = InfinitePast();
+    checkImportDivergencyAndAmbiguityUsingZone(*pic, berlin);
+    EXPECT_TRUE(isDateSourceAmbiguousAtImport(*pic));
+    correctAmbiguousDatesBy(*pic, kEarlierReading);
+    EXPECT_EQ(pic->spDateTimeOriginal, later - absl::Hours(1));
+    pic->singlePicAttributes.tiffOffsetTime = located("+01:00");
+    EXPECT_FALSE(pic->isDataSourceLocal());
+}
+
 TEST_F(DaylightSaving, ImportFlagsEachSlotByItself) {
     setAllSlots(autumnChange + absl::Minutes(30), "2024:10:27 02:30:00");
     pic->singlePicAttributes.exifOffsetTimeDigitized = located("+01:00");
