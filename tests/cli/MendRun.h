@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include <fcntl.h>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <sys/wait.h>
@@ -23,6 +24,12 @@ using Arguments = std::vector<std::string>;
 inline Arguments joined(Arguments first, const Arguments &more) {
     first.insert(first.end(), more.begin(), more.end());
     return first;
+}
+
+/// Arguments without blanks inside, as a shell would split them.
+inline Arguments words(const std::string &line) {
+    std::istringstream stream(line);
+    return {std::istream_iterator<std::string>(stream), {}};
 }
 
 struct RunResult {

@@ -63,63 +63,33 @@ TEST_F(Trip, OwnTargetShowsTheFilesOwnZone) {
     EXPECT_EQ(lines.at(0).at("unsaved"), false);
 }
 
-TEST_F(Trip, PicShiftIsAddedToItsFoldersShift) {
-    const auto lines = mend({"list", "--json", "--folder", path("canon"), "--shift", "-1:00:00",
-                             "--pic", "IMG_2.jpg", "--shift", "+0:05"})
-                           .lines();
-    ASSERT_EQ(lines.size(), 2U);
-    EXPECT_EQ(lines[0].at("name"), "IMG_10.jpg");
-    EXPECT_EQ(lines[0].at("date"), "2024-05-06T12:00:00Z");
-    EXPECT_EQ(lines[1].at("date"), "2024-05-06T12:05:00Z");
-}
-
-/// Zones of one item are an exception from its folder's, and a source alone makes nothing unsaved.
-TEST_F(Trip, PicZonesAreItsOwn) {
+/// What is said of one item is an exception from its folder, and a source zone makes nothing
+/// unsaved. Both pictures say 13:00.
+TEST_F(Trip, PicCorrectionsAreItsOwn) {
     struct Case {
-        Arguments options;
-        const char *localOfTwo, *localOfTen;
-        bool isTwoUnsaved, isTenUnsaved;
+        const char *options, *two, *ten;
     };
-    const Case cases[]{
-        {{"--pic", "IMG_2.jpg", "--source-zone", "America/New_York"},
-         "2024-05-06T13:00:00-04:00",
-         "2024-05-06T13:00:00+02:00",
-         false,
-         false},
-        {{"--source-zone", "Asia/Tokyo", "--pic", "IMG_2.jpg", "--source-zone", "+05:45"},
-         "2024-05-06T13:00:00+05:45",
-         "2024-05-06T13:00:00+09:00",
-         false,
-         false},
-        {{"--target-zone", "Asia/Tokyo", "--pic", "IMG_2.jpg", "--target-zone", "own"},
-         "2024-05-06T13:00:00+02:00",
-         "2024-05-06T20:00:00+09:00",
-         false,
-         true},
-        {{"--pic", "IMG_2.jpg", "--source-zone", "UTC", "--target-zone", "Asia/Tokyo", "--shift",
-          "-60"},
-         "2024-05-06T21:59:00+09:00",
-         "2024-05-06T13:00:00+02:00",
-         true,
-         false},
-        {{"--shift", "60", "--pic", "IMG_2.jpg", "--source-zone", "UTC"},
-         "2024-05-06T13:01:00+00:00",
-         "2024-05-06T13:01:00+02:00",
-         true,
-         true},
+    constexpr Case cases[]{
+        {"--shift -1:00:00 --pic IMG_2.jpg --shift +0:05", "12:05:00+02:00 *", "12:00:00+02:00 *"},
+        {"--pic IMG_2.jpg --source-zone America/New_York", "13:00:00-04:00", "13:00:00+02:00"},
+        {"--source-zone Asia/Tokyo --pic IMG_2.jpg --source-zone +05:45", "13:00:00+05:45",
+         "13:00:00+09:00"},
+        {"--target-zone Asia/Tokyo --pic IMG_2.jpg --target-zone own", "13:00:00+02:00",
+         "20:00:00+09:00 *"},
+        {"--pic IMG_2.jpg --source-zone UTC --target-zone Asia/Tokyo --shift -60",
+         "21:59:00+09:00 *", "13:00:00+02:00"},
+        {"--shift 60 --pic IMG_2.jpg --source-zone UTC", "13:01:00+00:00 *", "13:01:00+02:00 *"},
     };
-    for (const Case &one : cases) {
-        std::map<std::string, Json> lines;
+    for (const auto &[options, two, ten] : cases) {
+        std::map<std::string, std::string> seen;
         for (const Json &line : mend(joined({"list", "--json", "--system-zone", "Europe/Berlin",
                                              "--folder", path("canon")},
-                                            one.options))
+                                            words(options)))
                                     .lines())
-            lines[line.at("name")] = line;
-        const std::string what = ::testing::PrintToString(one.options);
-        EXPECT_EQ(lines["IMG_2.jpg"]["local"], one.localOfTwo) << what;
-        EXPECT_EQ(lines["IMG_10.jpg"]["local"], one.localOfTen) << what;
-        EXPECT_EQ(lines["IMG_2.jpg"]["unsaved"], one.isTwoUnsaved) << what;
-        EXPECT_EQ(lines["IMG_10.jpg"]["unsaved"], one.isTenUnsaved) << what;
+            seen[line.at("name")] =
+                line.at("local").get<std::string>().substr(11) + (line.at("unsaved") ? " *" : "");
+        EXPECT_EQ(seen["IMG_2.jpg"], two) << options;
+        EXPECT_EQ(seen["IMG_10.jpg"], ten) << options;
     }
 }
 
@@ -137,57 +107,46 @@ protected:
         write("night/pair.JPG", fields);
     }
 
-    RunResult run(const std::string &command, const Arguments &options = {}) const {
+    RunResult run(const std::string &command, const std::string &options = {}) const {
         return mend(joined({command, "--system-zone", "Europe/Berlin", "--folder", path("night")},
-                           options));
+                           words(options)));
     }
 
-    /// Of each file that has alerts: their names and texts, one a line.
-    std::map<std::string, std::string> alerts(const Arguments &options = {}) const {
+    /// Of each file: its alerts, one a line, and behind them its date.
+    std::map<std::string, std::string> list(const std::string &options = {}) const {
         std::map<std::string, std::string> all;
-        for (const Json &line : run("list", joined(options, {"--json"})).lines())
+        for (const Json &line : run("list", options + " --json").lines()) {
+            std::string &told = all[line.at("name")];
             for (const Json &alert : line.value("alerts", Json::array()))
-                all[line.at("name")] += alert.at("name").get<std::string>() + ": " +
-                                        alert.at("text").get<std::string>() + '\n';
+                told += alert.at("name").get<std::string>() + ": " +
+                        alert.at("text").get<std::string>() + '\n';
+            told += line.at("date");
+        }
         return all;
     }
 };
 
-constexpr const char *later =
-    "happens twice on 27 Oct 2024 in Europe/Berlin; read as the later one";
-constexpr const char *earlier =
-    "happens twice on 27 Oct 2024 in Europe/Berlin; read as the earlier one";
+const std::string twice = "happens twice on 27 Oct 2024 in Europe/Berlin; read as the ";
 
 TEST_F(Alerts, NameTheDatesThatCannotBeTrusted) {
-    auto found = alerts();
-    EXPECT_EQ(found["autumn.jpg"], std::string("repeatedTime: ") + later + '\n');
-    EXPECT_EQ(found["pair.CR2"], found["autumn.jpg"]); // both halves alike: said once
-    EXPECT_THAT(found["spring.jpg"], HasSubstr("skippedTime: does not exist on 31 Mar 2024"));
-    EXPECT_EQ(found.size(), 3U) << ::testing::PrintToString(found);
-    found = alerts({"--pic", "before.jpg", "--shift", "1:00:00", "--pic", "zoned.jpg",
-                    "--source-zone", "Asia/Tokyo"});
-    EXPECT_THAT(found["before.jpg"], HasSubstr("cannotBeWritten: "));
-    EXPECT_THAT(found["zoned.jpg"], HasSubstr("zoneDisagrees: "));
-    EXPECT_THAT(run("list").output, HasSubstr(std::string("Little One  ") + later + '\n'));
-    EXPECT_THAT(run("info").output, HasSubstr(later));
+    auto seen = list();
+    EXPECT_EQ(seen["autumn.jpg"], "repeatedTime: " + twice + "later one\n2024-10-27T01:30:00Z");
+    EXPECT_EQ(seen["pair.CR2"], "repeatedTime: " + twice + "later one\n2024-10-27T01:40:00Z");
+    EXPECT_THAT(seen["spring.jpg"], HasSubstr("skippedTime: does not exist on 31 Mar 2024"));
+    EXPECT_EQ(seen["before.jpg"] + seen["zoned.jpg"], "2024-10-26T23:30:00Z2024-10-27T00:30:00Z");
+    seen = list("--pic before.jpg --shift 1:00:00 --pic zoned.jpg --source-zone Asia/Tokyo");
+    EXPECT_THAT(seen["before.jpg"], HasSubstr("cannotBeWritten: "));
+    EXPECT_THAT(seen["zoned.jpg"], HasSubstr("zoneDisagrees: "));
+    EXPECT_THAT(run("list").output, HasSubstr("Little One  " + twice + "later one\n"));
+    EXPECT_THAT(run("info").output, HasSubstr(twice));
 }
 
 TEST_F(Alerts, AlternativeIsTheEarlierReadingOfTheFileWithThatName) {
-    const auto dates = [&](const Arguments &options) {
-        std::map<std::string, std::string> all;
-        for (const Json &line : run("list", joined(options, {"--json"})).lines())
-            all[line.at("name")] = line.at("date");
-        return all;
-    };
-    const Arguments options{"--alternative", "autumn.jpg", "--alternative", "pair.JPG"};
-    EXPECT_EQ(dates({})["autumn.jpg"], "2024-10-27T01:30:00Z");
-    EXPECT_EQ(dates(options)["autumn.jpg"], "2024-10-27T00:30:00Z");
-    EXPECT_EQ(dates(options)["pair.CR2"], "2024-10-27T01:40:00Z");
-    auto found = alerts(options);
-    EXPECT_EQ(found["autumn.jpg"], std::string("repeatedTime: ") + earlier + '\n');
-    EXPECT_THAT(found["pair.CR2"], HasSubstr(std::string("repeatedTime: ") + later));
-    EXPECT_THAT(found["pair.CR2"], HasSubstr(std::string("repeatedTime: pair.JPG: ") + earlier));
-    EXPECT_EQ(run("save", joined(options, {"--dry-run"})).exitCode, 0);
+    auto seen = list("--alternative autumn.jpg --alternative pair.JPG");
+    EXPECT_EQ(seen["autumn.jpg"], "repeatedTime: " + twice + "earlier one\n2024-10-27T00:30:00Z");
+    EXPECT_THAT(seen["pair.CR2"], HasSubstr("repeatedTime: " + twice + "later one"));
+    EXPECT_THAT(seen["pair.CR2"], HasSubstr("repeatedTime: pair.JPG: " + twice + "earlier one"));
+    EXPECT_THAT(seen["pair.CR2"], HasSubstr("\n2024-10-27T01:40:00Z"));
 }
 
 class EmptyTags : public MendTest {
