@@ -108,19 +108,27 @@ void readHeaderTimesAgain(MySinglePic &pic, MvhdCorrection correction, const abs
     }
 }
 
-void readStampsAgain(MySinglePic &pic, const MySingleFolder &folder, const absl::TimeZone &zone,
-                     int dateComparisonThresold) {
+/// What an item is read by again.
+struct Reading {
+    const Zone &sourceZone;
+    ZoneSides sides;
+    MvhdCorrection correction;
+    const Zones &zones;
+    int dateComparisonThresold;
+};
+
+void readStampsAgain(MySinglePic &pic, const Reading &reading) {
+    const absl::TimeZone &zone = reading.sourceZone.rules;
     if (isInRange(pic.spType, SpTypeExifOriginal, SpTypeTiffYoungerThanFile)) {
         for (StampSlot slot : stampSlots)
             readSlotAgain(pic, slot, zone);
     } else if (pic.spType == SpTypeMovieRiff) {
         readRiffDateAgain(pic, zone);
     } else if (isInRange(pic.spType, SpTypeMovieMvhdCreation, SpTypeMovieMvhdYoungerThanFile)) {
-        readHeaderTimesAgain(pic, MvhdCorrection{folder.isQuicktimeMVHDTimezoneCorrectionEnabled},
-                             zone);
+        readHeaderTimesAgain(pic, reading.correction, zone);
     }
     if (isEligibleForYoungerThanFile(pic.spType))
-        exchangeRolesWithFileDate(pic, dateComparisonThresold);
+        exchangeRolesWithFileDate(pic, reading.dateComparisonThresold);
 }
 
 /// An alternative reading chosen earlier stays only where the stamp still means two instants.
@@ -134,24 +142,41 @@ void keepAlternativeReading(MySinglePic &pic, const absl::TimeZone &zone) {
     validateDateDifferencesUsingTimeZone(pic, zone);
 }
 
+bool readAgain(MySinglePic &pic, const Reading &reading) {
+    const SeenDates before = seenDates(pic);
+    readStampsAgain(pic, reading);
+    const MySinglePicPtr &dependent = pic.group.bundleDependentImage;
+    const bool didDependentChange = dependent && readAgain(*dependent, reading);
+    if (pic.location.spGpsUTCDate)
+        updateGpsDateWithCreationDate(pic, pic.spDateTimeOriginal);
+    if (!pic.bundleMasterImage())
+        validateTZCUnsavedForPic(pic, reading.sides, reading.zones);
+    keepAlternativeReading(pic, reading.sourceZone.rules);
+    return didDependentChange || before != seenDates(pic);
+}
+
+MvhdCorrection correctionOf(const MySingleFolder &folder) {
+    return MvhdCorrection{folder.isQuicktimeMVHDTimezoneCorrectionEnabled};
+}
+
 } // namespace
 
 bool updateAllDatesAfterUpdatingTimezoneUsingTimeZone(MySinglePic &pic, const Zone &sourceZone,
                                                       const MySingleFolder &folder,
                                                       const Zones &zones,
                                                       int dateComparisonThresold) {
-    const SeenDates before = seenDates(pic);
-    readStampsAgain(pic, folder, sourceZone.rules, dateComparisonThresold);
-    bool didDependentChange = false;
-    if (const MySinglePicPtr &dependent = pic.group.bundleDependentImage)
-        didDependentChange = updateAllDatesAfterUpdatingTimezoneUsingTimeZone(
-            *dependent, sourceZone, folder, zones, dateComparisonThresold);
-    if (pic.location.spGpsUTCDate)
-        updateGpsDateWithCreationDate(pic, pic.spDateTimeOriginal);
-    if (!pic.bundleMasterImage())
-        validateTZCUnsavedForPic(pic, folder, zones);
-    keepAlternativeReading(pic, sourceZone.rules);
-    return didDependentChange || before != seenDates(pic);
+    return readAgain(pic,
+                     {sourceZone, folder, correctionOf(folder), zones, dateComparisonThresold});
+}
+
+bool updateAllDatesAfterUpdatingTimezoneUsingZoneProvider(MySinglePic &pic,
+                                                          const ZoneProvider &provider,
+                                                          const MySingleFolder &folder,
+                                                          const Zones &zones,
+                                                          int dateComparisonThresold) {
+    const ZoneSides sides(&provider, folder);
+    return readAgain(pic, {sourceTimeZoneForPic(pic, sides, zones), sides, correctionOf(folder),
+                           zones, dateComparisonThresold});
 }
 
 bool updateAllDatesAfterUpdatingTimezone(MySinglePic &pic, const MySingleFolder &folder,

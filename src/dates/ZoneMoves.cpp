@@ -20,42 +20,6 @@ bool doesSourceDefaultMove(const MySingleFolder &folder) {
     return !target->is(Kind::UnchangedLeftFolder) && !followsSource(*target);
 }
 
-/// The zone a choice stands for by name; none for the system's, under whichever name.
-std::optional<Zone> normalized(const ZoneChoice *choice, const Zones &zones) {
-    if (!choice || !choice->zone() || *choice->zone() == zones.systemZone())
-        return std::nullopt;
-    return choice->zone();
-}
-
-/// Types without any stamp that a zone could move.
-bool hasNoZoneDependentStamps(SpType type) {
-    return isInRange(type, SpTypeNoTagsFileDate, SpTypeMovieFileDate) || hasNoCorrectableDate(type);
-}
-
-bool areZonesUnsaved(const MySinglePic &pic, const MySingleFolder &folder, const Zones &zones) {
-    if (pic.importState.isLeftAlone || hasNoZoneDependentStamps(pic.spType))
-        return false;
-    const ZoneChoice *source = choiceForPic(pic, folder.sourceTimeZones);
-    const ZoneChoice *target = choiceForPic(pic, folder.targetTimeZones);
-    if (target && (target->is(Kind::UnchangedLeft) || followsSource(*target)))
-        return false;
-    if (target && target->is(Kind::UnchangedLeftFolder)) {
-        const auto &sourceDefault = folder.sourceTimeZones.folderDefault;
-        return sourceDefault && normalized(source, zones) != normalized(&*sourceDefault, zones);
-    }
-    return normalized(source, zones) != normalized(target, zones);
-}
-
-void clearUnsavedDueToTZC(MySingleFolder &folder) {
-    if (!std::exchange(folder.isUnsavedDueToTZC, false))
-        return;
-    for (const MySinglePicPtr &pic : folder.sfPicDetails_fullArray) {
-        pic->zones.isUnsavedDueToTZC = false;
-        if (const MySinglePicPtr &dependent = pic->group.bundleDependentImage)
-            dependent->zones.isUnsavedDueToTZC = false;
-    }
-}
-
 /// An item that stays in its source zone and has no source of its own keeps the one that held for
 /// it until now.
 bool keepsPresentSource(const MySinglePic &pic, MySingleFolder &folder) {
@@ -85,6 +49,61 @@ bool moveChoice(const MySinglePic &dependent, const MySinglePic &master,
     return choices.contains(master.sessionUniqueId);
 }
 
+/// What holds for an item that goes to another folder. A target that nobody chose and that is the
+/// source zone stays so, whichever folder's defaults the item comes under.
+struct CarriedChoices {
+    std::optional<ZoneChoice> source, target;
+    bool doesTargetFollow = false;
+};
+
+bool isSystem(const std::optional<ZoneChoice> &choice) {
+    return !choice || choice->is(Kind::System);
+}
+
+CarriedChoices carriedChoices(const MySinglePic &pic, const MySingleFolder &from) {
+    const auto copyOf = [](const ZoneChoice *choice) {
+        return choice ? std::optional(*choice) : std::nullopt;
+    };
+    CarriedChoices carried{copyOf(choiceForPic(pic, from.sourceTimeZones)),
+                           copyOf(choiceForPic(pic, from.targetTimeZones))};
+    if (!carried.target) {
+        carried.doesTargetFollow = isSystem(carried.source);
+    } else if (carried.target->is(Kind::UnchangedLeftFolder)) {
+        carried.target = from.sourceTimeZones.folderDefault;
+        carried.doesTargetFollow = carried.source == carried.target;
+    }
+    return carried;
+}
+
+void enterUnlessDefault(const MySinglePic &pic, std::optional<ZoneChoice> choice,
+                        ZoneAssignments &assignments) {
+    if (!choice && assignments.folderDefault)
+        choice = ZoneChoice::system();
+    if (choice && choice != assignments.folderDefault)
+        addPicWithZone(pic, *std::move(choice), assignments);
+}
+
+/// The target default of the folder, too, makes the item follow its source.
+bool doesTargetFollowIn(const MySinglePic &pic, const MySingleFolder &folder) {
+    const auto &target = folder.targetTimeZones.folderDefault;
+    const ZoneChoice *source = choiceForPic(pic, folder.sourceTimeZones);
+    if (!target)
+        return !source || source->is(Kind::System);
+    return target->is(Kind::UnchangedLeftFolder) &&
+           !choiceForPicIgnoringDefault(pic, folder.sourceTimeZones);
+}
+
+void enterTarget(const MySinglePic &pic, const CarriedChoices &carried, MySingleFolder &folder) {
+    if (!carried.doesTargetFollow)
+        enterUnlessDefault(pic, carried.target, folder.targetTimeZones);
+    else if (!doesTargetFollowIn(pic, folder))
+        addPicWithZone(pic, ZoneChoice::marker(Kind::UnchangedLeft), folder.targetTimeZones);
+}
+
+bool hasZones(const MySingleFolder &folder) {
+    return !folder.sourceTimeZones.isEmpty() || !folder.targetTimeZones.isEmpty();
+}
+
 } // namespace
 
 void addPicWithZone(const MySinglePic &pic, ZoneChoice choice, ZoneAssignments &assignments) {
@@ -102,6 +121,22 @@ void removePic(const MySinglePic &pic, ZoneAssignments &assignments) {
         assignments.ofItems.erase(second->sessionUniqueId);
 }
 
+void removePicFromAllZones(const MySinglePic &pic, MySingleFolder &folder) {
+    removePic(pic, folder.sourceTimeZones);
+    removePic(pic, folder.targetTimeZones);
+}
+
+void moveTimeZoneInfosForPic(const MySinglePic &pic, MySingleFolder &from, MySingleFolder &to) {
+    if (pic.bundleMasterImage() || !(hasZones(from) || hasZones(to)))
+        return;
+    CarriedChoices carried = carriedChoices(pic, from);
+    removePicFromAllZones(pic, from);
+    if (to.isEXIFIgnored)
+        return;
+    enterUnlessDefault(pic, std::move(carried.source), to.sourceTimeZones);
+    enterTarget(pic, carried, to);
+}
+
 bool moveTimeZoneInfosFromDependentToMaster(const MySinglePic &dependent, const MySinglePic &master,
                                             MySingleFolder &folder) {
     moveChoice(dependent, master, folder.targetTimeZones);
@@ -109,7 +144,7 @@ bool moveTimeZoneInfosFromDependentToMaster(const MySinglePic &dependent, const 
 }
 
 void setTZDefaultsSource(MySingleFolder &folder, ZoneChoice source, bool targetFollows) {
-    if (!folder.sourceTimeZones.isEmpty() || !folder.targetTimeZones.isEmpty())
+    if (hasZones(folder))
         return;
     folder.sourceTimeZones.folderDefault = std::move(source);
     if (targetFollows)
@@ -160,24 +195,6 @@ void updateSelectionZonesForTimeErrorFiles(MySingleFolder &folder,
     for (const MySinglePicPtr &pic : failed) {
         pinToPresentChoice(*pic, folder.targetTimeZones);
         pinToPresentChoice(*pic, folder.sourceTimeZones);
-    }
-}
-
-void validateTZCUnsavedForPic(MySinglePic &pic, const MySingleFolder &folder, const Zones &zones) {
-    pic.zones.isUnsavedDueToTZC = areZonesUnsaved(pic, folder, zones);
-    if (const MySinglePicPtr &dependent = pic.group.bundleDependentImage)
-        dependent->zones.isUnsavedDueToTZC = areZonesUnsaved(*dependent, folder, zones);
-}
-
-void validateTZCUnsaved(MySingleFolder &folder, const Zones &zones) {
-    if (folder.sourceTimeZones.isEmpty() && folder.targetTimeZones.isEmpty())
-        return clearUnsavedDueToTZC(folder);
-    folder.isUnsavedDueToTZC = false;
-    for (const MySinglePicPtr &pic : folder.sfPicDetails_fullArray) {
-        validateTZCUnsavedForPic(*pic, folder, zones);
-        const MySinglePicPtr &dependent = pic->group.bundleDependentImage;
-        folder.isUnsavedDueToTZC |=
-            pic->zones.isUnsavedDueToTZC || (dependent && dependent->zones.isUnsavedDueToTZC);
     }
 }
 

@@ -20,6 +20,7 @@ public:
         UnchangedLeft,       ///< "_UNCHANGED_LEFT", target of an item: stays in its source zone
         UnchangedLeftFolder, ///< "_UNCHANGED_LEFT_FOLDER", target default: the source default
         Own,                 ///< "_OWN", target: each zone stamp keeps its offset
+        Multiple,            ///< "_MULTIPLE", default of a pending change: mixed values stay
         Named,
     };
 
@@ -33,6 +34,8 @@ public:
     const std::optional<Zone> &zone() const { return m_zone; }
     /// The zone's name or the marker, as sessions store it.
     std::string persistedName() const;
+    /// The choice of that name; none for a name that the zone database does not know.
+    static std::optional<ZoneChoice> fromPersistedName(std::string_view name, const Zones &zones);
 
     bool operator==(const ZoneChoice &) const = default;
 
@@ -50,14 +53,6 @@ struct ZoneAssignments {
     std::map<std::uint32_t, ZoneChoice> ofItems;
 
     bool isEmpty() const { return !folderDefault && ofItems.empty(); }
-    const ZoneChoice *ownChoice(std::uint32_t sessionUniqueId) const {
-        auto found = ofItems.find(sessionUniqueId);
-        return found == ofItems.end() ? nullptr : &found->second;
-    }
-    const ZoneChoice *choice(std::uint32_t sessionUniqueId) const {
-        const ZoneChoice *own = ownChoice(sessionUniqueId);
-        return own ? own : folderDefault ? &*folderDefault : nullptr;
-    }
 };
 
 } // namespace chronomender

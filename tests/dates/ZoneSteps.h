@@ -14,16 +14,17 @@
 namespace chronomender::little {
 
 /// Choices in one word each; "-" is none.
-inline const std::array<std::pair<const char *, std::optional<ZoneChoice>>, 10> &choiceWords() {
+inline const std::array<std::pair<const char *, std::optional<ZoneChoice>>, 11> &choiceWords() {
     using Kind = ZoneChoice::Kind;
     const auto named = [](const char *name) { return ZoneChoice::named(zone(name)); };
-    static const std::array<std::pair<const char *, std::optional<ZoneChoice>>, 10> words{
+    static const std::array<std::pair<const char *, std::optional<ZoneChoice>>, 11> words{
         {{"-", {}},
          {"system", ZoneChoice::system()},
          {"same", ZoneChoice::marker(Kind::Unchanged)},
          {"left", ZoneChoice::marker(Kind::UnchangedLeft)},
          {"folder", ZoneChoice::marker(Kind::UnchangedLeftFolder)},
          {"own", ZoneChoice::marker(Kind::Own)},
+         {"mixed", ZoneChoice::marker(Kind::Multiple)},
          {"Berlin", named("Europe/Berlin")},
          {"Tokyo", named("Asia/Tokyo")},
          {"Lima", named("America/Lima")},
@@ -52,16 +53,22 @@ protected:
     /// Sets the four places a choice can stand in: "source target own-source own-target" of the
     /// folder and the photo.
     void assign(const std::string &choices) {
+        const ZoneProvider assigned = provider(choices);
+        folder->sourceTimeZones = assigned.sourceTimeZones;
+        folder->targetTimeZones = assigned.targetTimeZones;
+    }
+    /// The same four as a pending change.
+    ZoneProvider provider(const std::string &choices) const {
         std::istringstream words(choices);
         std::array<std::string, 4> word;
         for (std::string &each : word)
             words >> each;
-        folder->sourceTimeZones = {choice(word[0]), {}};
-        folder->targetTimeZones = {choice(word[1]), {}};
+        ZoneProvider result{{choice(word[0]), {}}, {choice(word[1]), {}}};
         if (const auto own = choice(word[2]))
-            addPicWithZone(*pic, *own, folder->sourceTimeZones);
+            addPicWithZone(*pic, *own, result.sourceTimeZones);
         if (const auto own = choice(word[3]))
-            addPicWithZone(*pic, *own, folder->targetTimeZones);
+            addPicWithZone(*pic, *own, result.targetTimeZones);
+        return result;
     }
     std::string choices() const {
         const auto own = [&](const ZoneAssignments &assignments) {
@@ -73,9 +80,10 @@ protected:
                ' ' + own(folder->targetTimeZones);
     }
     /// Where the photo is read and written: "Tokyo UTC".
-    std::string places() const {
-        return word(ZoneChoice::named(sourceTimeZoneForPic(*pic, *folder, zones))) + ' ' +
-               word(ZoneChoice::named(targetTimeZoneForPic(*pic, *folder, zones)));
+    std::string places() const { return places(*folder); }
+    std::string places(const ZoneSides &sides) const {
+        return word(ZoneChoice::named(sourceTimeZoneForPic(*pic, sides, zones))) + ' ' +
+               word(ZoneChoice::named(targetTimeZoneForPic(*pic, sides, zones)));
     }
 
     Zones zones;

@@ -2,6 +2,7 @@
 #include "DaylightSavingChecks.h"
 #include "MovieClock.h"
 #include "MovieStampConversions.h"
+#include "StampConversions.h"
 #include "ZoneChange.h"
 #include "ZoneSteps.h"
 
@@ -48,6 +49,50 @@ TEST_F(TimezoneUpdate, StampsMoveWithTheSourceZoneAndThoseWithAZoneStampStay) {
     attributes.exifDateTimeDigitized = located("2024:06:01 13:00:00");
     EXPECT_TRUE(update());
     EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 4));
+}
+
+TEST_F(TimezoneUpdate, EveryKindOfZoneGivesTheStampBackUnlessItsClockSkippedIt) {
+    const struct {
+        const char *zone, *stamp, *inUtc, *writtenBack;
+    } rows[] = {
+        {"Etc/GMT+12", "2024:06:01 12:00:00", "2024-06-02 00:00:00", ""},
+        {"+05:45", "2024:06:01 12:00:00", "2024-06-01 06:15:00", ""},
+        {"Asia/Kolkata", "2024:06:01 12:00:00", "2024-06-01 06:30:00", ""},
+        {"Pacific/Apia", "2011:12:29 23:59:59", "2011-12-30 09:59:59", ""},
+        {"Pacific/Apia", "2011:12:30 12:00:00", "2011-12-30 22:00:00", "2011:12:31 12:00:00"},
+        {"Asia/Beirut", "2017:03:26 00:30:00", "2017-03-25 22:30:00", "2017:03:26 01:30:00"},
+        {"Asia/Beirut", "2017:10:28 23:30:00", "2017-10-28 21:30:00", ""},
+        {"America/Sao_Paulo", "2017:10:15 00:00:00", "2017-10-15 03:00:00", "2017:10:15 01:00:00"},
+        {"America/Sao_Paulo", "2017:02:18 23:59:59", "2017-02-19 02:59:59", ""},
+        {"Australia/Lord_Howe", "2024:10:06 02:15:00", "2024-10-05 15:45:00",
+         "2024:10:06 02:45:00"},
+        {"Europe/Paris", "1850:06:01 12:00:00", "1850-06-01 11:50:39", ""},
+        {"America/New_York", "2150:07:01 12:00:00", "2150-07-01 16:00:00", ""},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(std::string(row.zone) + ' ' + row.stamp);
+        attributes.exifDateTimeOriginal = located(row.stamp);
+        const auto zone = zones.zoneWithName(row.zone);
+        ASSERT_TRUE(zone);
+        assignZones({pic}, {ZoneChoice::named(*zone), {}}, zones, 3);
+        update();
+        EXPECT_EQ(utcText(*slots.exifDateTimeOriginalOLD), row.inUtc);
+        EXPECT_EQ(pic->spDateTimeOriginal, *slots.exifDateTimeOriginalOLD);
+        const Zone &target = targetTimeZoneForPic(*pic, *folder, zones);
+        EXPECT_EQ(*exifDataFromDate(pic->spDateTimeOriginal, target.rules),
+                  located(*row.writtenBack ? row.writtenBack : row.stamp).data);
+    }
+}
+
+TEST_F(TimezoneUpdate, APendingChangeIsShownAndTakenBack) {
+    const ZoneProvider pending = provider("Tokyo mixed - -");
+    EXPECT_TRUE(
+        updateAllDatesAfterUpdatingTimezoneUsingZoneProvider(*pic, pending, *folder, zones, 3));
+    EXPECT_EQ(pic->spDateTimeOriginal, utc(2024, 6, 1, 3));
+    EXPECT_TRUE(pic->zones.isUnsavedDueToTZC);
+    EXPECT_TRUE(update());
+    EXPECT_EQ(pic->spDateTimeOriginal, morning);
+    EXPECT_FALSE(pic->zones.isUnsavedDueToTZC);
 }
 
 TEST_F(TimezoneUpdate, WhatHasNoStampDoesNotMove) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "SavedZones.h"
 #include "ZoneSteps.h"
 
 namespace chronomender {
@@ -148,6 +149,144 @@ TEST_F(ZoneChoices, OnlyItemsWithStampsCanBeUnsavedByAZone) {
     pic->importState.isLeftAlone = true;
     validateTZCUnsaved(*folder, zones);
     EXPECT_FALSE(folder->isUnsavedDueToTZC);
+}
+
+TEST_F(ZoneChoices, APendingChangeIsLookedUpInsteadAndMixedValuesStayTheFolders) {
+    const struct {
+        const char *choices, *pending, *places;
+        bool isUnsaved;
+    } rows[] = {
+        {"- - - -", "mixed mixed - -", "Berlin Berlin", false},
+        {"Tokyo UTC - -", "mixed mixed - -", "Tokyo UTC", true},
+        {"Tokyo folder - -", "Lima mixed - -", "Lima Lima", false},
+        {"Tokyo folder - -", "mixed UTC - -", "Tokyo UTC", true},
+        {"Tokyo folder - -", "mixed mixed Lima -", "Lima Tokyo", true},
+        {"Tokyo folder - -", "mixed mixed Lima left", "Lima Lima", false},
+        {"Tokyo UTC Lima left", "mixed mixed - -", "Tokyo UTC", true},
+        {"Tokyo UTC Lima left", "- - - -", "Berlin Berlin", false},
+        {"Tokyo UTC Lima left", "Lima Lima - -", "Lima Lima", false},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(std::string(row.choices) + " / " + row.pending);
+        assign(row.choices);
+        const std::string placesBefore = places();
+        const ZoneProvider pending = provider(row.pending);
+        const ZoneSides sides(&pending, *folder);
+        EXPECT_EQ(places(sides), row.places);
+        for (const ZoneSide &side : {sides.source, sides.target})
+            EXPECT_FALSE(side.folderDefault() &&
+                         side.folderDefault()->is(ZoneChoice::Kind::Multiple));
+        validateTZCUnsavedForPic(*pic, sides, zones);
+        EXPECT_EQ(pic->zones.isUnsavedDueToTZC, row.isUnsaved);
+        EXPECT_EQ(places(), placesBefore);
+    }
+    // A target that follows an item's source takes one that is known already.
+    assign("Tokyo UTC - left");
+    EXPECT_EQ(targetTimeZoneForPicWithKnownSourceZone(*pic, *folder, zone("America/Lima"), zones),
+              zone("America/Lima"));
+    assign("Tokyo UTC - -");
+    EXPECT_EQ(targetTimeZoneForPicWithKnownSourceZone(*pic, *folder, zone("America/Lima"), zones),
+              zone("UTC"));
+}
+
+TEST_F(ZoneChoices, AnItemKeepsItsZonesInAnotherFolder) {
+    const std::tuple<const char *, const char *, const char *> rows[] = {
+        {"- - - -", "- - - -", "- - - -"},
+        {"- - - -", "Tokyo folder - -", "Tokyo folder system left"},
+        {"- - - -", "system - - -", "system - - -"},
+        {"Tokyo - - -", "- - - -", "- - Tokyo -"},
+        {"Tokyo - - -", "- UTC - -", "- UTC Tokyo system"},
+        {"Tokyo folder - -", "Tokyo folder - -", "Tokyo folder - -"},
+        {"Tokyo folder - -", "- - - -", "- - Tokyo left"},
+        {"Tokyo folder - -", "Lima folder - -", "Lima folder Tokyo left"},
+        {"Tokyo folder Lima -", "- - - -", "- - Lima Tokyo"},
+        {"- folder Lima -", "UTC folder - -", "UTC folder Lima system"},
+        {"Tokyo UTC - -", "Lima UTC - -", "Lima UTC Tokyo -"},
+        {"- - Tokyo UTC", "Tokyo folder - -", "Tokyo folder - UTC"},
+        {"- - Tokyo left", "Lima UTC - -", "Lima UTC Tokyo left"},
+        {"Tokyo own - -", "UTC - - -", "UTC - Tokyo own"},
+    };
+    const MySingleFolderPtr here = folder, there = makeFolder();
+    for (const auto &[choicesHere, choicesThere, after] : rows) {
+        SCOPED_TRACE(std::string(choicesHere) + " > " + choicesThere);
+        folder = there;
+        assign(choicesThere);
+        folder = here;
+        assign(choicesHere);
+        const std::string before = places();
+        const bool wasAssigned = hasAssignedTargetZone(*pic, *folder);
+        moveTimeZoneInfosForPic(*pic, *here, *there);
+        EXPECT_TRUE(here->sourceTimeZones.ofItems.empty() && here->targetTimeZones.ofItems.empty());
+        folder = there;
+        EXPECT_EQ(choices(), after);
+        EXPECT_EQ(places(), before);
+        EXPECT_TRUE(!wasAssigned || hasAssignedTargetZone(*pic, *folder));
+    }
+    assign("- - Tokyo UTC");
+    here->isEXIFIgnored = true;
+    moveTimeZoneInfosForPic(*pic, *there, *here);
+    EXPECT_TRUE(here->sourceTimeZones.ofItems.empty() && here->targetTimeZones.ofItems.empty());
+}
+
+TEST_F(ZoneChoices, OfAFolderAreAChangeUnlessTheyMeanTheSystemsZone) {
+    const std::tuple<const char *, bool, const char *> rows[] = {
+        {"- - - -", false, "Berlin Berlin"},
+        {"system folder - -", false, "Berlin Berlin"},
+        {"Berlin same - left", false, "Berlin Berlin"},
+        {"- system system system", false, "Berlin Berlin"},
+        {"- folder - -", false, "Berlin Berlin"},
+        {"Tokyo folder - -", true, "Tokyo Tokyo"},
+        {"- UTC - -", true, "Berlin UTC"},
+        {"Tokyo system - -", true, "Tokyo Tokyo"},
+        {"- - Lima -", true, "Berlin Berlin"},
+        {"system system - Lima", true, "Berlin Berlin"},
+    };
+    for (const auto &[choices, isAffected, defaults] : rows) {
+        SCOPED_TRACE(choices);
+        assign(choices);
+        EXPECT_EQ(isFolderAffectedByTZC(*folder, zones), isAffected);
+        const TimeZoneDefaults ofFolder = changedTimeZoneDefaults(*folder, zones);
+        EXPECT_EQ(word(ZoneChoice::named(ofFolder.source)) + ' ' +
+                      word(ZoneChoice::named(ofFolder.target)),
+                  defaults);
+        // Only a choice of its own can differ from the folder's and from the system's zone.
+        EXPECT_EQ(hasAnyTimeZoneChangeForPic(*pic, *folder, zones, &ofFolder),
+                  std::string(choices).find("Lima") != std::string::npos);
+    }
+    assign("system - - -");
+    EXPECT_EQ(changedSourceTimeZoneForAllPics(*folder), nullptr);
+    assign("Tokyo - - -");
+    EXPECT_EQ(*changedSourceTimeZoneForAllPics(*folder), zone("Asia/Tokyo"));
+}
+
+TEST_F(ZoneChoices, AreStoredByNameAndPositionAndDamageCostsOnlyItself) {
+    const auto second = addItem(folder, SpTypeExifOriginal, utc(2024, 6, 1));
+    const auto jpeg = addItem(folder, SpTypeExifOriginal, utc(2024, 6, 1));
+    folder->sourceTimeZones.ofItems.emplace(jpeg->sessionUniqueId, *choice("Tokyo"));
+    makeDependent(jpeg, second);
+    for (const auto &[name, known] : choiceWords()) {
+        if (!known || known->is(ZoneChoice::Kind::Multiple))
+            continue;
+        folder->sourceTimeZones.folderDefault = known;
+        addPicWithZone(*pic, *known, folder->sourceTimeZones);
+        const SavedTimeZones saved = saveableTimeZones(folder->sourceTimeZones, *folder);
+        const ZoneAssignments loaded = timeZonesFromSavedData(saved, *folder, zones);
+        EXPECT_EQ(loaded.folderDefault, known) << name;
+        EXPECT_EQ(*choiceForPicIgnoringDefault(*pic, loaded), *known) << name;
+        EXPECT_EQ(*choiceForPicIgnoringDefault(*jpeg, loaded), *choice("Tokyo")) << name;
+    }
+    const SavedTimeZones damaged{"Mars/Olympus",
+                                 {{"Asia/Tokyo", {-1, 0, 2, 1LL << 40}},
+                                  {"_DEFAULT", {1}},
+                                  {"_MULTIPLE", {1}},
+                                  {"", {1}},
+                                  {"_UNCHANGED_LEFT", {0, 1}}}};
+    folder->sourceTimeZones = timeZonesFromSavedData(damaged, *folder, zones);
+    EXPECT_EQ(choices(), "- - Tokyo -");
+    EXPECT_EQ(*choiceForPic(*jpeg, folder->sourceTimeZones), *choice("left"));
+    EXPECT_EQ(folder->sourceTimeZones.ofItems.size(), 2U);
+    EXPECT_EQ(timeZonesFromSavedData({"_MULTIPLE", {}}, *folder, zones).folderDefault,
+              std::nullopt);
 }
 
 } // namespace
