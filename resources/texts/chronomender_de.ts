@@ -836,5 +836,14 @@ Beispiele:
     <message id="dateSource_xmp">
         <translation>%1, aus XMP</translation>
     </message>
+    <message id="alertString_TZC_majorChangesWarning_defButton">
+        <translation>OK</translation>
+    </message>
+    <message id="alertString_TZC_majorChangesWarning_infoText">
+        <translation>Zeiten ohne eigene Zeitzone werden jetzt in %1 gelesen. Bilder, die dadurch ein anderes Datum zeigen: %2. Keine Datei wurde geändert. Sehen Sie die Zeiten vor dem Speichern an. Ging die Uhr der Kamera nicht mit diesem Computer, dann geben Sie dem Ordner die Zeitzone, in der sie ging.</translation>
+    </message>
+    <message id="alertString_TZC_majorChangesWarning_messageText">
+        <translation>Die Zeitzone dieses Computers hat sich geändert</translation>
+    </message>
 </context>
 </TS>

@@ -836,5 +836,14 @@ Examples:
     <message id="dateSource_xmp">
         <translation>%1, from XMP</translation>
     </message>
+    <message id="alertString_TZC_majorChangesWarning_defButton">
+        <translation>OK</translation>
+    </message>
+    <message id="alertString_TZC_majorChangesWarning_infoText">
+        <translation>Times without a zone of their own are now read in %1. Items that show another date now: %2. No file was changed. Look at the dates before you save. If the camera's clock did not move with this computer, give the folder the time zone in which that clock ran.</translation>
+    </message>
+    <message id="alertString_TZC_majorChangesWarning_messageText">
+        <translation>The time zone of this computer has changed</translation>
+    </message>
 </context>
 </TS>

@@ -18,6 +18,7 @@ AppServices systemServices() {
 
 AppController::AppController(AppServices services, ImportQuestions &questions)
     : m_services(std::move(services)),
+      m_systemZoneChange(*m_services.zones, *m_services.defaults, m_droppedFolders, m_services.now),
       m_importDriver({*m_services.zones, *m_services.defaults, questions, m_cancellation, m_undo,
                       m_droppedFolders}),
       m_saveDriver(m_droppedFolders.droppedFolders(),
@@ -47,7 +48,9 @@ OpenFolderResult AppController::addFolder(const FolderRequest &request, MySingle
 
 void AppController::startImport(ImportRequest request,
                                 std::function<void(ImportOutcome)> finished) {
-    m_importDriver.start(std::move(request), std::move(finished));
+    m_importDriver.start(std::move(request),
+                         [finished = std::move(finished), pause = m_systemZoneChange.pause()](
+                             ImportOutcome outcome) { finished(std::move(outcome)); });
 }
 
 void AppController::buildNewSource() {
@@ -97,6 +100,12 @@ AlignOutcome AppController::align(AlignCommand command, const AlignSelection &se
     return realignSelection(command, selection, liveContext(), m_undo);
 }
 
+void AppController::startWatchingSystemZone() {
+    if (!m_systemZoneWatch)
+        m_systemZoneWatch.emplace(m_services.zones->systemPlaces(),
+                                  [this] { m_systemZoneChange.systemTimeZoneDidChange(); });
+}
+
 NewDateContext AppController::liveContext() const {
     return chronomender::liveContext(*m_services.defaults, m_services.now());
 }
@@ -110,7 +119,11 @@ void AppController::startPreProcess(SaveRequest request, Progress progress,
     m_saveProgress = std::move(progress);
     m_saveWorker.run(
         [this, request = std::move(request)] { return m_saveDriver.preProcessThread(request); },
-        std::move(finished));
+        [finished = std::move(finished),
+         pause = m_systemZoneChange.pause()](PreProcessResult result) {
+            result.zonePause = pause;
+            finished(std::move(result));
+        });
 }
 
 void AppController::startContinueProcess(SaveRequest request, PreProcessResult preProcess,
@@ -121,7 +134,9 @@ void AppController::startContinueProcess(SaveRequest request, PreProcessResult p
         [this, request = std::move(request), preProcess = std::move(preProcess)] {
             return m_saveDriver.continueProcessThread(request, preProcess);
         },
-        std::move(finished));
+        [finished = std::move(finished), pause = m_systemZoneChange.pause()](SaveRunResult result) {
+            finished(std::move(result));
+        });
 }
 
 } // namespace chronomender

@@ -10,6 +10,8 @@
 #include "MyDroppedFolders.h"
 #include "SaveDriver.h"
 #include "SourceBuilder.h"
+#include "SystemZoneChange.h"
+#include "SystemZoneWatch.h"
 #include "UndoManager.h"
 #include "UserDefaults.h"
 #include "ZoneChange.h"
@@ -17,6 +19,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace chronomender {
@@ -93,6 +96,12 @@ public:
     /// Puts a selection in order; see realignSelection.
     AlignOutcome align(AlignCommand command, const AlignSelection &selection);
 
+    /// What a change of the system's zone does to the session; it waits for the end of an import
+    /// and of a save (of its second stage, or until its PreProcessResult is given up).
+    SystemZoneChange &systemZoneChange() { return m_systemZoneChange; }
+    /// From now on such changes are noticed. A program that runs for one command has no need to.
+    void startWatchingSystemZone();
+
     /// What calculations for a display go by.
     NewDateContext liveContext() const;
 
@@ -110,6 +119,8 @@ private:
     Cancellation m_cancellation;
     UndoManager m_undo;
     MyDroppedFolders m_droppedFolders;
+    SystemZoneChange m_systemZoneChange;
+    std::optional<SystemZoneWatch> m_systemZoneWatch;
     SourceBuilder m_source;
     ImportDriver m_importDriver;
     Progress m_saveProgress;

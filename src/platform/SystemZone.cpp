@@ -6,6 +6,7 @@
 #include <array>
 #include <climits>
 #include <cstddef>
+#include <cstdlib>
 #include <fstream>
 
 namespace chronomender::zoneDatabase {
@@ -100,6 +101,11 @@ OptionalName nameInTextFile(const std::string &path) {
 }
 
 } // namespace
+
+SystemPlaces systemPlaces() {
+    const char *given = std::getenv("TZ");
+    return {given ? OptionalName(given) : std::nullopt};
+}
 
 std::string systemZoneName(const SystemPlaces &places) {
     OptionalName name;

@@ -33,6 +33,8 @@ struct SystemPlaces {
     std::string link = "/etc/localtime";
     std::string textFile = "/etc/timezone";
 };
+/// This computer's places, with TZ as the process has it now.
+SystemPlaces systemPlaces();
 /// The name of the system's zone: from TZ (also ":name", a path into the database, or a POSIX rule
 /// without daylight saving such as "JST-9"), else from the link, else from the text file, else
 /// "UTC". A POSIX rule with daylight saving has no name in the database and is passed over.

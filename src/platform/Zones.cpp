@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Zones.h"
 
-#include "ZoneDatabase.h"
-
 #include <algorithm>
-#include <cstdlib>
 #include <numeric>
 #include <utility>
 
 namespace chronomender {
 namespace {
 
-Zone currentSystemZone() {
-    zoneDatabase::SystemPlaces places;
-    if (const char *given = std::getenv("TZ"))
-        places.environment = given;
+Zone currentSystemZone(const zoneDatabase::SystemPlaces &places) {
     const auto name = zoneDatabase::systemZoneName(places);
     if (const auto seconds = zoneDatabase::offsetSeconds(name))
         return {name, absl::FixedTimeZone(*seconds)};
@@ -74,10 +68,13 @@ std::optional<std::size_t> misfit(std::string_view wanted, std::string_view cand
 
 } // namespace
 
-Zones::Zones() : m_systemZone(currentSystemZone()) {}
+Zones::Zones(zoneDatabase::SystemPlaces places)
+    : m_places(std::move(places)), m_systemZone(currentSystemZone(m_places)) {}
 
 bool Zones::refreshSystemZone() {
-    Zone present = currentSystemZone();
+    if (m_isGiven)
+        return false;
+    Zone present = currentSystemZone(m_places);
     const bool isChanged = present != m_systemZone;
     m_systemZone = std::move(present);
     return isChanged;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ZoneDatabase.h"
+
 #include <absl/time/time.h>
 
 #include <memory>
@@ -25,13 +27,18 @@ struct Zone {
 /// runs.
 class Zones {
 public:
-    /// Takes the system's zone from TZ, else the link /etc/localtime, else /etc/timezone, else UTC.
-    Zones();
+    /// Takes the system's zone from its places: TZ, else the link /etc/localtime, else
+    /// /etc/timezone, else UTC.
+    explicit Zones(zoneDatabase::SystemPlaces places = zoneDatabase::systemPlaces());
 
     const Zone &systemZone() const { return m_systemZone; }
-    /// Stands in for the system's zone (tests, `--system-zone`).
-    void setSystemZone(Zone zone) { m_systemZone = std::move(zone); }
-    /// Reads the system's zone again; true when it changed.
+    const zoneDatabase::SystemPlaces &systemPlaces() const { return m_places; }
+    /// Stands in for the system's zone from now on (tests, `--system-zone`).
+    void setSystemZone(Zone zone) {
+        m_systemZone = std::move(zone);
+        m_isGiven = true;
+    }
+    /// Reads the system's zone again, unless another one stands in for it; true when it changed.
     bool refreshSystemZone();
 
     /// The zone of that exact name, accepted only from the list of the zone database or as ±HH:MM
@@ -45,7 +52,9 @@ public:
     static Zone utc();
 
 private:
+    zoneDatabase::SystemPlaces m_places;
     Zone m_systemZone;
+    bool m_isGiven = false;
 };
 
 } // namespace chronomender

@@ -13,6 +13,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,9 @@ struct PreProcessResult {
     std::vector<ItemOutcome> items;
     std::vector<PreSaveFinding> problems;
     bool wasCancelled = false;
+    /// What was calculated holds in the present zones: whoever owns the zones keeps them so as long
+    /// as this lives.
+    std::shared_ptr<const void> zonePause = {};
 };
 
 struct SaveRunResult {

@@ -11,6 +11,7 @@
 #include <absl/time/clock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -43,10 +44,14 @@ protected:
     AppSession() { restart(); }
 
     void restart(const char *systemZone = "UTC") {
+        auto zones = std::make_unique<Zones>();
+        zones->setSystemZone(*zones->zoneWithName(systemZone));
+        restart(std::move(zones), [] { return absl::Now(); });
+    }
+    void restart(std::unique_ptr<Zones> zones, std::function<Date()> now) {
         m_controller.reset();
         AppServices services{makeSystemFileLayer(), std::make_unique<UserDefaults>(),
-                             std::make_unique<Zones>(), [] { return absl::Now(); }};
-        services.zones->setSystemZone(*services.zones->zoneWithName(systemZone));
+                             std::move(zones), std::move(now)};
         m_controller = std::make_unique<AppController>(std::move(services), m_questions);
     }
 

@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "SystemZoneWatch.h"
 #include "TemporaryFolder.h"
 #include "ZoneDatabase.h"
 #include "Zones.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
 #include <gmock/gmock.h>
 
-#include <cstdlib>
+#include <chrono>
 #include <filesystem>
+#include <optional>
+#include <utility>
 
 namespace chronomender {
 namespace {
@@ -96,6 +102,11 @@ protected:
     void link(const std::string &target) const {
         std::filesystem::create_symlink(target, places.link);
     }
+    /// In one step, as the system's own tools do.
+    void relink(const std::string &target) const {
+        std::filesystem::create_symlink(target, folder.path("next"));
+        std::filesystem::rename(folder.path("next"), places.link);
+    }
     std::string name() const { return zoneDatabase::systemZoneName(places); }
 
     TemporaryFolder folder;
@@ -140,19 +151,80 @@ TEST_F(SystemZoneTest, TheFirstLinkThatSaysAKnownNameCounts) {
     EXPECT_EQ(name(), "UTC");
 }
 
-TEST(ZonesTest, ARefreshSeesAChangedEnvironmentAndEndsAStandIn) {
-    const char *before = std::getenv("TZ");
-    const std::string saved = before != nullptr ? before : "";
-    setenv("TZ", "Asia/Kathmandu", 1);
-    Zones zones;
+TEST_F(SystemZoneTest, ARefreshFollowsTheSystemUnlessAGivenZoneStandsIn) {
+    link("/usr/share/zoneinfo/Asia/Kathmandu");
+    Zones zones(places);
     EXPECT_EQ(zones.systemZone().name, "Asia/Kathmandu");
     EXPECT_FALSE(zones.refreshSystemZone());
-    zones.setSystemZone(Zones::utc());
-    EXPECT_TRUE(zones.refreshSystemZone());
-    setenv("TZ", "JST-9", 1);
+    relink("/usr/share/zoneinfo/Asia/Tokyo");
     EXPECT_TRUE(zones.refreshSystemZone());
     EXPECT_EQ(zones.systemZone().rules.At(absl::UnixEpoch()).offset, 9 * 3600);
-    before != nullptr ? setenv("TZ", saved.c_str(), 1) : unsetenv("TZ");
+    zones.setSystemZone(Zones::utc());
+    EXPECT_FALSE(zones.refreshSystemZone());
+    EXPECT_EQ(zones.systemZone().name, "UTC");
+}
+
+/// Counts what a watch over the test's places tells.
+class SystemZoneWatchTest : public SystemZoneTest {
+protected:
+    void watch() {
+        m_watch.emplace(
+            places, [this] { ++m_told; }, std::chrono::milliseconds(20));
+    }
+    /// Serves events until something was told; false after a long time.
+    bool isTold() {
+        QElapsedTimer sinceBegin;
+        sinceBegin.start();
+        while (m_told == 0 && sinceBegin.elapsed() < 10'000)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        return std::exchange(m_told, 0) == 1;
+    }
+
+private:
+    int m_argumentCount = 0;
+    QCoreApplication m_application{m_argumentCount, nullptr};
+    int m_told = 0;
+    std::optional<SystemZoneWatch> m_watch;
+};
+
+TEST_F(SystemZoneWatchTest, TellsOfALinkSetAnewAndOfTheTextFile) {
+    link("/usr/share/zoneinfo/Asia/Tokyo");
+    watch();
+    folder.write("resolv.conf", "of another program");
+    relink("/usr/share/zoneinfo/Asia/Seoul");
+    relink("/usr/share/zoneinfo/Europe/Berlin");
+    EXPECT_TRUE(isTold());
+    std::filesystem::remove(places.link);
+    EXPECT_TRUE(isTold());
+    folder.write("timezone", "America/Lima\n");
+    EXPECT_TRUE(isTold());
+    folder.write("timezone", "America/La_Paz\n");
+    EXPECT_TRUE(isTold());
+}
+
+TEST_F(SystemZoneWatchTest, TellsOfAReplacedZoneFileAgainAndAgain) {
+    std::filesystem::create_directories(folder.path("zoneinfo/Asia"));
+    link(folder.write("zoneinfo/Asia/Tokyo", "TZif"));
+    watch();
+    for (const char *rules : {"TZif2", "TZif22", "TZif222"}) {
+        std::filesystem::rename(folder.write("new", rules), folder.path("zoneinfo/Asia/Tokyo"));
+        EXPECT_TRUE(isTold()) << rules;
+    }
+    folder.write("zoneinfo/Asia/Tokyo", "written in place");
+    EXPECT_TRUE(isTold());
+}
+
+TEST_F(SystemZoneWatchTest, AZoneInTheEnvironmentWinsOverTheLink) {
+    link("/usr/share/zoneinfo/Asia/Tokyo");
+    watch();
+    zoneDatabase::SystemPlaces withEnvironment = places;
+    withEnvironment.environment = "UTC";
+    bool isEnvironmentTold = false;
+    const SystemZoneWatch other(
+        withEnvironment, [&] { isEnvironmentTold = true; }, std::chrono::milliseconds(0));
+    relink("/usr/share/zoneinfo/Asia/Seoul");
+    EXPECT_TRUE(isTold());
+    EXPECT_FALSE(isEnvironmentTold);
 }
 
 } // namespace
