@@ -638,6 +638,18 @@ Beispiele:
     <message id="menu_copyOtherFileDate_single">
         <translation>Anderes Datum der Datei übernehmen</translation>
     </message>
+    <message id="menu_redo">
+        <translation>Wiederholen</translation>
+    </message>
+    <message id="menu_redo_named">
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message id="menu_undo">
+        <translation>Rückgängig</translation>
+    </message>
+    <message id="menu_undo_named">
+        <translation>Rückgängig: %1</translation>
+    </message>
     <message id="month_short_1">
         <translation>Jan.</translation>
     </message>

@@ -638,6 +638,18 @@ Examples:
     <message id="menu_copyOtherFileDate_single">
         <translation>Take Over Another Date of the File</translation>
     </message>
+    <message id="menu_redo">
+        <translation>Redo</translation>
+    </message>
+    <message id="menu_redo_named">
+        <translation>Redo %1</translation>
+    </message>
+    <message id="menu_undo">
+        <translation>Undo</translation>
+    </message>
+    <message id="menu_undo_named">
+        <translation>Undo %1</translation>
+    </message>
     <message id="month_short_1">
         <translation>Jan</translation>
     </message>

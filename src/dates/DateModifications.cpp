@@ -38,6 +38,12 @@ void setSinglePicModification(MySinglePic &pic, absl::Duration shift) {
         removeSinglePicModeImage(*folder);
 }
 
+/// What stands for the item in a list.
+MySinglePicPtr masterOf(MySinglePic &pic) {
+    const MySinglePicPtr master = pic.bundleMasterImage();
+    return master ? master : pic.shared_from_this();
+}
+
 bool isInsideBounds(Date date) {
     return date > minDate() && date < maxDate();
 }
@@ -193,6 +199,8 @@ void updateThumbValues(const std::vector<ShiftRecord> &records, UndoManager &und
 void undoRedoUpdateSinglePicModeDate(MySinglePic &pic, absl::Duration difference,
                                      ShiftedItem isSelection, UndoManager &undo) {
     updateSinglePicModificationBy(pic, difference);
+    if (isSelection == ShiftedItem::Selection)
+        undo.recordAffected(masterOf(pic));
     undo.registerUndo(pic.shared_from_this(), [=, &undo](MySinglePic &target) {
         undoRedoUpdateSinglePicModeDate(target, -difference, isSelection, undo);
     });
@@ -203,6 +211,7 @@ void undoRedoUpdateFolderModeDateModifications(MySingleFolder &folder, absl::Dur
     const absl::Duration before = folder.sfDateModificationsTimeInterval;
     const bool wasDirectionNegative = folder.hasChangedDirection;
     setSfDateModificationsFromTimeInterval(folder, shift, isDirectionNegative);
+    undo.recordAffected(folder.shared_from_this());
     undo.registerUndo(
         folder.shared_from_this(), [before, wasDirectionNegative, &undo](MySingleFolder &target) {
             undoRedoUpdateFolderModeDateModifications(target, before, wasDirectionNegative, undo);

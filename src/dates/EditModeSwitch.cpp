@@ -66,11 +66,13 @@ void changeEditMode(MySingleFolder &folder, EditMode mode, UndoManager &undo) {
     undo.registerUndo(folder.shared_from_this(), [before = modeStateOf(folder), mode,
                                                   &undo](MySingleFolder &target) {
         restore(target, before);
+        undo.recordAffected(target.shared_from_this());
         undo.registerUndo(target.shared_from_this(), [mode, &undo](MySingleFolder &again) {
             changeEditMode(again, mode, undo);
         });
     });
     undo.setActionName("changeEditMode");
+    undo.recordAffected(folder.shared_from_this());
     changeEditMode(folder, mode);
 }
 

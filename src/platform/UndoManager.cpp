@@ -1,10 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "UndoManager.h"
 
+#include "Texts.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace chronomender {
+namespace {
+
+std::string menuItemTitle(const std::string &key, const std::string &actionName) {
+    return actionName.empty() ? text(key) : text(key + "_named", {text(actionName)});
+}
+
+} // namespace
 
 // What an inverse registers is the way back from it: an undo fills the redo stack and a redo the
 // undo stack. Only a command of the user, outside both, forgets what could be redone.
@@ -42,6 +51,7 @@ void UndoManager::perform(std::vector<Group> &from, State state) {
     if (m_state != State::Idle || m_depth > 0)
         return;
     m_state = state;
+    m_affected.clear();
     bool isDone = false;
     while (!isDone && !from.empty()) { // a step whose targets are all gone is passed over
         m_performing = std::move(from.back());
@@ -74,10 +84,22 @@ std::string UndoManager::redoActionName() const {
     return m_redo.empty() ? std::string() : m_redo.back().actionName;
 }
 
+std::string UndoManager::undoMenuItemTitle() const {
+    return menuItemTitle("menu_undo", undoActionName());
+}
+
+std::string UndoManager::redoMenuItemTitle() const {
+    return menuItemTitle("menu_redo", redoActionName());
+}
+
 void UndoManager::removeAllActionsWithTarget(const void *target) {
-    const auto strip = [target](Group &group) {
+    removeAllActionsWithTargets({target});
+}
+
+void UndoManager::removeAllActionsWithTargets(const std::unordered_set<const void *> &targets) {
+    const auto strip = [&targets](Group &group) {
         std::erase_if(group.records,
-                      [target](const Record &record) { return record.target == target; });
+                      [&targets](const Record &record) { return targets.contains(record.target); });
     };
     for (auto *stack : {&m_undo, &m_redo}) {
         std::for_each(stack->begin(), stack->end(), strip);

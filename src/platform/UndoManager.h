@@ -4,6 +4,9 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <typeindex>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace chronomender {
@@ -48,9 +51,30 @@ public:
     void setActionName(std::string key);
     std::string undoActionName() const;
     std::string redoActionName() const;
+    /// "Undo Move Items in Time" in the loaded language; "Undo" without a step or a name.
+    std::string undoMenuItemTitle() const;
+    std::string redoMenuItemTitle() const;
 
-    /// Forgets all records of a target (an item that left, a folder that was saved).
+    /// Called by an inverse: what it touched is what a window shows after the undo or redo. The
+    /// last one of each kind counts, until the next undo or redo begins; outside both it is passed
+    /// over.
+    template<class Object>
+    void recordAffected(const std::shared_ptr<Object> &object) {
+        if (m_state != State::Idle)
+            m_affected[typeid(Object)] = object;
+    }
+    /// Null when the last undo or redo touched no object of this kind, or the object is gone.
+    template<class Object>
+    std::shared_ptr<Object> lastAffectedObject() const {
+        const auto found = m_affected.find(typeid(Object));
+        return found == m_affected.end() ? nullptr
+                                         : std::static_pointer_cast<Object>(found->second.lock());
+    }
+
+    /// Forgets all records of a target (an item that left, a folder that was saved). For many
+    /// targets at once: the records are gone through once, however many targets there are.
     void removeAllActionsWithTarget(const void *target);
+    void removeAllActionsWithTargets(const std::unordered_set<const void *> &targets);
     void removeAllActions();
 
 private:
@@ -71,6 +95,7 @@ private:
     std::vector<Group> m_undo, m_redo;
     Group m_open;
     Group m_performing; ///< what is left of the step that is being undone or redone
+    std::unordered_map<std::type_index, std::weak_ptr<void>> m_affected;
     int m_depth = 0;
     State m_state = State::Idle;
 };

@@ -47,9 +47,10 @@ void settleReading(MySinglePic &pic, const PatchPlan &plan) {
 void clearUndoRedo(const MySingleFolder &folder, UndoManager &undo) {
     if (!undo.canUndo() && !undo.canRedo())
         return;
-    undo.removeAllActionsWithTarget(&folder);
+    std::unordered_set<const void *> targets{&folder};
     for (const MySinglePicPtr &pic : folder.sfPicDetails_fullArray)
-        undo.removeAllActionsWithTarget(pic.get());
+        targets.insert(pic.get());
+    undo.removeAllActionsWithTargets(targets);
 }
 
 /// What a save of the folder leaves: items that keep their correction, and items that had none.

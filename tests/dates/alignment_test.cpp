@@ -2,6 +2,7 @@
 #include "Alignment.h"
 
 #include "LittleItem.h"
+#include "Texts.h"
 
 #include <gtest/gtest.h>
 
@@ -35,6 +36,7 @@ protected:
             addItem(folder, SpTypeExifOriginal, date, name));
         return selection.sortedSelectedThumbsArray.back();
     }
+    void SetUp() override { loadTexts("en"); }
     AlignOutcome run(AlignCommand command) {
         return realignSelection(command, selection, context, undo);
     }
@@ -97,6 +99,7 @@ TEST_F(Align, PutsItemsWhereTheCommandSays) {
         EXPECT_EQ(run(row.command), *row.name ? Done : NothingChanged);
         EXPECT_EQ(shownSeconds(), row.expected);
         EXPECT_EQ(undo.undoActionName(), row.name);
+        EXPECT_EQ(text(row.name) == row.name, !*row.name) << "each name has a text";
     }
 }
 
@@ -195,15 +198,18 @@ TEST_F(Align, TogetherModeGivesWayAndUndoBringsItBackAsItWas) {
         EXPECT_EQ(folder->sfTill, at(till));
         EXPECT_EQ(other->sfFrom, at(0) + absl::Milliseconds(200) + absl::Seconds(ofOther));
     };
+    selection.picSelection = selection.sortedSelectedThumbsArray[1];
     EXPECT_EQ(run(MinimizingGaps), Done);
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(folder->sfEditMode, EditMode::Single);
         EXPECT_EQ(folder->singlePicModeImages, 3);
         EXPECT_EQ(bystander->spDateTimeModified(), at(492.75));
-        EXPECT_EQ(shownSeconds(), (Seconds{-7.25, -6.25, -5.8}));
-        expectRanges(-7.25, 492.75, -6);
+        EXPECT_EQ(shownSeconds(), (Seconds{91.75, 92.75, 93.2}));
+        expectRanges(91.75, 492.75, 93);
         EXPECT_EQ(undo.undoActionName(), "alignByMinimizingGaps");
         undo.undo();
+        EXPECT_EQ(undo.lastAffectedObject<MySinglePic>(), selection.picSelection);
+        EXPECT_EQ(undo.lastAffectedObject<MySingleFolder>(), folder);
         EXPECT_FALSE(undo.canUndo());
         EXPECT_EQ(folder->sfEditMode, EditMode::Together);
         EXPECT_EQ(folder->sfDateModificationsTimeInterval, absl::Milliseconds(-7250));

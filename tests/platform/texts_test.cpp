@@ -63,7 +63,8 @@ TEST(TextsTest, BothLanguagesAreCompleteAndTakeTheSameArguments) {
 
 TEST(TextsTest, EveryKeyThatTheSourcesNameHasAText) {
     const Texts english = messagesOf("en");
-    const char *const use = "\\btext\\(\\s*\"([^\"]+)\"\\s*[,)]";
+    // As a text, or as the name of a step that can be undone.
+    const char *const use = "\\b(?:text|setActionName)\\(\\s*\"([^\"]+)\"\\s*[,)]";
     std::set<std::string> missing;
     std::size_t files = 0;
     for (const auto &entry : fs::recursive_directory_iterator(sourceFolder / "src")) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Texts.h"
 #include "UndoManager.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +13,7 @@ protected:
 
     /// An undoable setter: the inverse registers the forward form again.
     void setValue(const Cell &target, const std::string &value) {
+        undo.recordAffected(target);
         undo.registerUndo(target, [this, weak = std::weak_ptr(target), old = *target](auto &) {
             setValue(weak.lock(), old);
         });
@@ -74,6 +76,32 @@ TEST_F(UndoManagerTest, AGroupIsOneStepTakenBackInReverseOrder) {
     EXPECT_EQ(undo.undoActionName(), "undoDateChangeText");
 }
 
+TEST_F(UndoManagerTest, TellsWhatTheLastUndoOrRedoTouched) {
+    set("a");
+    EXPECT_FALSE(undo.lastAffectedObject<std::string>()) << "a command is not an undo";
+    setValue(other, "x");
+    undo.undo();
+    EXPECT_EQ(undo.lastAffectedObject<std::string>(), other);
+    EXPECT_FALSE(undo.lastAffectedObject<int>());
+    undo.undo();
+    EXPECT_EQ(undo.lastAffectedObject<std::string>(), cell);
+    undo.redo();
+    undo.redo();
+    other.reset();
+    EXPECT_FALSE(undo.lastAffectedObject<std::string>()) << "it is not kept alive";
+}
+
+TEST_F(UndoManagerTest, MenuTitlesNameTheStepInTheUsersLanguage) {
+    loadTexts("de");
+    EXPECT_EQ(undo.undoMenuItemTitle(), "Rückgängig");
+    set("a");
+    undo.setActionName("dragInSingleMode");
+    EXPECT_EQ(undo.undoMenuItemTitle(), "Rückgängig: " + text("dragInSingleMode"));
+    undo.undo();
+    loadTexts("en");
+    EXPECT_EQ(undo.redoMenuItemTitle(), "Redo Move Items in Time");
+}
+
 TEST_F(UndoManagerTest, StepsOfTargetsThatAreGoneArePassedOver) {
     set("a");
     setValue(other, "x");
@@ -92,7 +120,7 @@ TEST_F(UndoManagerTest, RemovingATargetDropsItsRecordsAndTheStepsThatAreThenEmpt
     }
     setValue(other, "y");
     undo.undo(); // leaves a redo step of the other
-    undo.removeAllActionsWithTarget(other.get());
+    undo.removeAllActionsWithTargets({other.get(), this});
     EXPECT_FALSE(undo.canRedo());
     undo.undo();
     EXPECT_EQ(*cell, "a");
