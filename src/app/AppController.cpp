@@ -107,7 +107,9 @@ void AppController::startWatchingSystemZone() {
 }
 
 NewDateContext AppController::liveContext() const {
-    return chronomender::liveContext(*m_services.defaults, m_services.now());
+    NewDateContext context = chronomender::liveContext(*m_services.defaults, m_services.now());
+    context.isSavingInProgress = m_saveWorker.isBusy();
+    return context;
 }
 
 int AppController::dateComparisonThresold() const {

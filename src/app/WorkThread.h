@@ -24,18 +24,24 @@ public:
     template<class Work, class Finished>
     void run(Work work, Finished finished) {
         std::weak_ptr<const bool> alive = m_alive;
-        m_pool.start([work = std::move(work), finished = std::move(finished), alive] {
+        ++m_unfinished;
+        m_pool.start([this, work = std::move(work), finished = std::move(finished), alive] {
             auto result = std::make_shared<decltype(work())>(work());
-            mainThread::post([finished = finished, result, alive]() mutable {
-                if (alive.lock())
-                    finished(std::move(*result));
+            mainThread::post([this, finished = finished, result, alive]() mutable {
+                if (!alive.lock())
+                    return;
+                --m_unfinished;
+                finished(std::move(*result));
             });
         });
     }
+    /// Work was given whose `finished` has not begun.
+    bool isBusy() const { return m_unfinished > 0; }
     void waitForDone() { m_pool.waitForDone(); }
 
 private:
     QThreadPool m_pool;
+    int m_unfinished = 0; ///< of the main thread, as the rest
     std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true);
 };
 

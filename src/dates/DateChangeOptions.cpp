@@ -50,7 +50,7 @@ DateChangeOptions cachedSaveOptions(const UserDefaults &defaults, Date now, bool
 
 NewDateContext liveContext(const UserDefaults &defaults, Date now) {
     NewDateContext context;
-    context.options = cachedSaveOptions(defaults, now, false);
+    context.options = cachedSaveOptions(defaults, cleanDate(now).value_or(now), false);
     context.dateComparisonThresold = defaults.integerForKey("dateComparisonThresold");
     context.dateChangeTypeAtLocationOnlyChanges =
         defaults.integerForKey("dateChangeTypeAtLocationOnlyChanges");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ItemDates.h"
 
+#include "SourceSlot.h"
 #include "StampConversions.h"
 
 #include <array>
@@ -97,6 +98,17 @@ OptionalDate updatedGpsDateWithCreationDate(const MySinglePic &pic,
 
 void updateGpsDateWithCreationDate(MySinglePic &pic, const OptionalDate &creationDate) {
     pic.location.spGpsUTCDate = updatedGpsDateWithCreationDate(pic, creationDate);
+}
+
+void updateMainDate(MySinglePic &pic) {
+    const auto slot = sourceSlot(pic.spType);
+    const OptionalDate &ofSlot =
+        slot ? pic.slots.*description(*slot).oldDate : pic.slots.fileCreationDateOLD;
+    // A header of a movie can hold nothing but its modification time.
+    const OptionalDate &source =
+        !ofSlot && isQtMovie(pic.spType) ? pic.slots.tiffDateTimeOLD : ofSlot;
+    if (isCleanDate(source))
+        pic.spDateTimeOriginal = *source;
 }
 
 std::int64_t differenceFromGPSDateToDate(const MySinglePic &pic, Date date) {

@@ -5,6 +5,10 @@
 
 namespace chronomender {
 
+/// Takes the main date again from the OLD slot that the item's type names, else from the file's
+/// creation date. Without a date there it stays.
+void updateMainDate(MySinglePic &pic);
+
 /// A modification stamp lies after the file's creation date by more than the threshold (seconds),
 /// and the item's type lets the file date win then.
 bool isSourceMetaModAndYoungerThanFileCrea(const MySinglePic &pic, Date date,

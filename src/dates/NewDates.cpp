@@ -78,8 +78,21 @@ void calculateChanged(MySinglePic &pic, const NewDateContext &context, SpType wo
 
 } // namespace
 
+OptionalDate draggedDate(const MySinglePic &pic, const LiveDrag &drag) {
+    if (drag.tempMoveDateByDuringLiveMod == absl::ZeroDuration())
+        return std::nullopt;
+    const bool isDependent = pic.bundleMasterImage() != nullptr;
+    const bool standsAtMovie = &pic.sortPic() != &pic;
+    if (isDependent || standsAtMovie)
+        return shifted(pic.spDateTimeModified(), drag.tempMoveDateByDuringLiveMod);
+    return drag.tempTimeDuringLiveMod;
+}
+
 void calculateNewDates(MySinglePic &pic, const NewDateContext &context) {
-    bool isForced = context.force;
+    const bool isLive = context.mode == CalculationMode::Live;
+    if (isLive && context.isSavingInProgress)
+        return;
+    bool isForced = isLive && context.force;
     SpType workingType = pic.spType;
     if (takesPart(pic) && pic.save.shouldAddExifDateTimeTags) {
         isForced = true;
@@ -90,8 +103,10 @@ void calculateNewDates(MySinglePic &pic, const NewDateContext &context) {
         }
     }
     pic.spDateTimeModified_tempFIX = pic.spDateTimeModified();
-    if (isCleanDate(context.dragDate)) {
-        pic.spDateTimeModified_tempFIX = *context.dragDate;
+    const OptionalDate dragged =
+        isLive && context.drag ? draggedDate(pic, *context.drag) : std::nullopt;
+    if (isCleanDate(dragged)) {
+        pic.spDateTimeModified_tempFIX = *dragged;
         isForced = true;
     }
     const Occasion occasion = takesPart(pic) ? occasionFor(pic, context, isForced) : Occasion::None;

@@ -36,16 +36,25 @@ DateChangeOptions cachedSaveOptions(const UserDefaults &defaults, Date now, bool
 /// Live calculations feed displays; save calculations feed a save.
 enum class CalculationMode { Live, Save };
 
+/// What an interactive drag makes of an item while it lasts. The views keep it; the dependent of a
+/// group is given its master's.
+struct LiveDrag {
+    OptionalDate tempTimeDuringLiveMod;                                ///< where the item is held
+    absl::Duration tempMoveDateByDuringLiveMod = absl::ZeroDuration(); ///< 0: it is not moved
+};
+
 struct NewDateContext {
     CalculationMode mode = CalculationMode::Live;
     DateChangeOptions options;
     int dateComparisonThresold = 3; ///< seconds within which two dates count as the same
     int dateChangeTypeAtLocationOnlyChanges = 1;
-    bool force = false;    ///< calculate even an unchanged item
-    OptionalDate dragDate; ///< the transient date of an interactive drag
+    // The rest is asked in a live calculation only.
+    bool isSavingInProgress = false; ///< nothing is calculated: the NEW slots are the save's
+    bool force = false;              ///< calculate even an unchanged item
+    std::optional<LiveDrag> drag;    ///< of the item to calculate; none outside a drag
 };
 
-/// The context of a display: the preferences as they are now.
+/// The context of a display: the preferences as they are now, and now in whole seconds.
 NewDateContext liveContext(const UserDefaults &defaults, Date now);
 
 /// Fills the five NEW slots (and `spDateTimeModified_tempFIX`, in save mode `isAffectedBySave`)
@@ -57,6 +66,18 @@ NewDateContext liveContext(const UserDefaults &defaults, Date now);
 /// A preference with a value outside its table leaves its slot as it was. In a live calculation
 /// "now" reads as the distant future.
 void calculateNewDates(MySinglePic &pic, const NewDateContext &context);
+
+/// The date that a drag gives the item; none when it is not moved. A dependent keeps its distance
+/// to its master. A live photo that stands at its movie's time moves by the shift, as the place
+/// where it is held is the movie's.
+OptionalDate draggedDate(const MySinglePic &pic, const LiveDrag &drag);
+
+/// Missing date tags can be added to the item's file: a photo of a format that the external tool
+/// writes, with tags of its own or none, whose dates do not come from XMP.
+bool areExifDateTimeTagsAddable(const MySinglePic &pic);
+/// Asks for the missing tags to be added, or takes that back, with the marks that it left. False
+/// when nothing can be added; nothing changes then.
+bool setShouldAddExifDateTimeTags(MySinglePic &pic, bool shouldAdd);
 
 /// For an item with `shouldAddExifDateTimeTags`: decides once which tags are to be added
 /// (`tagAddType`) and lends their OLD slots a date for the length of one calculation. False when

@@ -3,8 +3,8 @@
 
 #include "DateDifferences.h"
 #include "DateModifications.h"
+#include "ItemDates.h"
 #include "ItemFilling.h"
-#include "SourceSlot.h"
 #include "ZoneLookup.h"
 
 #include <algorithm>
@@ -15,17 +15,6 @@ namespace {
 
 constexpr unsigned kDateError = 4;
 constexpr unsigned kTagAddError = 2;
-
-void updateMainDate(MySinglePic &pic) {
-    const auto slot = sourceSlot(pic.spType);
-    const OptionalDate &ofSlot =
-        slot ? pic.slots.*description(*slot).oldDate : pic.slots.fileCreationDateOLD;
-    // A header of a movie can hold nothing but its modification time.
-    const OptionalDate &source =
-        !ofSlot && isQtMovie(pic.spType) ? pic.slots.tiffDateTimeOLD : ofSlot;
-    if (isCleanDate(source))
-        pic.spDateTimeOriginal = *source;
-}
 
 void updateStampSlots(MySinglePic &pic, const PatchPlan &plan) {
     for (std::size_t i = 0; i < stampSlots.size(); ++i)

@@ -52,10 +52,11 @@ SlotResult fileSlotResult(const MySinglePic &pic, const SlotDescription &slot) {
     return isCreation ? SlotResult::NotStorable : SlotResult::WrittenInPlace;
 }
 
-/// XMP stamps would go on telling the old date, and a chunk of a PNG carries a checksum: such a
-/// file is not touched at all rather than written in part.
+/// XMP stamps would go on telling the old date, a chunk of a PNG carries a checksum, and tags are
+/// added by a tool of its own: such a file is not touched at all rather than written in part.
 bool isWritable(const MySinglePic &pic) {
-    return pic.singlePicAttributes.xmpDateInfos.isEmpty() && pic.fileFormatType != FileFormatPng;
+    return pic.singlePicAttributes.xmpDateInfos.isEmpty() && pic.fileFormatType != FileFormatPng &&
+           !pic.save.shouldAddExifDateTimeTags;
 }
 
 bool hasProblem(std::span<const PreSaveFinding> problems, PreSaveProblem problem) {

@@ -27,8 +27,11 @@ Change butWith(void (*change)(MySinglePic &)) {
         change(pic);
     };
 }
-Change dragTo(Date date) {
-    return [date](auto &, auto &context) { context.dragDate = date; };
+Change dragTo(Date date, double by = 7) {
+    return [=](auto &, auto &context) { context.drag = LiveDrag{date, absl::Seconds(by)}; };
+}
+void force(MySinglePic &, NewDateContext &context) {
+    context.force = true;
 }
 Change followWithin(int threshold) {
     return [threshold](auto &pic, auto &context) {
@@ -63,8 +66,11 @@ const OccasionRow occasionRows[] = {
     {"unchanged, saved", Save, [](auto &, auto &) {}, 50, false},
     {"all are to be saved, shown", Live, saveAll, 50, false},
     {"all are saved", Save, saveAll, 0, true},
-    {"forced", Live, [](auto &, auto &context) { context.force = true; }, 0, false},
+    {"forced", Live, force, 0, false},
+    {"forced, saved", Save, force, 50, false},
     {"dragged", Live, dragTo(at(-500.0)), -500, false},
+    {"dragged, saved", Save, dragTo(at(-500.0)), 50, false},
+    {"held where it was", Live, dragTo(at(-500.0), 0), 50, false},
     {"dragged to a marker", Live, dragTo(InfinitePast()), 50, false},
     {"location 0", Save, moveLocation(0), 0, true},
     {"location 1", Save, moveLocation(1), 50, false},
@@ -105,6 +111,35 @@ TEST(NewDateOccasions, SayWhetherAnItemIsCalculated) {
                 expectUntouched(*pic);
         }
     }
+}
+
+TEST(NewDateOccasions, ADragGivesHalvesOfAGroupTheirOwnDates) {
+    const auto folder = makeFolder();
+    const auto still = addItem(folder, SpTypeExifOriginal, telltale);
+    const auto movie = addItem(folder, SpTypeMovieMdta, at(3.0));
+    makeDependent(movie, still);
+    NewDateContext calculation = context(Live);
+    dragTo(at(-500.0), -20)(*still, calculation);
+    const auto dragged = [&](MySinglePic &pic) {
+        calculateNewDates(pic, calculation);
+        return moment(pic.spDateTimeModified_tempFIX);
+    };
+    EXPECT_EQ(dragged(*still), -500);
+    EXPECT_EQ(dragged(*movie), -17); // by as much
+    folder->sortFolderLPsByMov = true;
+    EXPECT_EQ(dragged(*still), -20); // held is the movie
+}
+
+TEST(NewDateOccasions, ARunningSaveKeepsDisplaysFromCalculating) {
+    const auto folder = makeFolder();
+    const auto pic = addItem(folder, SpTypeExifOriginal, telltale);
+    NewDateContext calculation = context(Live);
+    calculation.isSavingInProgress = calculation.force = true;
+    calculateNewDates(*pic, calculation);
+    EXPECT_EQ(newMoment(*pic, Original), held);
+    calculation.mode = Save;
+    calculateNewDates(*pic, calculation);
+    EXPECT_EQ(newMoment(*pic, Original), 0);
 }
 
 TEST(NewDateOccasions, ASaveReachesForTheDependentAndADisplayDoesNot) {
@@ -148,6 +183,7 @@ struct TagLine {
 
 const TagLine tagLines[] = {
     {"none", SpTypeNoTagsFileDate, {none, none, none, 0.75, 100.5}, 7, -1000, -1000, 100},
+    {"none, fixed", SpTypeNoTagsFixedDate, {none, none, none, 0.75, 2}, 7, -1000, -1000, -1000},
     {"equal files", SpTypeNoTagsFileDate, {none, none, none, 0.75, 2}, 7, -1000, -1000, -1000},
     {"younger", SpTypeTiffYoungerThanFile, {none, none, 900, 0.75, 0}, 3, -1000, -1000, 900},
     {"TIFF alone", SpTypeTiffDateTime, {none, none, 0, 5, 5}, 3, -1000, -1000, -1000},
@@ -182,11 +218,56 @@ TEST(MissingTags, AreAddedEvenWithoutAnyOtherChange) {
     const auto folder = makeFolder();
     const auto pic = addItem(folder, SpTypeNoTagsFileDate, {none, none, none, 0.75, 0.75});
     EXPECT_FALSE(prepareExifDateTimeAddition(*pic));
-    pic->save.shouldAddExifDateTimeTags = true;
+    pic->fileFormatType = FileFormatJpeg;
+    EXPECT_TRUE(setShouldAddExifDateTimeTags(*pic, true));
     calculateNewDates(*pic, context(Save));
     EXPECT_TRUE(pic->save.isAffectedBySave);
     EXPECT_EQ(newMoment(*pic, Original), 0);
     EXPECT_EQ(moment(pic->spDateTimeOriginal), 0); // a stamp has no fraction
+    EXPECT_TRUE(areExifDateTimeTagsAddable(*pic)) << "asked for is not added";
+    // Taken back, nothing is left of it.
+    EXPECT_TRUE(setShouldAddExifDateTimeTags(*pic, false));
+    EXPECT_EQ(pic->save.tagAddType, 0U);
+    EXPECT_EQ(oldMoment(*pic, Original), none);
+    EXPECT_EQ(moment(pic->spDateTimeOriginal), 0.75);
+    calculateNewDates(*pic, context(Save));
+    expectUntouched(*pic);
+}
+
+TEST(MissingTags, CanBeAddedToPhotosThatTheToolWrites) {
+    const Moments bare{none, none, none, 0, 0}, full{0, 0, 0, 0, 0}, dated{0, none, none, 0, 0};
+    const struct {
+        SpType type;
+        Moments old;
+        FileFormatType format;
+        const char *name;
+        bool isAddable;
+        bool XmpFlags::*xmp = nullptr;
+    } rows[] = {
+        {SpTypeNoTagsFileDate, bare, FileFormatJpeg, "a.jpg", true},
+        {SpTypeNoTagsFixedDate, bare, FileFormatJpeg, "a.jpg", false},
+        {SpTypeNoTagsFileDate, bare, FileFormatGif, "a.gif", false},
+        {SpTypeNoTagsFileDate, bare, FileFormatPict, "a.pct", false},
+        {SpTypeMovieFileDate, bare, FileFormatQuickTime, "a.mov", false},
+        {SpTypeEmptyOriginalFileDate, {past, none, none, 0, 0}, FileFormatJpeg, "a.jpg", false},
+        {SpTypeExifOriginal, full, FileFormatJpeg, "a.jpg", false},
+        {SpTypeExifOriginal, dated, FileFormatPng, "a.png", true},
+        {SpTypeExifOriginal, dated, FileFormatJpeg, "a.jpg", false, &XmpFlags::isCreaXmp},
+        {SpTypeExifOriginal, dated, FileFormatRaw, "a.NEF", true},
+        {SpTypeExifOriginal, dated, FileFormatRaw, "a.crw", false},
+        {SpTypeTiffYoungerThanFile, {none, none, 0, 0, 0}, FileFormatTiff, "a.tif", true},
+    };
+    for (const auto &row : rows) {
+        const auto folder = makeFolder();
+        const auto pic = addItem(folder, row.type, row.old);
+        pic->spName = row.name;
+        pic->fileFormatType = row.format;
+        if (row.xmp)
+            pic->xmp.*row.xmp = true;
+        EXPECT_EQ(setShouldAddExifDateTimeTags(*pic, true), row.isAddable) << row.name;
+        EXPECT_EQ(pic->isThisTimeUnsaved(), row.isAddable || hasImportOptionChanges(row.type))
+            << row.name;
+    }
 }
 
 } // namespace
