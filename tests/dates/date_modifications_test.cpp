@@ -132,6 +132,7 @@ TEST_F(DateModifications, UndoAndRedoOfSingleShiftsBringValuesAndRangeBack) {
         EXPECT_EQ(folder->sfFrom, noon);
         EXPECT_EQ(folder->sfTill, noon + hour);
         EXPECT_EQ(trashed->shift.singlePicModification, zero);
+        EXPECT_EQ(undo.lastAffectedObject<MySinglePic>(), first) << "no main item: the first";
         EXPECT_FALSE(undo.canUndo());
         undo.redo();
     }
@@ -156,6 +157,7 @@ TEST_F(DateModifications, UndoAndRedoOfAFolderShiftBringShiftAndDirectionBack) {
     EXPECT_EQ(folder->sfDateModificationsTimeInterval, zero);
     EXPECT_EQ(folder->sfDateModifications.dmDirection, "-");
     EXPECT_EQ(folder->sfFrom, noon);
+    EXPECT_EQ(undo.lastAffectedObject<MySingleFolder>(), folder);
     undo.redo();
     EXPECT_EQ(folder->sfDateModificationsTimeInterval, absl::Milliseconds(1500));
     EXPECT_FALSE(folder->hasChangedDirection);
@@ -177,6 +179,29 @@ TEST_F(DateModifications, ChangingTheModeKeepsDatesOnTheWayToSingleAndDropsThemB
     expectShifts(hour, zero, 1);
     changeEditMode(*folder, EditMode::Together);
     expectShifts(zero, zero, 0);
+}
+
+TEST_F(DateModifications, ASwitchOfTheModeIsTakenBackExactlyAlsoForItemsThatCameLater) {
+    folder->sfEditMode = EditMode::Together;
+    const auto dependent = addItem(folder, SpTypeExifOriginal, noon);
+    makeDependent(dependent, first);
+    dependent->shift.singlePicModification = -hour; // as a group merged late may have it
+    setDirection(*folder, {"-", "01", "0", "0", "0"});
+    changeEditMode(*folder, EditMode::Together, undo);
+    EXPECT_FALSE(undo.canUndo());
+    changeEditMode(*folder, EditMode::Single, undo);
+    EXPECT_EQ(undo.undoActionName(), "changeEditMode");
+    undo.undo();
+    EXPECT_EQ(folder->sfDateModifications.dmDays, "01");
+    EXPECT_EQ(folder->sfFrom, noon - 24 * hour);
+    EXPECT_EQ(dependent->shift.singlePicModification, -hour);
+    EXPECT_EQ(undo.lastAffectedObject<MySingleFolder>(), folder);
+    expectShifts(zero, zero, 0);
+    const auto later = addItem(folder, SpTypeExifOriginal, noon);
+    undo.redo();
+    EXPECT_EQ(later->spDateTimeModified(), noon - 24 * hour);
+    expectShifts(-24 * hour, -24 * hour, 3);
+    EXPECT_EQ(dependent->shift.singlePicModification, -24 * hour);
 }
 
 TEST_F(DateModifications, TheLastItemLeavingTakesRangeShiftAndUndoStepsWithIt) {

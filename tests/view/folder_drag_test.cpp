@@ -101,6 +101,7 @@ TEST_F(FolderDrag, OfItemsAddsToEachShiftAsOneStepAndIsRefusedAsAWhole) {
     expectShifts(hour + second, second);
     undo.undo();
     expectShifts(hour, zero);
+    EXPECT_EQ(folder->sfTill, lastDay) << "the range goes back with the items";
     undo.redo();
     expectShifts(hour + second, second);
 }
