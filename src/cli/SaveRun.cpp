@@ -100,6 +100,14 @@ private:
         return codeAfterWriting(written, exitCode);
     }
 
+    /// Why nothing was written.
+    const char *planEndingKey(int exitCode) const {
+        if (exitCode == exitProblems)
+            return "cli_save_problemsNothingWritten";
+        return m_session.line().command == Command::Align ? "cli_align_nothingWritten"
+                                                          : "cli_save_dryRunNothingWritten";
+    }
+
     std::string reportText(const SaveReport &report, Stage stage, int exitCode) const {
         std::string out;
         if (m_session.line().isDryRun)
@@ -114,11 +122,7 @@ private:
         else if (report.isEmpty())
             out += text("cli_save_nothingToSave") + '\n';
         else if (stage == Stage::Plan)
-            out += text(exitCode == exitProblems ? "cli_save_problemsNothingWritten"
-                        : m_session.line().command == Command::Align
-                            ? "cli_align_nothingWritten"
-                            : "cli_save_dryRunNothingWritten") +
-                   '\n';
+            out += text(planEndingKey(exitCode)) + '\n';
         return out;
     }
 
