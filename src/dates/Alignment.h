@@ -4,6 +4,7 @@
 #include "DateModifications.h"
 #include "NewDates.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -60,5 +61,10 @@ AlignOutcome realignSelection(AlignCommand command, const AlignSelection &select
 /// the one it shows and, for a NEW slot, not what the file holds. "Now" is no date to take over.
 bool isCopyOffered(AlignCommand command, const std::vector<MySinglePicPtr> &pics,
                    const NewDateContext &context);
+/// Text key of the menu that holds the copying commands.
+constexpr const char *copyMenuTitleKey(std::size_t selectedItems) {
+    return selectedItems == 1 ? "menu_copyOtherFileDate_single"
+                              : "menu_copyOtherFileDate_selection";
+}
 
 } // namespace chronomender

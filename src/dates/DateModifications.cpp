@@ -179,7 +179,8 @@ void updateThumbValues(const std::vector<ShiftRecord> &records, UndoManager &und
             moved.push_back(record.thumb);
     if (moved.empty())
         return;
-    const MySinglePicPtr &main = selection ? selection : moved.front();
+    const bool isSelectionMoved = std::ranges::find(moved, selection) != moved.end();
+    const MySinglePicPtr &main = isSelectionMoved ? selection : moved.front();
     const std::vector<MySingleFolderPtr> folders = foldersOf(moved);
     const UndoGroup group(undo);
     for (const MySingleFolderPtr &folder : folders)

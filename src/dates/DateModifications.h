@@ -82,7 +82,7 @@ std::vector<MySingleFolderPtr> foldersOf(const std::vector<MySinglePicPtr> &pics
 
 /// Applies shift records as one undoable step, passing over items that cannot be shifted. The
 /// ranges of all folders concerned are right afterwards, after undo and after redo. `selection` is
-/// the main item among them, which a window shows again after undo and redo; null: the first.
+/// the main item, which a window shows again after undo and redo; the first where it is not moved.
 void updateThumbValues(const std::vector<ShiftRecord> &records, UndoManager &undo,
                        const MySinglePicPtr &selection = nullptr);
 /// One item's part of such a step: adds the difference and registers its negation.

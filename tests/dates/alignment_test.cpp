@@ -160,6 +160,7 @@ TEST_F(Align, EveryMarkerOfACopyNamesItsSlot) {
         undo.undo();
     }
     EXPECT_FALSE(isCopyOffered(MatchingGaps, {pic}, context));
+    EXPECT_NE(text(copyMenuTitleKey(1)), text(copyMenuTitleKey(2)));
 }
 
 TEST_F(Align, LivePhotosStandAtTheirMovieAndMoveTogether) {
