@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The figures that need no other program: limits, import, save, sort. Expects in
+// The figures that need no other program: limits, import, save, sort, zones. Expects in
 // CHRONOMENDER_BENCH_FILES a folder with `many` (JPEGs with bodies of 200 KB), `mixed` (three in
 // ten of other formats), `short` and `long` (fewer JPEGs, bodies of 200 KB and 4 MB) and `small`
 // (folders of the smallest files), as scripts/bench makes them. Every benchmark leaves the files as
@@ -9,6 +9,7 @@
 #include "Limits.h"
 #include "Session.h"
 #include "Texts.h"
+#include "ZoneChanges.h"
 
 #include <benchmark/benchmark.h>
 
@@ -101,6 +102,19 @@ void sortAll(benchmark::State &state) {
     state.counters["files"] = static_cast<double>(controller.source_full().size());
 }
 
+template<class Work>
+void conversions(benchmark::State &state, Work work) {
+    std::size_t count = 0;
+    for (auto _ : state) {
+        const Conversions done = work();
+        count = done.count;
+        state.SetIterationTime(done.time.count());
+        if (count == 0)
+            state.SkipWithError("a stamp was converted wrongly");
+    }
+    state.counters["files"] = static_cast<double>(count);
+}
+
 void registerAll() {
     const auto add = [](const char *name, auto &&...rest) {
         benchmark::RegisterBenchmark(name, rest...)
@@ -118,6 +132,11 @@ void registerAll() {
         add(("import/" + folder).c_str(), importToDates, folder);
         add(("save/" + folder).c_str(), saveStage, folder);
     }
+    add("zones/reread", [](benchmark::State &state) { conversions(state, rereadAfterZoneChange); });
+    for (const std::size_t threads : {1, 2})
+        add(("zones/threads" + std::to_string(threads)).c_str(), [threads](auto &state) {
+            conversions(state, [threads] { return parallelConversions(threads); });
+        });
     add("sort/small", [](benchmark::State &state) { sortAll(state); });
 }
 

@@ -55,8 +55,7 @@ std::optional<ZonedStamp> zonedExifStamp(const MySinglePic &pic) {
         return std::nullopt;
     const auto zone = exifOffsetFromData(offset->data);
     const auto seconds = zone ? secondsFromExifOffset(*zone) : std::nullopt;
-    const auto text = exifTimeStampFromData(stamp->data);
-    const auto clock = text ? civilFromExifTimeStamp(*text) : std::nullopt;
+    const auto clock = civilFromExifData(stamp->data);
     return clock && seconds ? std::optional(ZonedStamp{*clock, *seconds}) : std::nullopt;
 }
 

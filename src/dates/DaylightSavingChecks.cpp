@@ -65,10 +65,26 @@ bool hasStampsToCheck(const MySinglePic &pic) {
     return isPhotoWithStamps(pic.spType) || (isLocalMovieDate(pic) && !isNullerFile(pic.spType));
 }
 
+/// The same verdict from what the file's wall clock can mean, which is found much faster than the
+/// wall clocks of two dates; none unless the date is one of these meanings.
+std::optional<Verdict> verdictForClock(const CivilFields &clock, Date date,
+                                       const absl::TimeZone &zone) {
+    using Info = absl::TimeZone::TimeInfo;
+    const Info info = meaningsOfCivil(clock, zone);
+    if (info.kind == Info::UNIQUE && date == info.pre)
+        return Verdict{};
+    if (info.kind == Info::REPEATED && (date == info.pre || date == info.post))
+        return Verdict{false, date == info.post && info.post - info.pre == usualStep};
+    return std::nullopt;
+}
+
 /// Whole seconds are compared as fields, which is the same as comparing the texts that they make,
 /// and does not take a stamp written oddly ("2024: 6: 1") for another time.
 Verdict verdictFor(const MySinglePic &pic, StampSlot slot, Date date, const absl::TimeZone &zone) {
     const auto told = wallClockInFile(pic, slot);
+    const auto fromText = told ? verdictForClock(*told, date, zone) : std::nullopt;
+    if (fromText)
+        return *fromText;
     return {told && *told != civilFromInstant(date, zone), isAmbiguousLocalTime(date, zone)};
 }
 
@@ -125,10 +141,7 @@ std::optional<CivilFields> wallClockInFile(const MySinglePic &pic, StampSlot slo
     if (pic.isMovie())
         return movieClock(pic, slot);
     const LocatedBytes *stamp = pic.stamp(slot);
-    const auto text = stamp ? exifTimeStampFromData(stamp->data) : std::nullopt;
-    if (text)
-        return civilFromExifTimeStamp(*text);
-    return stamp ? std::nullopt : wallClockOfXmpStamp(pic.xmpStamp(slot));
+    return stamp ? civilFromExifData(stamp->data) : wallClockOfXmpStamp(pic.xmpStamp(slot));
 }
 
 bool isAmbiguousLocalTime(Date date, const absl::TimeZone &zone) {

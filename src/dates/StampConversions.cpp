@@ -71,8 +71,12 @@ Date dateFromFields(const std::optional<CivilFields> &fields,
 
 } // namespace
 
+absl::TimeZone::TimeInfo meaningsOfCivil(const CivilFields &fields, const absl::TimeZone &zone) {
+    return zone.At(civilSecond(fields));
+}
+
 Date instantFromCivil(const CivilFields &fields, const absl::TimeZone &zone) {
-    const absl::TimeZone::TimeInfo info = zone.At(civilSecond(fields));
+    const absl::TimeZone::TimeInfo info = meaningsOfCivil(fields, zone);
     return info.kind == absl::TimeZone::TimeInfo::SKIPPED ? info.pre : info.post;
 }
 
@@ -98,11 +102,12 @@ Date dateFromEXIFTimeStampAndOffset(std::string_view stamp,
 }
 
 OptionalDate dateFromExifData(const Bytes &stamp, const Bytes *offset, const absl::TimeZone &zone) {
-    const auto text = exifTimeStampFromData(stamp);
-    if (!text)
+    const auto fields = civilFromExifData(stamp);
+    if (!fields && !exifTimeStampFromData(stamp))
         return std::nullopt;
-    return dateFromEXIFTimeStampAndOffset(
-        *text, offset ? exifOffsetFromData(*offset) : std::nullopt, zone);
+    const auto zoneStamp = offset ? exifOffsetFromData(*offset) : std::nullopt;
+    return dateFromFields(fields, zoneStamp ? secondsFromExifOffset(*zoneStamp) : std::nullopt,
+                          zone);
 }
 
 std::optional<Bytes> exifDataFromDate(Date date, const absl::TimeZone &zone) {

@@ -19,6 +19,8 @@ namespace chronomender {
 /// instant, so that one hour less gives the same text again; a text that never occurs is read with
 /// the offset that held before the step.
 Date instantFromCivil(const CivilFields &fields, const absl::TimeZone &zone);
+/// All that a wall clock can mean, for those who look for danger instead of choosing.
+absl::TimeZone::TimeInfo meaningsOfCivil(const CivilFields &fields, const absl::TimeZone &zone);
 /// Wall-clock fields of an instant, cut to whole seconds (towards the past).
 CivilFields civilFromInstant(Date date, const absl::TimeZone &zone);
 

@@ -16,39 +16,56 @@
 namespace chronomender {
 namespace {
 
-/// What a change of zone can move before a person's eyes.
+/// What a change of zone can move before a person's eyes; the file's own dates stay.
 struct SeenDates {
     SpType type;
     Date mainDate;
-    DateSlots slots;
+    OptionalDate original, digitized, modification;
 
     bool operator==(const SeenDates &) const = default;
 };
 
 SeenDates seenDates(const MySinglePic &pic) {
-    return {pic.spType, pic.spDateTimeOriginal, pic.slots};
+    const DateSlots &slots = pic.slots;
+    return {pic.spType, pic.spDateTimeOriginal, slots.exifDateTimeOriginalOLD,
+            slots.exifDateTimeDigitizedOLD, slots.tiffDateTimeOLD};
 }
 
+/// A stamp and what it says in the present zone. The stamps of a photo are mostly equal, and an
+/// equal one need not be read again.
+struct StampRead {
+    const LocatedBytes *stamp = nullptr;
+    OptionalDate date;
+};
+
 /// What a slot's stamp says in this zone; none without one.
-OptionalDate dateOfSlot(const MySinglePic &pic, StampSlot slot, const absl::TimeZone &zone) {
+OptionalDate dateOfSlot(const MySinglePic &pic, StampSlot slot, const absl::TimeZone &zone,
+                        StampRead &last) {
     const LocatedBytes *stamp = pic.stamp(slot);
     if (!stamp)
         return xmpDateFromStampInfos(pic.xmpStamp(slot), zone);
-    const LocatedBytes *zoneStamp = pic.zoneStamp(slot);
-    return dateFromExifData(stamp->data, zoneStamp ? &zoneStamp->data : nullptr, zone);
+    if (const LocatedBytes *zoneStamp = pic.zoneStamp(slot))
+        return dateFromExifData(stamp->data, &zoneStamp->data, zone);
+    if (!last.stamp || last.stamp->data != stamp->data)
+        last = {stamp, dateFromExifData(stamp->data, nullptr, zone)};
+    return last.date;
 }
 
 /// Empty slots, and slots of tags to be added, stay as they are.
-void readSlotAgain(MySinglePic &pic, StampSlot slot, const absl::TimeZone &zone) {
-    OptionalDate &oldDate = pic.slots.*description(slot).oldDate;
-    if (!oldDate || *oldDate == InfinitePast())
-        return;
-    const OptionalDate date = dateOfSlot(pic, slot, zone);
-    if (!isCleanDate(date))
-        return;
-    oldDate = date;
-    if (sourceSlot(pic.spType) == slot)
-        pic.spDateTimeOriginal = *date;
+void readSlotsAgain(MySinglePic &pic, const absl::TimeZone &zone) {
+    const auto source = sourceSlot(pic.spType);
+    StampRead last;
+    for (const StampSlot slot : stampSlots) {
+        OptionalDate &oldDate = pic.slots.*description(slot).oldDate;
+        if (!oldDate || *oldDate == InfinitePast())
+            continue;
+        const OptionalDate date = dateOfSlot(pic, slot, zone, last);
+        if (!isCleanDate(date))
+            continue;
+        oldDate = date;
+        if (source == slot)
+            pic.spDateTimeOriginal = *date;
+    }
 }
 
 /// Types that take their main date from a modification stamp, or from the file while that is the
@@ -120,8 +137,7 @@ struct Reading {
 void readStampsAgain(MySinglePic &pic, const Reading &reading) {
     const absl::TimeZone &zone = reading.sourceZone.rules;
     if (isInRange(pic.spType, SpTypeExifOriginal, SpTypeTiffYoungerThanFile)) {
-        for (StampSlot slot : stampSlots)
-            readSlotAgain(pic, slot, zone);
+        readSlotsAgain(pic, zone);
     } else if (pic.spType == SpTypeMovieRiff) {
         readRiffDateAgain(pic, zone);
     } else if (isInRange(pic.spType, SpTypeMovieMvhdCreation, SpTypeMovieMvhdYoungerThanFile)) {

@@ -22,16 +22,22 @@ bool isStampCharacter(char c) {
     return isDigit(c) || c == ':' || c == ' ';
 }
 
-/// The number in a field of fixed width. Blanks in front count as zeros, as old cameras write them.
-std::optional<int> numberInField(std::string_view text, std::size_t from, std::size_t width) {
-    std::string_view field = text.substr(from, width);
-    field.remove_prefix(std::min(field.find_first_not_of(' '), field.size()));
-    if (field.empty() || !std::all_of(field.begin(), field.end(), isDigit))
-        return std::nullopt;
+/// The number in a field of fixed width, which must lie inside the text. Blanks in front count as
+/// zeros, as old cameras write them.
+template<std::size_t width>
+std::optional<int> numberInField(std::string_view text, std::size_t from) {
     int number = 0;
-    for (const char digit : field)
-        number = number * 10 + (digit - '0');
-    return number;
+    bool hasDigit = false;
+    for (std::size_t at = from; at < from + width; ++at) {
+        const char c = text[at];
+        if (c == ' ' && !hasDigit)
+            continue;
+        if (!isDigit(c))
+            return std::nullopt;
+        hasDigit = true;
+        number = number * 10 + (c - '0');
+    }
+    return hasDigit ? std::optional(number) : std::nullopt;
 }
 
 int daysInMonth(int year, int month) {
@@ -56,17 +62,27 @@ std::optional<std::string_view> textBeforeZeros(std::string_view data, std::size
     return text;
 }
 
-} // namespace
-
-std::optional<std::string> exifTimeStampFromData(const Bytes &data) {
+std::optional<std::array<char, kStampLength>> stampCharacters(const Bytes &data) {
     if (data.size() < kShortestStampLength || data.size() > kStoredStampLength)
         return std::nullopt;
     const auto text = textBeforeZeros(data, kStoredStampLength);
     if (!text || text->size() < kShortestStampLength || text->size() > kStampLength)
         return std::nullopt;
-    std::string stamp(*text);
-    stamp.append(kStampLength - stamp.size(), '0');
+    std::array<char, kStampLength> stamp;
+    std::fill(std::ranges::copy(*text, stamp.begin()).out, stamp.end(), '0');
     return stamp;
+}
+
+} // namespace
+
+std::optional<std::string> exifTimeStampFromData(const Bytes &data) {
+    const auto stamp = stampCharacters(data);
+    return stamp ? std::optional(std::string(stamp->begin(), stamp->end())) : std::nullopt;
+}
+
+std::optional<CivilFields> civilFromExifData(const Bytes &data) {
+    const auto stamp = stampCharacters(data);
+    return stamp ? civilFromExifTimeStamp({stamp->data(), stamp->size()}) : std::nullopt;
 }
 
 std::optional<CivilFields> civilFromExifTimeStamp(std::string_view stamp) {
@@ -74,9 +90,9 @@ std::optional<CivilFields> civilFromExifTimeStamp(std::string_view stamp) {
         return std::nullopt;
     if (!std::ranges::all_of(kStampColons, [&](std::size_t at) { return stamp[at] == ':'; }))
         return std::nullopt;
-    const auto year = numberInField(stamp, 0, 4), month = numberInField(stamp, 5, 2),
-               day = numberInField(stamp, 8, 2), hour = numberInField(stamp, 11, 2),
-               minute = numberInField(stamp, 14, 2), second = numberInField(stamp, 17, 2);
+    const auto year = numberInField<4>(stamp, 0), month = numberInField<2>(stamp, 5),
+               day = numberInField<2>(stamp, 8), hour = numberInField<2>(stamp, 11),
+               minute = numberInField<2>(stamp, 14), second = numberInField<2>(stamp, 17);
     if (!year || !month || !day || !hour || !minute || !second)
         return std::nullopt;
     const CivilFields fields{*year, *month, *day, *hour, *minute, *second};

@@ -25,6 +25,8 @@ struct CivilFields {
 /// The 19 characters of a stamp held in 20 bytes, or none. A stamp of 18 characters followed by
 /// zero bytes gets "0" added, one of 17 gets "00" (Exif writers that cut the seconds short).
 std::optional<std::string> exifTimeStampFromData(const Bytes &data);
+/// The wall clock that such bytes tell; none where they hold no stamp or no date.
+std::optional<CivilFields> civilFromExifData(const Bytes &data);
 
 /// Reads "yyyy:MM:dd HH:mm:ss" by position: digits only, a blank accepted as a leading zero, byte
 /// 10 a blank or a colon. None when the fields are not a date.

@@ -26,11 +26,6 @@ struct BuiltStamp {
     std::optional<Bytes> offset;
 };
 
-std::optional<CivilFields> civilOf(const Bytes &stamp) {
-    const auto text = exifTimeStampFromData(stamp);
-    return text ? civilFromExifTimeStamp(*text) : std::nullopt;
-}
-
 /// Most stamps have one way only to be written; these have two.
 bool hasBlankForZero(std::string_view stamp) {
     const std::size_t blank = stamp.find(' ');
@@ -43,7 +38,7 @@ bool isZeroOffset(std::string_view offset) {
 
 /// What says the wanted already stays as somebody wrote it: a blank for a leading zero.
 void keepStampSaidAlready(const Bytes &present, Bytes &built) {
-    if (hasBlankForZero(present) && civilOf(present) == civilOf(built))
+    if (hasBlankForZero(present) && civilFromExifData(present) == civilFromExifData(built))
         built = present;
 }
 
