@@ -135,6 +135,22 @@ TEST_F(GroupingTest, SecondImportCompletesAPairInEitherDirection) {
     EXPECT_EQ(visible->positions.indexInSource_full, -1);
 }
 
+TEST_F(GroupingTest, MastersTellWhetherTheTwoSidesDeviate) {
+    defaults.setForThisRun("harmonizingRawJpgsTypeDefault", "2");
+    const auto a = item("a.CR2"), b = item("b.CR2");
+    item("a.JPG")->spDateTimeOriginal += absl::Seconds(2); // made one by harmonising
+    item("b.JPG")->spDateTimeOriginal += absl::Seconds(1);
+    const auto movie = item("c.MOV"), still = item("c.JPG");
+    still->livePhoto.UUID = movie->livePhoto.UUID = "one";
+    movie->spDateTimeOriginal += absl::Hours(7);
+    movie->zones.dstAmbiguityAtImportState = 1; // of the header time that it had before
+    groups();
+    EXPECT_EQ(a->zones.majorDateDifferenceType, kGroupDeviates);
+    EXPECT_EQ(b->zones.majorDateDifferenceType, 0U);
+    EXPECT_EQ(still->zones.majorDateDifferenceType, kGroupDeviates | kOnlyOneSideIsLocal);
+    EXPECT_EQ(movie->zones.dstAmbiguityAtImportState, 0U);
+}
+
 TEST_F(GroupingTest, MasterTakesWhatAPersonDidToTheDependent) {
     folder->sfEditMode = EditMode::Single;
     folder->singlePicModeImages = 3;

@@ -104,6 +104,9 @@ protected:
         EXPECT_EQ(item.spDateTimeOriginal, fresh.spDateTimeOriginal) << name;
         EXPECT_EQ(item.spType, fresh.spType) << name;
         EXPECT_EQ(item.location.spGpsUTCDate, fresh.location.spGpsUTCDate) << name;
+        ZoneFlags zones = fresh.zones; // a fresh folder has no target zone
+        zones.isUnsavedDueToTZC = item.zones.isUnsavedDueToTZC;
+        EXPECT_EQ(item.zones, zones) << name;
         for (const RecordedValue &kind : recordedValues()) {
             const LocatedBytes *mine = kind.find(item.singlePicAttributes);
             const LocatedBytes *its = kind.find(fresh.singlePicAttributes);

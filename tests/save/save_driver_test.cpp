@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "AlternativeReading.h"
 #include "SaveTest.h"
 
 namespace chronomender {
@@ -146,6 +147,16 @@ TEST_F(SaveDriverTest, ZoneChoiceMovesToTheSourceOnceItIsWritten) {
                                           {"TIFFDateTime", "2024:05:06 19:00:00"}}));
     EXPECT_EQ(session.folder().sourceTimeZones.folderDefault->persistedName(), "America/St_Johns");
     EXPECT_FALSE(session.folder().isUnsavedFolder());
+}
+
+TEST_F(SaveDriverTest, AChosenReadingEndsWithTheStampThatNeededIt) {
+    importPhoto({.original = "2024:10:27 02:30:00", .modified = "2024:10:27 02:30:00"});
+    MySinglePic &photo = session.item("a.jpg");
+    ASSERT_TRUE(changeAmbiguityCorrectionStateTo(photo, true, session.zones, session.undo));
+    shift(absl::Hours(24));
+    saves(); // 01:30 of the next day, which nobody can mistake
+    EXPECT_EQ(photo.spDateTimeOriginal, utc(2024, 10, 28, 0, 30));
+    EXPECT_EQ(photo.zones, ZoneFlags());
 }
 
 TEST_F(SaveDriverTest, SingleShiftsGoOnceTheyAreWritten) {
