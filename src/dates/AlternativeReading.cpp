@@ -75,6 +75,8 @@ bool changeAmbiguityCorrectionStateTo(MySinglePic &pic, bool isAlternative, cons
         correctAmbiguousDatesBy(pic, isAlternative ? kEarlierReading : -kEarlierReading);
     pic.zones.usesAltTimeAtAmbiguityReason = isAlternative ? 1 : 0;
     validateWithMaster(pic, zones);
+    const MySinglePicPtr master = pic.bundleMasterImage();
+    undo.recordAffected(master ? master : pic.shared_from_this());
     undo.registerUndo(pic.shared_from_this(), [isAlternative, &zones, &undo](MySinglePic &target) {
         changeAmbiguityCorrectionStateTo(target, !isAlternative, zones, undo);
     });

@@ -51,8 +51,6 @@ struct ZoneFlags {
     int usesAltTimeAtAmbiguityReason = 0;
     unsigned majorDateDifferenceType = 0; ///< bits of MajorDateDifference
     bool hasMinorDateDifference = false;  ///< the GPS time differs from a date without a zone
-
-    bool operator==(const ZoneFlags &) const = default;
 };
 
 /// What a movie says of itself.

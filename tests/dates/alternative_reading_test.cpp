@@ -118,8 +118,10 @@ TEST_F(AlternativeReading, IsUndoneAndRedoneToTheLastDate) {
 TEST_F(AlternativeReading, OfOneHalfMakesTheGroupDeviate) {
     use(Dependent);
     EXPECT_EQ(pic->zones.majorDateDifferenceType, kGroupDeviates);
+    EXPECT_EQ(undo.lastAffectedObject<MySinglePic>(), nullptr);
     undo.undo();
     EXPECT_EQ(pic->zones.majorDateDifferenceType, 0U);
+    EXPECT_EQ(undo.lastAffectedObject<MySinglePic>(), pic); // which a window shows
 }
 
 TEST_F(AlternativeReading, MovesNothingWhereAnotherZoneTookItsMeaning) {
