@@ -7,6 +7,7 @@
 
 #include <deque>
 #include <iterator>
+#include <unordered_set>
 #include <utility>
 
 namespace chronomender {
@@ -89,8 +90,10 @@ void ImportDriver::importEnded(const JobPtr &job, const ImportRequest &request,
                                ImportOutcome outcome) {
     addSubfolders(job, request, outcome);
     // What a dependent's own steps would take back belongs to its master now.
+    std::unordered_set<const void *> dependents;
     for (const MergedGroup &group : outcome.merged)
-        m_session.undo.removeAllActionsWithTarget(group.dependent.get());
+        dependents.insert(group.dependent.get());
+    m_session.undo.removeAllActionsWithTargets(dependents);
     if (m_delayedImports.isDelayed(*request.folder))
         m_delayedImports.hold(*request.folder, outcome.items);
     else

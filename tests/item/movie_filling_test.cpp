@@ -25,8 +25,7 @@ protected:
         auto header = reader.readMovieHeader(FileFormatQuickTime);
         EXPECT_TRUE(header);
         auto pic = MySinglePic::create("a.mov", folder, type, mainDate);
-        setMovieAttributes(*pic, *std::move(header), reader.readMovieDetails(),
-                           *folder, zones);
+        setMovieAttributes(*pic, *std::move(header), reader.readMovieDetails(), *folder, zones);
         setImageAttributesFromFileAttributes(
             *pic, {.size = 7, .modificationDate = fileDate, .birthDate = {}}, 3);
         return pic;
