@@ -39,7 +39,7 @@ SystemZoneChange::Pause SystemZoneChange::pause() {
         });
     };
     static constexpr bool onlyItsLifeCounts = true;
-    const Pause pause(&onlyItsLifeCounts, ended);
+    Pause pause(&onlyItsLifeCounts, ended);
     m_pause = pause;
     return pause;
 }

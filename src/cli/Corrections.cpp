@@ -78,20 +78,22 @@ private:
                           : std::nullopt;
     }
 
-    /// The name of one half of a group means the stamp of that file.
+    /// An item is one shot: both its files take the reading. The other half named by itself takes
+    /// it alone.
     std::optional<Complaint> useAlternative(const std::string &name) {
         const MySinglePicPtr pic = itemWithFile(m_folder, name);
         if (!pic)
             return noSuchPic(name);
-        const bool isDependent = pic->spName != name;
-        const MySinglePic &file = isDependent ? *pic->group.bundleDependentImage : *pic;
-        if (!isDateSourceAmbiguousAtImport(file))
+        const MySinglePicPtr &dependent = pic->group.bundleDependentImage;
+        const bool isMaster = isDateSourceAmbiguousAtImport(*pic);
+        const bool isDependent = dependent && isDateSourceAmbiguousAtImport(*dependent);
+        const bool isDependentNamed = pic->spName != name;
+        if (isDependentNamed ? !isDependent : !isMaster && !isDependent)
             return Complaint{2, text("cli_error_notAmbiguous", {printable(name)})};
-        const bool isMasterAmbiguous = isDateSourceAmbiguousAtImport(*pic);
-        m_controller.useAlternative({pic},
-                                    isDependent && isMasterAmbiguous ? AlternativeTarget::Dependent
-                                                                     : AlternativeTarget::Master,
-                                    true);
+        const auto target = !isMaster || !isDependent ? AlternativeTarget::Master
+                            : isDependentNamed        ? AlternativeTarget::Dependent
+                                                      : AlternativeTarget::Both;
+        m_controller.useAlternative({pic}, target, true);
         return std::nullopt;
     }
 

@@ -55,6 +55,7 @@ std::string PicLookup::namesOf(const std::vector<File> &files, const std::string
     for (const File &file : files)
         shown.insert(file.folder->sfFolder);
     std::vector<std::string> names;
+    names.reserve(files.size());
     for (const File &file : files)
         names.push_back(
             (shown.size() == files.size() ? file.folder->sfFolder : file.folder->sfFolderPath()) +

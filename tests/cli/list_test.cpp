@@ -147,6 +147,9 @@ TEST_F(Alerts, AlternativeIsTheEarlierReadingOfTheFileWithThatName) {
     EXPECT_THAT(seen["pair.CR2"], HasSubstr("repeatedTime: " + twice + "later one"));
     EXPECT_THAT(seen["pair.CR2"], HasSubstr("repeatedTime: pair.JPG: " + twice + "earlier one"));
     EXPECT_THAT(seen["pair.CR2"], HasSubstr("\n2024-10-27T01:40:00Z"));
+    // The item's own name means the shot.
+    EXPECT_EQ(list("--alternative pair.CR2")["pair.CR2"],
+              "repeatedTime: " + twice + "earlier one\n2024-10-27T00:40:00Z");
 }
 
 class EmptyTags : public MendTest {
