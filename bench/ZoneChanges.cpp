@@ -66,10 +66,9 @@ Conversions rereadAfterZoneChange() {
     const bool isHome = !folder->sourceTimeZones.folderDefault ||
                         *folder->sourceTimeZones.folderDefault == ZoneChoice::named(home);
     folder->sourceTimeZones.folderDefault = ZoneChoice::named(isHome ? away : home);
-    std::size_t changed = 0;
     const auto begin = Clock::now();
-    for (const MySinglePicPtr &pic : folder->sfPicDetails_fullArray)
-        changed += updateAllDatesAfterUpdatingTimezone(*pic, *folder, zones, threshold);
+    const std::size_t changed = updateAllDatesAfterUpdatingTimezone(folder->sfPicDetails_fullArray,
+                                                                    *folder, zones, threshold);
     const auto time = Clock::now() - begin;
     return {time, changed == itemCount ? stampSlots.size() * itemCount : 0};
 }

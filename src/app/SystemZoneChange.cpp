@@ -71,13 +71,15 @@ std::size_t SystemZoneChange::updateEveryFileDate() {
     const int threshold = m_defaults.integerForKey("dateComparisonThresold");
     std::size_t changed = 0;
     for (const MySingleFolderPtr &folder : m_droppedFolders.droppedFolders()) {
-        const std::size_t before = changed;
-        if (!folder->isEXIFIgnored)
-            for (const MySinglePicPtr &pic : folder->sfPicDetails_fullArray)
-                changed += updateAllDatesAfterUpdatingTimezone(*pic, *folder, m_zones, threshold);
+        const std::size_t inFolder =
+            folder->isEXIFIgnored
+                ? 0
+                : updateAllDatesAfterUpdatingTimezone(folder->sfPicDetails_fullArray, *folder,
+                                                      m_zones, threshold);
         validateTZCUnsaved(*folder, m_zones);
-        if (changed > before)
+        if (inFolder > 0)
             sfUpdatePicsFromAndTill(*folder);
+        changed += inFolder;
     }
     return changed;
 }

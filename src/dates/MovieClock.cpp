@@ -3,8 +3,6 @@
 
 #include "ZoneLookup.h"
 
-#include <algorithm>
-
 namespace chronomender {
 
 std::size_t setQuicktimeMVHDTimezoneCorrection(MySingleFolder &folder, bool isLocal,
@@ -12,11 +10,8 @@ std::size_t setQuicktimeMVHDTimezoneCorrection(MySingleFolder &folder, bool isLo
     if (folder.isQuicktimeMVHDTimezoneCorrectionEnabled == isLocal)
         return 0;
     folder.isQuicktimeMVHDTimezoneCorrectionEnabled = isLocal;
-    const auto changed =
-        std::ranges::count_if(folder.sfPicDetails_fullArray, [&](const MySinglePicPtr &pic) {
-            return updateAllDatesAfterUpdatingTimezone(*pic, folder, zones, dateComparisonThresold);
-        });
-    return static_cast<std::size_t>(changed);
+    return updateAllDatesAfterUpdatingTimezone(folder.sfPicDetails_fullArray, folder, zones,
+                                               dateComparisonThresold);
 }
 
 } // namespace chronomender

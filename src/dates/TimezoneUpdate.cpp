@@ -5,6 +5,7 @@
 #include "DaylightSavingChecks.h"
 #include "ItemDates.h"
 #include "MovieStampConversions.h"
+#include "Parallel.h"
 #include "SourceSlot.h"
 #include "StampConversions.h"
 #include "XmpStampConversions.h"
@@ -199,6 +200,17 @@ bool updateAllDatesAfterUpdatingTimezone(MySinglePic &pic, const MySingleFolder 
                                          const Zones &zones, int dateComparisonThresold) {
     return updateAllDatesAfterUpdatingTimezoneUsingTimeZone(
         pic, sourceTimeZoneForPic(pic, folder, zones), folder, zones, dateComparisonThresold);
+}
+
+std::size_t updateAllDatesAfterUpdatingTimezone(const std::vector<MySinglePicPtr> &pics,
+                                                const MySingleFolder &folder, const Zones &zones,
+                                                int dateComparisonThresold) {
+    std::vector<unsigned char> didChange(pics.size());
+    parallelFor(pics.size(), [&](std::size_t i) {
+        didChange[i] =
+            updateAllDatesAfterUpdatingTimezone(*pics[i], folder, zones, dateComparisonThresold);
+    });
+    return static_cast<std::size_t>(std::ranges::count(didChange, true));
 }
 
 } // namespace chronomender

@@ -49,14 +49,12 @@ std::size_t changeAndReadAgain(MySingleFolder &folder, const std::vector<MySingl
     for (const MySinglePicPtr &pic : masters)
         before.push_back(sourceTimeZoneForPic(*pic, folder, zones).name);
     change();
-    std::size_t changed = 0;
-    for (std::size_t i = 0; i < masters.size(); ++i) {
-        MySinglePic &pic = *masters[i];
-        const Zone &source = sourceTimeZoneForPic(pic, folder, zones);
-        if (source.name != before[i] && updateAllDatesAfterUpdatingTimezoneUsingTimeZone(
-                                            pic, source, folder, zones, dateComparisonThresold))
-            ++changed;
-    }
+    std::vector<MySinglePicPtr> moved;
+    for (std::size_t i = 0; i < masters.size(); ++i)
+        if (sourceTimeZoneForPic(*masters[i], folder, zones).name != before[i])
+            moved.push_back(masters[i]);
+    const std::size_t changed =
+        updateAllDatesAfterUpdatingTimezone(moved, folder, zones, dateComparisonThresold);
     validateTZCUnsaved(folder, zones);
     return changed;
 }

@@ -76,6 +76,11 @@ bool hasAnyTimeZoneChangeForPic(const MySinglePic &pic, const ZoneSides &sides, 
 /// moves types that depend on the file date. True when anything the user sees changed.
 bool updateAllDatesAfterUpdatingTimezone(MySinglePic &pic, const MySingleFolder &folder,
                                          const Zones &zones, int dateComparisonThresold);
+/// The same for items of one folder, each group once, on all processors while the caller waits.
+/// The number of items where anything changed.
+std::size_t updateAllDatesAfterUpdatingTimezone(const std::vector<MySinglePicPtr> &pics,
+                                                const MySingleFolder &folder, const Zones &zones,
+                                                int dateComparisonThresold);
 /// The same in a given zone: after a save, while the folder's default has not moved yet.
 bool updateAllDatesAfterUpdatingTimezoneUsingTimeZone(MySinglePic &pic, const Zone &sourceZone,
                                                       const MySingleFolder &folder,

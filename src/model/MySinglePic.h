@@ -157,14 +157,15 @@ public:
     Date spDateTimeModified_tempFIX; ///< corrected date of one calculation
 
     // ---- state
-    SinglePicAttributes singlePicAttributes;
-    std::vector<Finding> findings; ///< what the reader refused or tolerated
+    // A change of zone reads these of every item: they stand beside the stamps.
     DateSlots slots;
     Shift shift;
     XmpFlags xmp;
     ZoneFlags zones;
     GroupLink group;
     LocationState location;
+    SinglePicAttributes singlePicAttributes;
+    std::vector<Finding> findings; ///< what the reader refused or tolerated
     SaveState save;
     ImportState importState;
     ListPositions positions;
