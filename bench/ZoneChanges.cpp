@@ -55,6 +55,28 @@ bool isConvertedRightly(std::size_t first, std::size_t count, const absl::TimeZo
     return true;
 }
 
+/// The same conversions on each thread, with one zone for all.
+Conversions oneParallelRun(std::size_t threads) {
+    // Long enough that the waking of a second processor does not count.
+    constexpr std::size_t rounds = 100, count = 10'000;
+    const absl::TimeZone zone = Zones().zoneWithName("Europe/Berlin")->rules;
+    std::atomic<bool> isRight = true;
+    Clock::time_point begin;
+    std::barrier start(static_cast<std::ptrdiff_t>(threads),
+                       [&]() noexcept { begin = Clock::now(); });
+    std::vector<std::jthread> workers;
+    for (std::size_t t = 0; t < threads; ++t)
+        workers.emplace_back([&, t] {
+            start.arrive_and_wait();
+            for (std::size_t round = 0; round < rounds; ++round)
+                if (!isConvertedRightly(t * count, count, zone))
+                    isRight = false;
+        });
+    workers.clear();
+    // Three conversions for each date: from a clock, to a stamp, and back.
+    return {Clock::now() - begin, isRight ? 3 * rounds * count : 0};
+}
+
 } // namespace
 
 Conversions rereadAfterZoneChange() {
@@ -74,23 +96,14 @@ Conversions rereadAfterZoneChange() {
 }
 
 Conversions parallelConversions(std::size_t threads) {
-    constexpr std::size_t rounds = 40, count = 10'000;
-    const absl::TimeZone zone = Zones().zoneWithName("Europe/Berlin")->rules;
-    std::atomic<bool> isRight = true;
-    Clock::time_point begin;
-    std::barrier start(static_cast<std::ptrdiff_t>(threads),
-                       [&]() noexcept { begin = Clock::now(); });
-    std::vector<std::jthread> workers;
-    for (std::size_t t = 0; t < threads; ++t)
-        workers.emplace_back([&, t] {
-            start.arrive_and_wait();
-            for (std::size_t round = 0; round < rounds; ++round)
-                if (!isConvertedRightly(t * count, count, zone))
-                    isRight = false;
-        });
-    workers.clear();
-    // Three conversions for each date: from a clock, to a stamp, and back.
-    return {Clock::now() - begin, isRight ? 3 * rounds * count : 0};
+    // The fastest of some runs: other tenants of the machine only ever add to one.
+    constexpr int runs = 9;
+    Conversions fastest = oneParallelRun(threads);
+    for (int run = 1; run < runs && fastest.count > 0; ++run)
+        if (const Conversions next = oneParallelRun(threads);
+            next.count == 0 || next.time < fastest.time)
+            fastest = next;
+    return fastest;
 }
 
 } // namespace chronomender::bench
