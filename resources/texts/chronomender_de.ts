@@ -602,6 +602,21 @@ Beispiele:
     <message id="errorPanelDescriptionText_ID23">
         <translation>Das System hat das Schreiben verweigert. Was schon in der Datei stand, wurde zurückgenommen.</translation>
     </message>
+    <message id="errorPanelDescriptionText_ID25">
+        <translation>ExifTool hat diese Dateien nicht geschrieben. Sie sind, wie sie waren; ExifTools eigene Worte stehen dahinter.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID26">
+        <translation>Diese Dateien brauchen ExifTool, das nicht gefunden wurde. Installiere das Paket „libimage-exiftool-perl“ oder nenne das Programm in der Einstellung „exifToolPath“.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID27">
+        <translation>Ein anderes Programm schreibt gerade in diese Dateien. Sichere noch einmal, wenn es fertig ist.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID28">
+        <translation>Die Notiz, die eine Wiederherstellung braucht, ließ sich nicht schreiben; darum blieben diese Dateien unberührt. Schaffe Platz im persönlichen Ordner.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID29">
+        <translation>Eine andere Datei hat während des Sicherns den Platz dieser Dateien eingenommen. Importiere den Ordner neu.</translation>
+    </message>
     <message id="errorPanelDescriptionText_ID3">
         <translation>Die Datei wurde seit dem Einlesen von einem anderen Programm geändert. Sie wurde nicht angerührt. Lesen Sie ihren Ordner neu ein, um mit ihrem jetzigen Zustand zu arbeiten.</translation>
     </message>
@@ -805,6 +820,9 @@ Beispiele:
     </message>
     <message id="saveObstacle_notYetWritable">
         <translation>diese Version schreibt Zeiten dieser Art noch nicht</translation>
+    </message>
+    <message id="saveObstacle_outOfRange">
+        <translation>der Kopf des Films kann dieses Datum nicht aufnehmen (1904 bis 2040)</translation>
     </message>
     <message id="saveObstacle_unreadableBack">
         <translation>die neue Zeit lässt sich nicht so schreiben, dass sie wieder denselben Zeitpunkt ergibt</translation>

@@ -602,6 +602,21 @@ Examples:
     <message id="errorPanelDescriptionText_ID23">
         <translation>The system refused to write. What had been written to the file was taken back.</translation>
     </message>
+    <message id="errorPanelDescriptionText_ID25">
+        <translation>ExifTool did not write these files. They are as they were; ExifTool's own words stand behind each.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID26">
+        <translation>These files need ExifTool, which was not found. Install the package “libimage-exiftool-perl”, or name the program in the preference “exifToolPath”.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID27">
+        <translation>Another program is writing these files just now. Save again when it is done.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID28">
+        <translation>The note that a recovery needs could not be written, so these files were not touched. Make room in the home folder.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID29">
+        <translation>Another file took the place of these files while they were being saved. Import the folder again.</translation>
+    </message>
     <message id="errorPanelDescriptionText_ID3">
         <translation>The file was changed by another program since it was read. It was not touched. Read its folder again to work with it as it is now.</translation>
     </message>
@@ -805,6 +820,9 @@ Examples:
     </message>
     <message id="saveObstacle_notYetWritable">
         <translation>this version does not write dates of this kind yet</translation>
+    </message>
+    <message id="saveObstacle_outOfRange">
+        <translation>the movie's header cannot hold this date (1904 to 2040)</translation>
     </message>
     <message id="saveObstacle_unreadableBack">
         <translation>the new date cannot be written so that it reads back as the same moment</translation>

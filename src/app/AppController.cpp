@@ -21,9 +21,12 @@ AppController::AppController(AppServices services, ImportQuestions &questions)
       m_systemZoneChange(*m_services.zones, *m_services.defaults, m_droppedFolders, m_services.now),
       m_importDriver({*m_services.zones, *m_services.defaults, questions, m_cancellation, m_undo,
                       m_droppedFolders}),
+      m_journal(supportFolder()),
+      m_tool(
+          {supportFolder(), [this] { return m_services.defaults->stringForKey("exifToolPath"); }}),
       m_saveDriver(m_droppedFolders.droppedFolders(),
                    SaveServices{*m_services.files, *m_services.zones, *m_services.defaults, m_undo,
-                                m_cancellation, m_services.now,
+                                m_cancellation, m_journal, m_tool, m_services.now,
                                 [this](std::size_t done, std::size_t total) {
                                     if (m_saveProgress)
                                         m_saveProgress(done, total);

@@ -124,6 +124,8 @@ private:
     SourceBuilder m_source;
     ImportDriver m_importDriver;
     Progress m_saveProgress;
+    RunJournal m_journal;
+    XtController m_tool;
     SaveDriver m_saveDriver;
     WorkThread m_saveWorker;
 };

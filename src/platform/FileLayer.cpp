@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <locale.h>
 #include <string.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -38,6 +39,7 @@ public:
     std::optional<FileAttributes> attributes() override;
     bool setModificationDate(Date date) override;
     bool sync() override;
+    LockResult lockExclusively() override;
     FileError lastError() const override { return m_lastError; }
     int descriptor() const override { return m_descriptor; }
 
@@ -113,6 +115,13 @@ bool SystemFile::setModificationDate(Date date) {
 
 bool SystemFile::sync() {
     return retryInterrupted([&] { return fsync(m_descriptor); }) == 0 || failed(errno);
+}
+
+LockResult SystemFile::lockExclusively() {
+    if (retryInterrupted([&] { return flock(m_descriptor, LOCK_EX | LOCK_NB); }) == 0)
+        return LockResult::Locked;
+    failed(errno);
+    return errno == EWOULDBLOCK ? LockResult::HeldByAnother : LockResult::NotSupported;
 }
 
 class SystemFileLayer final : public FileLayer {

@@ -34,6 +34,9 @@ struct FileError {
     std::string text() const;
 };
 
+/// NotSupported: the file system has no such locks, so nobody can hold one.
+enum class LockResult : std::uint8_t { Locked, HeldByAnother, NotSupported };
+
 /// An open file. Closing happens with the object. All operations retry on EINTR. One thread at a
 /// time.
 class OpenFile {
@@ -51,6 +54,9 @@ public:
     virtual bool setModificationDate(Date date) = 0;
     /// Waits until data and times have reached the disk.
     virtual bool sync() = 0;
+    /// Keeps other programs that ask the same away from the file, as long as this object lives. The
+    /// lock is advisory and never waited for.
+    virtual LockResult lockExclusively() = 0;
     /// The error of the last operation that failed.
     virtual FileError lastError() const = 0;
     virtual int descriptor() const = 0;

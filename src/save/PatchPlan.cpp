@@ -88,6 +88,8 @@ std::string_view textKey(PlanObstacle obstacle) {
         return "saveObstacle_valuesCollide";
     case PlanObstacle::NotAccepted:
         return "saveObstacle_notAccepted";
+    case PlanObstacle::OutOfRange:
+        return "saveObstacle_outOfRange";
     case PlanObstacle::NotYetWritable:
         return "saveObstacle_notYetWritable";
     }
@@ -99,7 +101,9 @@ PlanContext::PlanContext(const MySingleFolder &theFolder, const Zones &theZones,
     : folder(theFolder),
       zones(theZones),
       syncGPSDataOnSave(defaults.boolForKey("syncGPSDataOnSave")),
-      syncGPSDataOnSaveType(defaults.boolForKey("syncGPSDataOnSaveType")) {}
+      syncGPSDataOnSaveType(defaults.boolForKey("syncGPSDataOnSaveType")),
+      syncXMPDataOnSave(defaults.boolForKey("syncXMPDataOnSave")),
+      shouldSupportXmpSave(defaults.boolForKey("shouldSupportXmpSave")) {}
 
 PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context) {
     PatchPlan plan;

@@ -5,6 +5,7 @@
 #include "Patch.h"
 #include "SaveErrors.h"
 #include "SaveOutcome.h"
+#include "ToolAction.h"
 #include "UserDefaults.h"
 #include "Zones.h"
 
@@ -23,6 +24,7 @@ enum class PlanObstacle : std::uint8_t {
     ValuesCollide,  ///< two values of the file share bytes and want different ones
     NotAccepted,    ///< it would do what nobody accepted
     NotYetWritable, ///< this version does not write dates of this kind
+    OutOfRange,     ///< a movie header cannot hold the date
 };
 /// Text key of an obstacle, for example "saveObstacle_noRoom"; "" for none.
 std::string_view textKey(PlanObstacle obstacle);
@@ -30,6 +32,7 @@ std::string_view textKey(PlanObstacle obstacle);
 /// What is to become of one stamp.
 struct StampPlan {
     SlotResult result = SlotResult::Unchanged;
+    PlanObstacle obstacle = PlanObstacle::None; ///< why the slot is refused
     /// The instant that the stamp stands for after the save; none where nothing is recorded.
     OptionalDate readBack;
     bool isAmbiguous = false;          ///< it reads back as another instant, and that is known
@@ -43,9 +46,10 @@ struct PatchPlan {
     std::vector<Patch> patches;                      ///< only those that change a byte
     OptionalDate modificationDate;                   ///< none: the file's times stay as they are
     OptionalDate newGpsDate;                         ///< none: the GPS stamps stay
+    std::optional<ToolAction> toolAction; ///< what the external tool does, behind the patches
     PlanObstacle obstacle = PlanObstacle::None;
 
-    bool isEmpty() const { return patches.empty() && !modificationDate; }
+    bool isEmpty() const { return patches.empty() && !modificationDate && !toolAction; }
 };
 
 /// What a plan needs to know beside the item.
@@ -54,6 +58,8 @@ struct PlanContext {
     const Zones &zones;
     bool syncGPSDataOnSave = true;
     bool syncGPSDataOnSaveType = true;
+    bool syncXMPDataOnSave = false;
+    bool shouldSupportXmpSave = true;
 
     PlanContext(const MySingleFolder &folder, const Zones &zones, const UserDefaults &defaults);
 };

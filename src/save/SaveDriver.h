@@ -5,10 +5,12 @@
 #include "FileLayer.h"
 #include "MySingleFolder.h"
 #include "NewDates.h"
+#include "RunJournal.h"
 #include "SaveErrors.h"
 #include "SaveOutcome.h"
 #include "UndoManager.h"
 #include "UserDefaults.h"
+#include "XtController.h"
 #include "Zones.h"
 
 #include <atomic>
@@ -57,6 +59,8 @@ struct SaveServices {
     const UserDefaults &defaults;
     UndoManager &undo;
     const Cancellation &cancellation;
+    RunJournal &journal;
+    XtController &tool;
     std::function<Date()> now;
     std::function<void(std::size_t done, std::size_t total)>
         progress; ///< any worker thread; may be empty

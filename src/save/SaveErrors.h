@@ -44,14 +44,20 @@ enum class SaveErrorId : int {
     CannotBeOpened = 2,
     ChangedSinceImport = 3,
     NotReachable = 4,
+    SyncCannotBeOpened = 6, ///< the XMP sync could not open the file
     SidecarCannotBeOpened = 7,
     CannotBeOpenedChecking = 10,
     ChangedSinceImportChecking = 11,
     NotReachableChecking = 12,
     SidecarMissing = 15,
     NotWrittenUnreadableBack =
-        21,           ///< a stamp built for it does not read back as the wanted instant
-    WriteFailed = 23, ///< the system refused a write in the middle of an item
+        21,                 ///< a stamp built for it does not read back as the wanted instant
+    WriteFailed = 23,       ///< the system refused a write in the middle of an item
+    ToolFailed = 25,        ///< the external tool did not write the file
+    ToolMissing = 26,       ///< there is no external tool, and the item needs it
+    InUse = 27,             ///< another program is writing the file
+    IntentNotKept = 28,     ///< the record that a recovery needs could not be written
+    ReplacedMeanwhile = 29, ///< between proof and write another file took its place
 };
 
 struct SaveError {

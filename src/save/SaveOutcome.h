@@ -11,11 +11,18 @@ namespace chronomender {
 
 struct PatchPlan;
 
-enum class SlotResult : std::uint8_t { Unchanged, WrittenInPlace, Refused, NotStorable };
+enum class SlotResult : std::uint8_t {
+    Unchanged,
+    WrittenInPlace,
+    WrittenByTool, ///< by the external tool, which may make the file longer
+    Refused,
+    NotStorable, ///< there is a new date, and this system has no place for it
+};
 struct SlotOutcome {
     std::string_view slot; ///< name of the slot, from `slotDescriptions`
     OptionalDate oldDate, newDate;
     SlotResult result = SlotResult::Unchanged;
+    std::string_view reasonKey = {}; ///< text key of why it was refused; "" for none
 };
 
 enum class ItemResult : std::uint8_t {

@@ -83,6 +83,7 @@ private:
                                                       : m_file->setModificationDate(date);
         }
         bool sync() override { return m_file->sync(); }
+        LockResult lockExclusively() override { return m_file->lockExclusively(); }
         FileError lastError() const override {
             return m_error.code != 0 ? m_error : m_file->lastError();
         }

@@ -67,8 +67,11 @@ public:
     PerFolderImportOptions emptyTags;
     Date now = utc(2024, 8, 1, 12);
     Date fileDate = utc(2024, 5, 6, 20) + absl::Milliseconds(500);
-    SaveDriver driver{folders,
-                      {files, zones, defaults, undo, cancellation, [this] { return now; }, {}}};
+    RunJournal journal{disk.path("support"), RunJournal::Durability::Unsynced};
+    XtController tool{{disk.path("support")}};
+    SaveDriver driver{
+        folders,
+        {files, zones, defaults, undo, cancellation, journal, tool, [this] { return now; }, {}}};
 
     MovieOptions movieOptions(const MySingleFolder &) override { return movieAnswer; }
     MovieOptions movieAnswer;

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "FileLayer.h"
+#include "Patch.h"
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace chronomender {
+
+/// What is about to be done to one file.
+struct FileIntent {
+    std::string path;
+    FileAttributes before; ///< as proved; the file's identity and size, and its modification date
+    std::vector<Patch> patches;
+    OptionalDate modificationDate; ///< set behind the last value; none: left to the system
+    /// Where the external tool writes its copy before that takes the file's place, as the last
+    /// step;
+    /// "" when the tool has nothing to do. Nothing stood there before.
+    std::string toolCopy;
+};
+/// Files that are written together or not at all: an item, or the two of a group.
+struct UnitIntent {
+    std::vector<FileIntent> files;
+};
+
+/// What became of one file of an interrupted run.
+struct RecoveredFile {
+    enum class Result : std::uint8_t {
+        Nothing,     ///< it was as before, or done; nothing was written
+        Completed,   ///< it holds the new values now
+        TakenBack,   ///< it holds the old values again
+        Changed,     ///< somebody else has changed it since: left alone, and forgotten
+        Unreachable, ///< not there now; tried again at the next start
+        InUse,       ///< another program holds it; likewise
+        WriteFailed, ///< the system refused a write; likewise
+    };
+    std::string path;
+    Result result = Result::Nothing;
+    std::string systemText; ///< the system's own words where it refused something; else ""
+};
+/// Text key of a result, for example "recovery_completed".
+std::string_view textKey(RecoveredFile::Result result);
+
+/// The record of what a run is about to write, so that a run that was killed can be put right:
+/// after `recover` each file is entirely old or entirely new.
+///
+/// One file for each running program in the folder `journal` of the support folder, locked while
+/// the program lives. One batch of units at a time; made, used and destroyed on one thread.
+/// `recover` may be called by any program at any time: it passes over the records of programs that
+/// live.
+///
+///     RunJournal journal(supportFolder());
+///     if (journal.begin(intents, &error)) { write and sync all files; journal.settle(); }
+class RunJournal {
+public:
+    /// Unsynced survives the death of the program, and not that of the system.
+    enum class Durability : bool { Unsynced, Synced };
+    explicit RunJournal(std::string supportFolder, Durability durability = Durability::Synced);
+    /// Removes its file unless units stay recorded.
+    ~RunJournal();
+    RunJournal(const RunJournal &) = delete;
+    RunJournal &operator=(const RunJournal &) = delete;
+
+    Durability durability() const { return m_durability; }
+
+    /// Records the batch in the place of the last one. When it answers true the record is on disk;
+    /// false: nothing may be written.
+    bool begin(std::span<const UnitIntent> units, FileError *error = nullptr);
+    /// The batch is written and its files are safe, but for the units with these indices: they stay
+    /// recorded for `recover`.
+    void settle(std::span<const std::size_t> unsettled = {});
+
+    /// Puts right what interrupted runs left: a unit of which any value is new is completed, unless
+    /// the tool had still to run, then it is taken back. Every value is proved to be old, new or
+    /// torn between the two first. Tells of every file that was recorded and not settled.
+    static std::vector<RecoveredFile> recover(const std::string &supportFolder, FileLayer &files);
+    /// A run was interrupted and is not put right yet. Cheap.
+    static bool hasUnfinished(const std::string &supportFolder);
+    /// Drops records that `recover` could not put right; the number of files given up.
+    static std::size_t forget(const std::string &supportFolder);
+
+private:
+    std::string m_folder;
+    Durability m_durability;
+};
+
+} // namespace chronomender
