@@ -111,7 +111,8 @@ void AppController::startWatchingSystemZone() {
 
 NewDateContext AppController::liveContext() const {
     NewDateContext context = chronomender::liveContext(*m_services.defaults, m_services.now());
-    context.isSavingInProgress = m_saveWorker.isBusy();
+    // The worker is busy from the moment of asking on.
+    context.isSavingInProgress = m_saveWorker.isBusy() || m_saveDriver.isSavingInProgress();
     return context;
 }
 

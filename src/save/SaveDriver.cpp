@@ -14,18 +14,6 @@ namespace {
 
 constexpr std::size_t kPreProcessStep = 100;
 
-/// Both stages and the question between them are one save; each stage ends its part.
-class InProgress {
-public:
-    explicit InProgress(std::atomic<bool> &flag) : m_flag(flag) { m_flag = true; }
-    ~InProgress() { m_flag = false; }
-    InProgress(const InProgress &) = delete;
-    InProgress &operator=(const InProgress &) = delete;
-
-private:
-    std::atomic<bool> &m_flag;
-};
-
 bool isSavingType(SaveProcessType type) {
     return type != SaveProcessType::Rename;
 }
@@ -35,8 +23,14 @@ bool isSavingType(SaveProcessType type) {
 SaveDriver::SaveDriver(const std::vector<MySingleFolderPtr> &folders, SaveServices services)
     : m_folders(folders), m_services(std::move(services)) {}
 
-bool SaveDriver::isSavingInProgress() const {
-    return m_isSavingInProgress;
+std::shared_ptr<const void> SaveDriver::beginPartOfSave() {
+    const unsigned own = ++m_lastSave;
+    *m_saveInProgress = own;
+    const auto end = [current = m_saveInProgress, own](const void *) {
+        unsigned expected = own;
+        current->compare_exchange_strong(expected, 0);
+    };
+    return {m_saveInProgress.get(), end};
 }
 
 std::size_t SaveDriver::piValueForCount(std::size_t count) {
@@ -58,10 +52,10 @@ std::vector<MySingleFolderPtr> SaveDriver::foldersToSave(const SaveRequest &requ
 }
 
 PreProcessResult SaveDriver::preProcessThread(const SaveRequest &request) {
-    const InProgress inProgress(m_isSavingInProgress);
     PreProcessResult result;
     if (!isSavingType(request.type))
         return result;
+    result.savingInProgress = beginPartOfSave();
     std::vector<std::vector<MySinglePicPtr>> items;
     std::size_t total = 0;
     mainThread::callAndWait([&] {
@@ -86,7 +80,7 @@ PreProcessResult SaveDriver::preProcessThread(const SaveRequest &request) {
 
 SaveRunResult SaveDriver::continueProcessThread(const SaveRequest &request,
                                                 const PreProcessResult &preProcess) {
-    const InProgress inProgress(m_isSavingInProgress);
+    const auto inProgress = beginPartOfSave();
     SaveRunResult result;
     if (!isSavingType(request.type))
         return result;

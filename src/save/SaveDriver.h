@@ -39,6 +39,8 @@ struct PreProcessResult {
     /// What was calculated holds in the present zones: whoever owns the zones keeps them so as long
     /// as this lives.
     std::shared_ptr<const void> zonePause = {};
+    /// The save is in progress as long as this lives, at most until stage two has ended.
+    std::shared_ptr<const void> savingInProgress = {};
 };
 
 struct SaveRunResult {
@@ -73,7 +75,8 @@ class SaveDriver {
 public:
     SaveDriver(const std::vector<MySingleFolderPtr> &folders, SaveServices services);
 
-    bool isSavingInProgress() const;
+    /// Spans both stages and the question between them. Any thread.
+    bool isSavingInProgress() const { return *m_saveInProgress != 0; }
 
     /// Stage one: proves every file unchanged, calculates every new date, checks what was
     /// calculated.
@@ -88,10 +91,14 @@ public:
 
 private:
     std::vector<MySingleFolderPtr> foldersToSave(const SaveRequest &request) const;
+    std::shared_ptr<const void> beginPartOfSave();
 
     const std::vector<MySingleFolderPtr> &m_folders;
     SaveServices m_services;
-    std::atomic<bool> m_isSavingInProgress{false};
+    using SaveNumber = std::atomic<unsigned>;
+    /// 0: none. Results may outlive the driver and a later save, so they share and compare it.
+    std::shared_ptr<SaveNumber> m_saveInProgress = std::make_shared<SaveNumber>(0);
+    unsigned m_lastSave = 0;
 };
 
 } // namespace chronomender

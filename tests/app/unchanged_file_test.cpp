@@ -57,5 +57,21 @@ TEST_F(UnchangedFile, ChangedBetweenTheTwoStagesIsRefusedAndLeftAlone) {
     EXPECT_TRUE(app().source_full().at(0)->isUnsavedOrGroupHarmonized());
 }
 
+TEST_F(UnchangedFile, IsBeingSavedFromTheFirstStageUntilThePlanIsGivenUpOrCarriedOut) {
+    const auto isSaving = [&] { return app().liveContext().isSavingInProgress; };
+    EXPECT_FALSE(isSaving());
+    {
+        const PreProcessResult givenUp = preProcess();
+        EXPECT_TRUE(isSaving()); // while a person is asked
+    }
+    EXPECT_FALSE(isSaving());
+    PreProcessResult older = preProcess();
+    const PreProcessResult plan = preProcess();
+    older = {};
+    EXPECT_TRUE(isSaving());
+    goOn(plan);
+    EXPECT_FALSE(isSaving());
+}
+
 } // namespace
 } // namespace chronomender
