@@ -809,6 +809,9 @@ Beispiele:
     <message id="saveObstacle_fileDateNotKept">
         <translation>der Datenträger kann diese Zeit nicht aufnehmen</translation>
     </message>
+    <message id="saveObstacle_noChunk">
+        <translation>ein Wert steht in keinem Teil der PNG-Datei, dessen Prüfsumme sich erneuern ließe</translation>
+    </message>
     <message id="saveObstacle_noRoom">
         <translation>das Feld der Zeit ist zu kurz</translation>
     </message>

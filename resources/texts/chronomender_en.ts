@@ -809,6 +809,9 @@ Examples:
     <message id="saveObstacle_fileDateNotKept">
         <translation>the disk cannot keep this date</translation>
     </message>
+    <message id="saveObstacle_noChunk">
+        <translation>a value stands in no part of the PNG file whose checksum could be renewed</translation>
+    </message>
     <message id="saveObstacle_noRoom">
         <translation>the field of the date is too short</translation>
     </message>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "InPlacePatcher.h"
+#include "FileWrite.h"
 #include "PatchPlan.h"
 #include "UndoManager.h"
 #include "UserDefaults.h"

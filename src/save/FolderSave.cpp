@@ -2,9 +2,9 @@
 #include "FolderSave.h"
 
 #include "AfterSave.h"
+#include "BatchWriter.h"
 #include "CompoundLivePhotos.h"
 #include "MainThread.h"
-#include "Parallel.h"
 #include "Texts.h"
 
 #include <algorithm>
@@ -21,8 +21,8 @@ ItemResult resultOf(const PatchOutcome &outcome) {
     return hasProofFailed ? ItemResult::Refused : ItemResult::Failed;
 }
 
-bool isSuccess(const PatchOutcome &outcome) {
-    return !outcome.error;
+bool isWritten(SlotResult result) {
+    return result == SlotResult::WrittenInPlace || result == SlotResult::WrittenByTool;
 }
 
 } // namespace
@@ -34,77 +34,93 @@ FolderSave::FolderSave(const MySingleFolderPtr &folder, std::span<const ItemOutc
 void FolderSave::run(ProgressCounter &progress, SaveRunResult &result) {
     m_reachablePath = m_folder->unlockedSecUrl();
     m_path = m_reachablePath.value_or(m_folder->sfFolderPath());
-    const std::vector<Items> all = units();
-    std::vector<Step> steps(m_items.size());
-    const auto placeOf = [this](Items unit) {
-        return static_cast<std::size_t>(unit.data() - m_items.data());
-    };
-    const std::size_t doneUnits = parallelFor(
-        all.size(),
-        [&](std::size_t i) {
-            const Steps ofUnit = Steps(steps).subspan(placeOf(all[i]), all[i].size());
-            save(all[i], ofUnit);
-            report(all[i], ofUnit);
-            std::for_each(ofUnit.begin(), ofUnit.end(), [&](const Step &) { progress.oneDone(); });
-        },
-        [&] { return m_services.cancellation.isRequested(); });
-    const std::size_t done = doneUnits < all.size() ? placeOf(all[doneUnits]) : m_items.size();
-    steps.resize(done);
-    const bool isAnythingWritten =
-        std::any_of(steps.begin(), steps.end(), [](const Step &s) { return s.outcome.isWritten; });
-    if (isAnythingWritten && m_request.type == SaveProcessType::Save)
+    std::vector<Step> all = steps();
+    refuseObstructed(all);
+    write(all, progress);
+    report(all);
+    const auto any = [&](auto isSo) { return std::any_of(all.begin(), all.end(), isSo); };
+    if (any([](const Step &step) { return step.outcome.isWritten; }) &&
+        m_request.type == SaveProcessType::Save)
         (void)m_services.files.touchDirectory(m_path);
-    if (done > 0)
-        mainThread::callAndWait([&] { applyToModel(steps); });
-    for (Step &step : steps) {
+    if (any([](const Step &step) { return step.isReached; }))
+        mainThread::callAndWait([&] { applyToModel(all); });
+    for (Step &step : all) {
         // What a half says of the other's error is the same error.
         if (!step.outcome.isOfOtherHalf)
             result.errors.insert(result.errors.end(), step.report.errors.begin(),
                                  step.report.errors.end());
+        result.wasCancelled = result.wasCancelled || !step.isReached;
         result.items.push_back(std::move(step.report));
     }
-    for (const ItemOutcome &item : m_items.subspan(done))
-        result.items.push_back({item.pic, ItemResult::NotReached, item.slots, {}, {}});
-    result.wasCancelled = result.wasCancelled || done < m_items.size();
 }
 
-std::vector<FolderSave::Items> FolderSave::units() const {
-    std::vector<Items> all;
-    all.reserve(m_items.size());
-    for (std::size_t i = 0; i < m_items.size(); i += all.back().size()) {
-        const bool isPair = i + 1 < m_items.size() &&
-                            m_items[i + 1].pic->group.bundleDependentImage == m_items[i].pic;
-        all.push_back(m_items.subspan(i, isPair ? 2 : 1));
+/// A group's dependent stands right before its master.
+std::vector<FolderSave::Step> FolderSave::steps() const {
+    std::vector<Step> all(m_items.size());
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const bool isMaster =
+            i > 0 && m_items[i].pic->group.bundleDependentImage == m_items[i - 1].pic;
+        all[i].item = &m_items[i];
+        all[i].group = isMaster ? i - 1 : i;
     }
     return all;
 }
 
-void FolderSave::save(Items unit, Steps steps) const {
+std::size_t FolderSave::sizeOfGroup(const std::vector<Step> &steps, std::size_t first) {
+    return first + 1 < steps.size() && steps[first + 1].group == first ? 2 : 1;
+}
+
+/// What keeps one file of a group from being written keeps the other.
+void FolderSave::refuseObstructed(std::vector<Step> &steps) const {
     const Step *obstructed = nullptr;
-    for (std::size_t i = 0; i < unit.size(); ++i) {
-        steps[i].plan = unit[i].plan.get();
-        if (auto obstacle = obstacleOf(unit[i])) {
-            steps[i].outcome = *std::move(obstacle);
-            obstructed = &steps[i];
-        }
-    }
-    if (obstructed) {
-        for (Step &step : steps)
-            if (isSuccess(step.outcome)) {
+    for (std::size_t first = 0; first < steps.size(); first += sizeOfGroup(steps, first)) {
+        const std::span<Step> group(&steps[first], sizeOfGroup(steps, first));
+        for (Step &step : group)
+            if (auto obstacle = obstacleOf(*step.item)) {
+                step.outcome = *std::move(obstacle);
+                obstructed = &step;
+            }
+        if (!obstructed)
+            continue;
+        for (Step &step : group) {
+            step.isReached = true;
+            if (!step.outcome.error) {
                 step.outcome.error = obstructed->outcome.error;
                 step.outcome.isOfOtherHalf = true;
             }
-    } else if (unit.size() == 1) {
-        steps[0].outcome = patchFile(jobOf(unit[0]), m_services.files);
-    } else {
-        PairOutcome pair = patchPair(jobOf(unit[0]), jobOf(unit[1]), m_services.files);
-        steps[0].outcome = std::move(pair.dependent);
-        steps[1].outcome = std::move(pair.master);
+        }
+        obstructed = nullptr;
     }
 }
 
-PatchJob FolderSave::jobOf(const ItemOutcome &item) const {
-    return {*item.pic, m_path + '/' + item.pic->spName, *item.plan};
+void FolderSave::write(std::vector<Step> &steps, ProgressCounter &progress) const {
+    std::vector<WriteUnit> units;
+    std::vector<std::size_t> firstSteps;
+    units.reserve(steps.size());
+    firstSteps.reserve(steps.size());
+    for (std::size_t first = 0; first < steps.size(); first += sizeOfGroup(steps, first)) {
+        const std::size_t count = sizeOfGroup(steps, first);
+        if (steps[first].isReached) {
+            for (std::size_t i = 0; i < count; ++i)
+                progress.oneDone();
+            continue;
+        }
+        std::vector<PatchJob> jobs;
+        jobs.reserve(count);
+        for (const Step &step : std::span(steps).subspan(first, count))
+            jobs.push_back(
+                {*step.item->pic, m_path + '/' + step.item->pic->spName, *step.item->plan});
+        units.emplace_back(std::move(jobs), m_services.files);
+        firstSteps.push_back(first);
+    }
+    BatchWriter(m_services, [&](std::size_t unit) {
+        for (std::size_t i = 0; i < units[unit].fileCount(); ++i) {
+            Step &step = steps[firstSteps[unit] + i];
+            step.isReached = true;
+            step.outcome = units[unit].outcome(i);
+            progress.oneDone();
+        }
+    }).run(units);
 }
 
 /// Why the item's file is not even opened.
@@ -127,35 +143,39 @@ std::optional<PatchOutcome> FolderSave::obstacleOf(const ItemOutcome &item) cons
     return outcome;
 }
 
-void FolderSave::report(Items unit, Steps steps) const {
-    for (std::size_t i = 0; i < unit.size(); ++i)
-        reportItem(unit[i], steps[i]);
-    for (std::size_t i = 0; i < unit.size(); ++i)
+void FolderSave::report(std::vector<Step> &steps) const {
+    for (Step &step : steps)
+        reportItem(step);
+    for (std::size_t i = 0; i < steps.size(); ++i)
         if (steps[i].outcome.isOfOtherHalf)
-            steps[i].report.errors = steps[unit.size() - 1 - i].report.errors;
+            steps[i].report.errors = steps[2 * steps[i].group + 1 - i].report.errors;
 }
 
-void FolderSave::reportItem(const ItemOutcome &item, Step &step) const {
+void FolderSave::reportItem(Step &step) const {
+    const ItemOutcome &item = *step.item;
     ItemOutcome &report = step.report;
     report.pic = item.pic;
-    report.result = resultOf(step.outcome);
+    report.result = step.isReached ? resultOf(step.outcome) : ItemResult::NotReached;
     report.slots = item.slots;
-    if (isSuccess(step.outcome))
+    if (!step.outcome.error)
         return;
     // Of an item that was not written, no slot is.
     for (SlotOutcome &slot : report.slots)
-        slot.result = slot.result == SlotResult::WrittenInPlace ? SlotResult::Refused : slot.result;
+        if (isWritten(slot.result))
+            slot.result = SlotResult::Refused;
     report.errors.push_back(
         {*step.outcome.error, m_path + '/' + item.pic->spName, step.outcome.systemText});
 }
 
-void FolderSave::applyToModel(std::vector<Step> &steps) const {
+void FolderSave::applyToModel(const std::vector<Step> &steps) const {
     FolderSaveSummary summary;
     m_folder->fixedDates = 0;
     m_folder->saveErrors = 0;
     for (const Step &step : steps) {
+        if (!step.isReached)
+            continue;
         MySinglePic &pic = *step.report.pic;
-        if (!isSuccess(step.outcome)) {
+        if (step.outcome.error) {
             applySaveFailure(pic, step.outcome, m_request.savingAll);
             m_folder->saveErrors += step.outcome.isOfOtherHalf ? 0 : 1;
             continue;
@@ -167,9 +187,9 @@ void FolderSave::applyToModel(std::vector<Step> &steps) const {
             summary.saved.push_back(master);
         if (!pic.hasCorrectableDate())
             continue;
-        if (needsFullUpdate(pic, *step.plan))
+        if (needsFullUpdate(pic, *step.item->plan))
             summary.needingFullUpdate.push_back(step.report.pic);
-        applySavedPlan(pic, *step.plan, step.outcome, *m_folder, m_services.zones);
+        applySavedPlan(pic, *step.item->plan, step.outcome, *m_folder, m_services.zones);
     }
     clearDateValuesAfterSavingFolder(*m_folder, summary, m_services.undo, m_services.zones,
                                      m_services.defaults.integerForKey("dateComparisonThresold"));

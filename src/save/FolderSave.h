@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "InPlacePatcher.h"
 #include "PreProcess.h"
 #include "SaveDriver.h"
+#include "WriteUnit.h"
 
 #include <optional>
 #include <span>
@@ -24,23 +24,23 @@ public:
     void run(ProgressCounter &progress, SaveRunResult &result);
 
 private:
-    using Items = std::span<const ItemOutcome>;
     /// One item's plan and what became of it.
     struct Step {
-        const PatchPlan *plan = nullptr; ///< stage one's; none for an unreachable file
+        const ItemOutcome *item = nullptr; ///< as stage one left it
+        std::size_t group = 0;             ///< the first step of the item's group
+        bool isReached = false;
         PatchOutcome outcome;
         ItemOutcome report;
     };
-    using Steps = std::span<Step>;
 
-    /// The items, cut into single ones and groups whose dependent stands before its master.
-    std::vector<Items> units() const;
-    void save(Items unit, Steps steps) const;
+    std::vector<Step> steps() const;
+    static std::size_t sizeOfGroup(const std::vector<Step> &steps, std::size_t first);
+    void refuseObstructed(std::vector<Step> &steps) const;
+    void write(std::vector<Step> &steps, ProgressCounter &progress) const;
     std::optional<PatchOutcome> obstacleOf(const ItemOutcome &item) const;
-    PatchJob jobOf(const ItemOutcome &item) const;
-    void report(Items unit, Steps steps) const;
-    void reportItem(const ItemOutcome &item, Step &step) const;
-    void applyToModel(std::vector<Step> &steps) const;
+    void report(std::vector<Step> &steps) const;
+    void reportItem(Step &step) const;
+    void applyToModel(const std::vector<Step> &steps) const;
 
     MySingleFolderPtr m_folder;
     std::span<const ItemOutcome> m_items;

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "FileLayer.h"
+#include "PatchPlan.h"
+#include "RunJournal.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace chronomender {
+
+/// What became of one file.
+struct PatchOutcome {
+    std::optional<SaveErrorId> error;
+    std::string systemText; ///< the system's own words where it refused something; else ""
+    FileUnchangedState state = FileUnchangedState::Unchanged; ///< the proof's answer
+    /// As they are after the last write of ours; none when nothing was written.
+    std::optional<FileAttributes> attributes;
+    bool isWritten = false;     ///< the plan is carried out
+    bool isOfOtherHalf = false; ///< the error is that of the group's other file
+};
+
+/// One file and what is to become of it. Everything outlives the job.
+struct PatchJob {
+    const MySinglePic &pic; ///< what was recorded of the file; only read
+    std::string path;
+    const PatchPlan &plan; ///< without obstacle
+};
+
+/// One file on its way through a save: proved, written, dated, synced, all through one descriptor.
+/// Each step may follow only when the one before answered true. When a step fails, what was written
+/// goes back, each value proved first; the file then holds its old values, or the outcome says that
+/// it does not. Different files may be written side by side.
+class FileWrite {
+public:
+    FileWrite(PatchJob job, FileLayer &files);
+
+    /// Opens and locks the file and finds out everything that can be known before the first write:
+    /// it is the file that was read, each byte to be overwritten is what it was, its date can be
+    /// set.
+    bool prove();
+    /// What the steps behind this will do, for the journal.
+    FileIntent intent() const;
+    /// There is something to write.
+    bool hasWork() const { return !m_job.plan.isEmpty(); }
+    bool needsTool() const { return m_job.plan.toolAction.has_value(); }
+
+    /// Proves the file once more, since others were proved in between, and overwrites the values.
+    bool write();
+    /// Sets the modification date and takes the file's attributes again.
+    bool finish();
+    /// Waits until the file is on disk.
+    bool sync();
+
+    /// After the other half of a group failed: nothing of this one stays written.
+    void followFailureOf(const FileWrite &other);
+    /// Nothing may be written to it, for a reason from outside.
+    void refuse(SaveErrorId id, std::string systemText);
+    /// Values of ours stand in it that could not go back.
+    bool isLeftHalfWritten() const;
+
+    /// Closes the file, which gives up its lock.
+    void close() { m_file.reset(); }
+    const PatchOutcome &outcome() const { return m_outcome; }
+
+private:
+    bool fail(SaveErrorId id, FileUnchangedState state, std::string systemText = {});
+    bool open();
+    bool takeLock();
+    bool isAtItsPath();
+    bool planChecksums();
+    std::optional<SaveErrorId> sidecarProblem(std::string &systemText) const;
+    bool takeBack(SaveErrorId id, std::string systemText);
+
+    PatchJob m_job;
+    FileLayer *m_files;
+    std::unique_ptr<OpenFile> m_file;
+    FileAttributes m_proved;        ///< of the file before the first write
+    std::vector<Patch> m_checksums; ///< behind the plan's patches
+    std::size_t m_begun = 0;        ///< patches and checksums whose writing was begun
+    PatchOutcome m_outcome;
+};
+
+} // namespace chronomender
