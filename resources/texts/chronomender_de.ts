@@ -878,5 +878,35 @@ Beispiele:
     <message id="alertString_TZC_majorChangesWarning_messageText">
         <translation>Die Zeitzone dieses Computers hat sich geändert</translation>
     </message>
+    <message id="toolAnswer_ended">
+        <translation>ExifTool endete, bevor es antwortete: „%1“</translation>
+    </message>
+    <message id="toolAnswer_notStarted">
+        <translation>ExifTool konnte nicht gestartet werden: %1</translation>
+    </message>
+    <message id="toolAnswer_oddPath">
+        <translation>ExifTool kann ein Name mit diesen Zeichen nicht übergeben werden.</translation>
+    </message>
+    <message id="toolAnswer_timeOut">
+        <translation>ExifTool hat nicht rechtzeitig geantwortet und wurde beendet.</translation>
+    </message>
+    <message id="xTError_ID_1">
+        <translation>Der Ort konnte nicht geschrieben werden:</translation>
+    </message>
+    <message id="xTError_ID_2">
+        <translation>Der Ort konnte nicht in die Begleitdatei geschrieben werden:</translation>
+    </message>
+    <message id="xTError_ID_3">
+        <translation>Der Ort konnte nicht ergänzt werden:</translation>
+    </message>
+    <message id="xTError_ID_5">
+        <translation>Es gab schon eine Begleitdatei:</translation>
+    </message>
+    <message id="xTError_ID_6">
+        <translation>Fehlende Datumsfelder konnten nicht ergänzt werden:</translation>
+    </message>
+    <message id="xTError_ID_7">
+        <translation>Kurze XMP-Daten konnten nicht verlängert werden:</translation>
+    </message>
 </context>
 </TS>

@@ -878,5 +878,35 @@ Examples:
     <message id="alertString_TZC_majorChangesWarning_messageText">
         <translation>The time zone of this computer has changed</translation>
     </message>
+    <message id="toolAnswer_ended">
+        <translation>ExifTool ended before it answered: “%1”</translation>
+    </message>
+    <message id="toolAnswer_notStarted">
+        <translation>ExifTool could not be started: %1</translation>
+    </message>
+    <message id="toolAnswer_oddPath">
+        <translation>ExifTool cannot be told of a name with these characters.</translation>
+    </message>
+    <message id="toolAnswer_timeOut">
+        <translation>ExifTool did not answer in time and was ended.</translation>
+    </message>
+    <message id="xTError_ID_1">
+        <translation>The location could not be written:</translation>
+    </message>
+    <message id="xTError_ID_2">
+        <translation>The location could not be written to the sidecar:</translation>
+    </message>
+    <message id="xTError_ID_3">
+        <translation>The location could not be completed:</translation>
+    </message>
+    <message id="xTError_ID_5">
+        <translation>There was already a sidecar:</translation>
+    </message>
+    <message id="xTError_ID_6">
+        <translation>Missing date tags could not be added:</translation>
+    </message>
+    <message id="xTError_ID_7">
+        <translation>Short XMP dates could not be extended:</translation>
+    </message>
 </context>
 </TS>

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "ToolAction.h"
+#include "ToolOutput.h"
 
 #include <chrono>
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <map>
 #include <memory>
@@ -13,6 +15,8 @@
 #include <vector>
 
 namespace chronomender {
+
+class ToolProcess;
 
 /// Where ExifTool is and where it may put things.
 struct ToolSettings {
@@ -24,7 +28,9 @@ struct ToolSettings {
     std::chrono::milliseconds limit{30'000};
 };
 
-/// What one action did.
+/// What one action did. A tool that died or was given up may have put the new file in the place of
+/// the old one and not have said so: where `didChange` is false, compare the file's inode before
+/// believing that it is as it was.
 struct ToolOutcome {
     bool didChange = false; ///< the tool says that it wrote the file
     std::string error;      ///< its last line that begins with "Error", or why it could not answer
@@ -48,11 +54,14 @@ public:
     /// The program that would be started; none when there is none.
     std::optional<std::string> program() const;
 
-    /// Sends one action for one file. `isPng`: the tool need not read behind the picture.
+    /// Sends one action for one file. `isPng`: the tool need not check what it copies.
     void send(const ToolAction &action, const std::string &path, bool isPng);
-    /// Waits for the answer to the oldest action that is not answered yet.
+    /// Waits for the answer to the oldest action that is not answered yet; there must be one. An
+    /// action without answer is not repeated, and the copy that it left is removed, unless one
+    /// stood there when it was sent or the file itself is gone; those sent behind it go to a new
+    /// process.
     ToolOutcome postAction();
-    /// Ends the tool and removes the argument file.
+    /// Ends the tool and removes the argument file. Actions without answer are forgotten.
     void cleanup();
 
     /// Where the tool keeps its copy of a file while it writes.
@@ -66,8 +75,24 @@ public:
     void clearErrors();
 
 private:
-    class Process;
+    struct Pending {
+        ToolErrorType type{};
+        std::string path;
+        std::optional<std::string> lines; ///< none: the tool cannot be told of this path
+        bool hadCopy = false;
+        bool isSent = false;
+    };
+    bool startTool();
+    void sendPending();
+    ToolOutcome waitForAnswer();
+    std::optional<ToolAnswer> nextAnswer(bool &isTimedOut);
+    ToolOutcome giveUp(bool isTimedOut);
+
     ToolSettings m_settings;
+    std::deque<Pending> m_pending; ///< in the order of their answers
+    std::unique_ptr<ToolProcess> m_tool;
+    ToolOutput m_output;
+    ToolOutcome m_notSent; ///< why the oldest could not be sent
     std::map<ToolErrorType, std::vector<std::string>> m_errorCollector;
 };
 
