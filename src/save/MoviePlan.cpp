@@ -12,6 +12,10 @@
 namespace chronomender {
 namespace {
 
+constexpr std::size_t kHeaderTimeLength = 4;
+/// A date that far behind 1904 is not asked about, whatever its zone.
+constexpr absl::Duration kSafeBehindEpoch = absl::Seconds(3624);
+
 /// One value of the file that is to say a date.
 struct MovieValue {
     const LocatedBytes *recorded;
@@ -19,6 +23,8 @@ struct MovieValue {
     OptionalDate readBack;      ///< what the built value says
     bool isSource;              ///< the slot's date is read from it
     std::string zoneChange;     ///< "+02:00 → +00:00"; "" when the offset stays
+    /// Why it may be that nothing could be built.
+    PlanObstacle ifNotBuilt = PlanObstacle::UnreadableBack;
 };
 
 /// What a slot's values are built for.
@@ -55,9 +61,24 @@ MovieValue headerTime(const LocatedBytes &recorded, StampSlot slot, const Wanted
     const MvhdCorrection correction{!isUtc &&
                                     wanted.context.folder.isQuicktimeMVHDTimezoneCorrectionEnabled};
     const absl::TimeZone &zone = wanted.zone.rules;
-    return movieValue(
+    MovieValue value = movieValue(
         recorded, wanted, mvhdDataFromDate(wanted.date, correction, zone), isSource,
         [&](const Bytes &data) { return finalDateFromMVHDData(data, correction, zone); });
+    value.ifNotBuilt = PlanObstacle::OutOfRange;
+    return value;
+}
+
+/// The header's time would lie before the beginning of 1904.
+bool isPre1904(const Wanted &wanted) {
+    const MySinglePic &pic = wanted.pic;
+    const Date epoch = *dateFromMVHDData(Bytes(kHeaderTimeLength, '\0'));
+    if (!isQtMovie(pic.spType) || wanted.date >= epoch + kSafeBehindEpoch)
+        return false;
+    const bool isLocal = pic.spType != SpTypeMovieMdta &&
+                         wanted.context.folder.isQuicktimeMVHDTimezoneCorrectionEnabled;
+    const Date inHeader =
+        isLocal ? mvhdDateFromCorrectedDate(wanted.date, wanted.zone.rules) : wanted.date;
+    return inHeader < epoch + absl::Seconds(1);
 }
 
 std::string offsetText(const IsoStamp &stamp) {
@@ -109,7 +130,7 @@ std::vector<MovieValue> valuesOf(StampSlot slot, const Wanted &wanted) {
 PlanObstacle planValue(const MovieValue &value, const Wanted &wanted, StampPlan &plan,
                        std::vector<ValuePatch> &patches) {
     if (!value.built)
-        return PlanObstacle::UnreadableBack;
+        return value.ifNotBuilt;
     if (value.readBack != cleanDate(wanted.date)) {
         // Known of clocks that are set back; else the value would be wrong.
         if (!hasDSTAmbiguityForDate(wanted.pic, wanted.date, ExportDate::Main, wanted.zone.rules,
@@ -151,6 +172,8 @@ StampPlan planMovieStamp(const MySinglePic &pic, StampSlot slot, const PlanConte
         patches.erase(patches.begin() + count, patches.end());
         break;
     }
+    plan.isPre1904 = isPre1904(wanted);
+    plan.isAmbiguous = plan.isAmbiguous && !plan.isPre1904;
     return plan;
 }
 

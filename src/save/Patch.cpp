@@ -12,23 +12,33 @@ bool overlaps(const Patch &patch, std::uint64_t start, std::size_t length) {
     return patch.offset() < start + length && start < patch.end();
 }
 
-const Patch *patchOf(const LocatedBytes &value, std::span<const ValuePatch> patches) {
-    const auto found = std::find_if(patches.begin(), patches.end(),
-                                    [&](const ValuePatch &each) { return each.value == &value; });
-    return found == patches.end() ? nullptr : &found->patch;
-}
-
-bool areSame(const Patch &a, const Patch &b) {
-    return a.offset() == b.offset() && a.after() == b.after();
-}
-
-/// Writes what of the patch falls into the value's own copy.
-void apply(const Patch &patch, LocatedBytes &value) {
-    const std::uint64_t start = std::max(patch.offset(), value.offset);
-    const std::uint64_t end = std::min(patch.end(), value.offset + value.data.size());
+/// Writes what of the patch falls into bytes that stand at `offset` in the file.
+void apply(const Patch &patch, std::uint64_t offset, Bytes &bytes) {
+    const std::uint64_t start = std::max(patch.offset(), offset);
+    const std::uint64_t end = std::min(patch.end(), offset + bytes.size());
     for (std::uint64_t at = start; at < end; ++at)
-        value.data[static_cast<std::size_t>(at - value.offset)] =
+        bytes[static_cast<std::size_t>(at - offset)] =
             patch.after()[static_cast<std::size_t>(at - patch.offset())];
+}
+
+/// Another value's patch would leave this one with other bytes than it wants.
+bool isSpoilt(const LocatedBytes &value, std::string_view present,
+              std::span<const ValuePatch> patches) {
+    const auto isForeign = [&](const ValuePatch &each) {
+        return each.value != &value && overlaps(each.patch, value.offset, present.size());
+    };
+    if (std::none_of(patches.begin(), patches.end(), isForeign))
+        return false;
+    Bytes wanted(present);
+    for (const ValuePatch &each : patches)
+        if (each.value == &value)
+            apply(each.patch, value.offset, wanted);
+    return std::any_of(patches.begin(), patches.end(), [&](const ValuePatch &each) {
+        Bytes spoilt = wanted;
+        if (isForeign(each))
+            apply(each.patch, value.offset, spoilt);
+        return spoilt != wanted;
+    });
 }
 
 } // namespace
@@ -42,13 +52,7 @@ Patch::Patch(std::uint64_t offset, std::string_view before, std::string_view aft
 bool doPatchesCollide(const SinglePicAttributes &recorded, std::span<const ValuePatch> patches) {
     bool collide = false;
     forEachRecordedValue(recorded, [&](std::string_view, const LocatedBytes &value) {
-        const std::size_t length = bytesInFile(recorded, value).size();
-        for (const ValuePatch &each : patches) {
-            if (each.value == &value || !overlaps(each.patch, value.offset, length))
-                continue;
-            const Patch *own = patchOf(value, patches);
-            collide = collide || !own || !areSame(*own, each.patch);
-        }
+        collide = collide || isSpoilt(value, bytesInFile(recorded, value), patches);
     });
     return collide;
 }
@@ -59,7 +63,7 @@ void applyPatches(SinglePicAttributes &recorded, std::span<const Patch> patches)
     forEachRecordedValue(recorded, [&](std::string_view, const LocatedBytes &value) {
         // The values are members of `recorded`, which is ours to change.
         for (const Patch &patch : patches)
-            apply(patch, const_cast<LocatedBytes &>(value));
+            apply(patch, value.offset, const_cast<LocatedBytes &>(value).data);
     });
 }
 

@@ -5,8 +5,11 @@
 #include "MoviePlan.h"
 #include "SourceSlot.h"
 #include "StampPlan.h"
+#include "ToolActions.h"
+#include "XmpPlan.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace chronomender {
 namespace {
@@ -19,7 +22,7 @@ bool isInTheWay(PlanObstacle obstacle, StampSlot slot, SpType type) {
 
 OptionalDate wantedGpsDate(const MySinglePic &pic, const PlanContext &context) {
     const OptionalDate &present = pic.location.spGpsUTCDate;
-    if (!present || pic.location.isGpsXmp || !context.syncGPSDataOnSave)
+    if (!present || !context.syncGPSDataOnSave)
         return std::nullopt;
     if (!context.syncGPSDataOnSaveType)
         return pic.spDateTimeModified_tempFIX;
@@ -31,15 +34,22 @@ OptionalDate wantedGpsDate(const MySinglePic &pic, const PlanContext &context) {
 void planGps(const MySinglePic &pic, const PlanContext &context, std::vector<ValuePatch> &patches,
              PatchPlan &plan) {
     const OptionalDate wanted = wantedGpsDate(pic, context);
-    if (isCleanDate(wanted) && wanted != pic.location.spGpsUTCDate &&
-        planGpsStamps(pic, *wanted, patches))
+    if (!isCleanDate(wanted))
+        return;
+    if (pic.location.isGpsXmp) {
+        // Also a date that stays may be told by another wall clock, in another zone.
+        plan.newGpsDate = planXmpGpsStamp(pic, *wanted, context, patches);
+    } else if (wanted != pic.location.spGpsUTCDate && planGpsStamps(pic, *wanted, patches)) {
         plan.newGpsDate = cleanDate(wanted);
+    }
+    if (plan.newGpsDate == pic.location.spGpsUTCDate)
+        plan.newGpsDate.reset();
 }
 
 /// Writing values moves the file's modification date, so it is set whenever something is written.
 void planModificationDate(const MySinglePic &pic, PatchPlan &plan) {
     const OptionalDate &wanted = pic.slots.fileModificationDateNEW;
-    if (!plan.patches.empty() || wanted != pic.slots.fileModificationDateOLD)
+    if (!plan.patches.empty() || plan.toolAction || wanted != pic.slots.fileModificationDateOLD)
         plan.modificationDate =
             isCleanDate(wanted) ? wanted : pic.singlePicAttributes.fileModificationDate;
 }
@@ -52,11 +62,57 @@ SlotResult fileSlotResult(const MySinglePic &pic, const SlotDescription &slot) {
     return isCreation ? SlotResult::NotStorable : SlotResult::WrittenInPlace;
 }
 
-/// XMP stamps would go on telling the old date, a chunk of a PNG carries a checksum, and tags are
-/// added by a tool of its own: such a file is not touched at all rather than written in part.
-bool isWritable(const MySinglePic &pic) {
-    return pic.singlePicAttributes.xmpDateInfos.isEmpty() && pic.fileFormatType != FileFormatPng &&
-           !pic.save.shouldAddExifDateTimeTags;
+/// A stamp of the file's own tags, and the one of the packet that goes along with it.
+StampPlan planTag(const MySinglePic &pic, StampSlot slot, const PlanContext &context,
+                  std::vector<ValuePatch> &patches, PlanObstacle &obstacle) {
+    StampPlan plan = planStamp(pic, slot, context, patches, obstacle);
+    if (obstacle != PlanObstacle::None)
+        return plan;
+    const StampPlan follower = planXmpStamps(pic, slot, context, patches, obstacle);
+    plan.isAmbiguous = plan.isAmbiguous || follower.isAmbiguous;
+    if (plan.zoneChange.empty())
+        plan.zoneChange = follower.zoneChange;
+    return plan;
+}
+
+StampPlan planSlot(const MySinglePic &pic, StampSlot slot, const PlanContext &context,
+                   std::vector<ValuePatch> &patches, PlanObstacle &obstacle) {
+    if (pic.isMovie())
+        return planMovieStamp(pic, slot, context, patches, obstacle);
+    if (isTagToBeAdded(pic, slot))
+        return planAddedTag(pic, slot, context, obstacle);
+    return pic.isSlotXmp(slot) ? planXmpStamps(pic, slot, context, patches, obstacle)
+                               : planTag(pic, slot, context, patches, obstacle);
+}
+
+void planToolAction(const MySinglePic &pic, const PlanContext &context, PatchPlan &plan) {
+    if (pic.save.shouldAddExifDateTimeTags)
+        plan.toolAction = completeFullExifDateTags(pic, context);
+    const std::vector<SupportStamp> support = supportStamps(pic, context);
+    if (support.empty())
+        return;
+    ToolAction widening = extendShortXmpDateTags(support);
+    if (plan.toolAction)
+        std::ranges::move(widening.lines, std::back_inserter(plan.toolAction->lines));
+    else
+        plan.toolAction = std::move(widening);
+}
+
+/// One obstacle keeps the whole item from being written.
+void refuseAllSlots(PatchPlan &plan) {
+    for (StampPlan &stamp : plan.stamps) {
+        if (stamp.result != SlotResult::WrittenInPlace && stamp.result != SlotResult::WrittenByTool)
+            continue;
+        stamp.result = SlotResult::Refused;
+        stamp.obstacle = plan.obstacle;
+    }
+    plan.newGpsDate.reset();
+}
+
+/// A chunk of a PNG carries a checksum, and the tool has an engine of its own: such a file is not
+/// touched at all rather than written in part.
+bool isWritable(const MySinglePic &pic, const PatchPlan &plan) {
+    return pic.fileFormatType != FileFormatPng && !plan.toolAction;
 }
 
 bool hasProblem(std::span<const PreSaveFinding> problems, PreSaveProblem problem) {
@@ -109,25 +165,26 @@ PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context) {
     PatchPlan plan;
     if (!pic.hasCorrectableDate())
         return plan;
-    if (!isWritable(pic)) {
-        plan.obstacle = PlanObstacle::NotYetWritable;
-        return plan;
-    }
     std::vector<ValuePatch> patches;
     patches.reserve(2 * stampSlots.size() + 2);
     for (std::size_t i = 0; i < stampSlots.size(); ++i) {
         PlanObstacle obstacle{};
-        plan.stamps[i] = pic.isMovie()
-                             ? planMovieStamp(pic, stampSlots[i], context, patches, obstacle)
-                             : planStamp(pic, stampSlots[i], context, patches, obstacle);
+        plan.stamps[i] = planSlot(pic, stampSlots[i], context, patches, obstacle);
+        plan.stamps[i].obstacle = obstacle;
         if (isInTheWay(obstacle, stampSlots[i], pic.spType))
             plan.obstacle = obstacle;
     }
     planGps(pic, context, patches, plan);
     if (doPatchesCollide(pic.singlePicAttributes, patches))
         plan.obstacle = PlanObstacle::ValuesCollide;
-    if (plan.obstacle != PlanObstacle::None)
+    planToolAction(pic, context, plan);
+    if (plan.obstacle == PlanObstacle::None && !isWritable(pic, plan))
+        plan.obstacle = PlanObstacle::NotYetWritable;
+    if (plan.obstacle != PlanObstacle::None) {
+        plan.toolAction.reset();
+        refuseAllSlots(plan);
         return plan;
+    }
     plan.patches.reserve(patches.size());
     for (const ValuePatch &each : patches)
         if (!each.patch.changesNothing())
@@ -141,10 +198,14 @@ std::vector<SlotOutcome> slotOutcomes(const MySinglePic &pic, const PatchPlan &p
     outcomes.reserve(slotDescriptions.size());
     for (std::size_t i = 0; i < slotDescriptions.size(); ++i) {
         const SlotDescription &slot = slotDescriptions[i];
-        const SlotResult result = i < plan.stamps.size()                ? plan.stamps[i].result
-                                  : plan.obstacle == PlanObstacle::None ? fileSlotResult(pic, slot)
-                                                                        : SlotResult::Unchanged;
-        outcomes.push_back({slot.name, pic.slots.*slot.oldDate, pic.slots.*slot.newDate, result});
+        SlotOutcome outcome{slot.name, pic.slots.*slot.oldDate, pic.slots.*slot.newDate};
+        if (i < plan.stamps.size())
+            outcome.result = plan.stamps[i].result;
+        else if (plan.obstacle == PlanObstacle::None)
+            outcome.result = fileSlotResult(pic, slot);
+        if (outcome.result == SlotResult::Refused)
+            outcome.reasonKey = textKey(plan.stamps[i].obstacle);
+        outcomes.push_back(outcome);
     }
     return outcomes;
 }

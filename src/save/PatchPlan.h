@@ -36,6 +36,7 @@ struct StampPlan {
     /// The instant that the stamp stands for after the save; none where nothing is recorded.
     OptionalDate readBack;
     bool isAmbiguous = false;          ///< it reads back as another instant, and that is known
+    bool isPre1904 = false;            ///< the date lies before all that a movie header can hold
     std::string overwrittenUnreadable; ///< the unreadable stamp that would go; "" without one
     std::string zoneChange;            ///< "+02:00 → +00:00"; "" when the offset stays
 };

@@ -54,11 +54,13 @@ std::optional<PreSaveProblem> checkFileUnchangedStateForSaveRenameErrors(const M
 void checkCalculatedValuesForSaveErrors(const MySinglePicPtr &pic, const MySinglePic &calculated,
                                         const PatchPlan &plan,
                                         std::vector<PreSaveFinding> &findings) {
-    std::string ambiguous, zones, unreadable;
+    std::string ambiguous, tooEarly, zones, unreadable;
     for (std::size_t i = 0; i < plan.stamps.size(); ++i) {
         const StampPlan &stamp = plan.stamps[i];
         if (stamp.isAmbiguous)
             addDetail(ambiguous, description(stampSlots[i]).name);
+        if (stamp.isPre1904)
+            addDetail(tooEarly, description(stampSlots[i]).name);
         addDetail(zones, stamp.zoneChange);
         addDetail(unreadable, stamp.overwrittenUnreadable);
     }
@@ -67,6 +69,8 @@ void checkCalculatedValuesForSaveErrors(const MySinglePicPtr &pic, const MySingl
     };
     if (!ambiguous.empty())
         report(PreSaveProblem::error_01_ambiguousStamp, std::move(ambiguous));
+    if (!tooEarly.empty())
+        report(PreSaveProblem::error_02_pre1904, std::move(tooEarly));
     if (isBefore1970(calculated.slots.fileCreationDateNEW) ||
         isBefore1970(calculated.slots.fileModificationDateNEW))
         report(PreSaveProblem::error_03_pre1970, {});

@@ -108,14 +108,21 @@ std::string zoneChange(const LocatedBytes &offset, const Bytes &built) {
     return *before + " → " + *after;
 }
 
+/// What a tag to be added holds meanwhile, if it exists and is empty, is not patched.
 bool isToBeWritten(const MySinglePic &pic, StampSlot slot) {
     const auto &dates = description(slot);
     return pic.stamp(slot) && pic.slots.*dates.oldDate && !pic.isSlotXmp(slot) &&
-           isCleanDate(pic.slots.*dates.newDate);
+           !isTagToBeAdded(pic, slot) && isCleanDate(pic.slots.*dates.newDate);
 }
 
-/// A slot with a date has it from its stamp, except that items whose tags are all empty, and tags
-/// that are to be added, get theirs from elsewhere.
+std::string unreadableStamp(const MySinglePic &pic, StampSlot slot) {
+    const LocatedBytes *stamp = pic.stamp(slot);
+    const std::string_view present = stamp ? firstPart(stamp->data, kStampLength) : "";
+    return isUnreadableStamp(present) ? std::string(present) : std::string();
+}
+
+/// A slot with a date has it from its stamp, except that items whose tags are all empty get theirs
+/// from elsewhere.
 bool mayBeUnreadable(const MySinglePic &pic, StampSlot slot) {
     return isNullerFile(pic.spType) || !isCleanDate(pic.slots.*description(slot).oldDate);
 }
@@ -128,13 +135,40 @@ bool describeStamp(const MySinglePic &pic, StampSlot slot, const BuiltStamp &bui
     const bool readsBack = plan.readBack == cleanDate(wanted);
     plan.isAmbiguous = !readsBack && hasDSTAmbiguityForDate(pic, wanted, exportDate(slot), zone,
                                                             DSTPreFilter::Off);
-    const std::string_view present = firstPart(pic.stamp(slot)->data, kStampLength);
-    if (mayBeUnreadable(pic, slot) && isUnreadableStamp(present))
-        plan.overwrittenUnreadable = present;
+    if (mayBeUnreadable(pic, slot))
+        plan.overwrittenUnreadable = unreadableStamp(pic, slot);
     return readsBack;
 }
 
 } // namespace
+
+bool isTagToBeAdded(const MySinglePic &pic, StampSlot slot) {
+    return pic.save.shouldAddExifDateTimeTags && (pic.save.tagAddType & bit(slot));
+}
+
+StampPlan planAddedTag(const MySinglePic &pic, StampSlot slot, const PlanContext &context,
+                       PlanObstacle &obstacle) {
+    StampPlan plan;
+    obstacle = PlanObstacle::None;
+    const OptionalDate &wanted = pic.slots.*description(slot).newDate;
+    if (!isCleanDate(wanted))
+        return plan;
+    const Zone zone = targetZoneForSlot(pic, slot, context.folder, context.zones);
+    const auto built = exifWithOffsetDatasFromDate(*wanted, zone.rules);
+    if (built)
+        plan.readBack = dateFromExifData(built->stamp, &built->offset, zone.rules);
+    if (!built || plan.readBack != cleanDate(wanted)) {
+        plan.result = SlotResult::Refused;
+        obstacle = PlanObstacle::UnreadableBack;
+        return plan;
+    }
+    plan.result = SlotResult::WrittenByTool;
+    plan.overwrittenUnreadable = unreadableStamp(pic, slot);
+    const LocatedBytes *offset = pic.zoneStamp(slot);
+    if (offset && !hasAssignedTargetZone(pic, context.folder))
+        plan.zoneChange = zoneChange(*offset, built->offset);
+    return plan;
+}
 
 StampPlan planStamp(const MySinglePic &pic, StampSlot slot, const PlanContext &context,
                     std::vector<ValuePatch> &patches, PlanObstacle &obstacle) {

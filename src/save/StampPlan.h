@@ -10,4 +10,11 @@ namespace chronomender {
 StampPlan planStamp(const MySinglePic &pic, StampSlot slot, const PlanContext &context,
                     std::vector<ValuePatch> &patches, PlanObstacle &obstacle);
 
+/// The tag of the slot is among those that a save is to add.
+bool isTagToBeAdded(const MySinglePic &pic, StampSlot slot);
+/// A tag that the external tool adds together with its zone stamp: no patch. It reads back as the
+/// whole second.
+StampPlan planAddedTag(const MySinglePic &pic, StampSlot slot, const PlanContext &context,
+                       PlanObstacle &obstacle);
+
 } // namespace chronomender
