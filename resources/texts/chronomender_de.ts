@@ -711,7 +711,7 @@ Beispiele:
         <translation>Das neue Datum eines Films liegt vor 1904</translation>
     </message>
     <message id="preSaveSummary_error_02_pre1904_details">
-        <translation>Ein Film zählt seine Zeit ab dem Beginn des Jahres 1904 und kann kein früheres Datum aufnehmen. Wenn Sie trotzdem speichern, wird dieses Datum des Films nicht geschrieben. Prüfen Sie die Zeitverschiebung des Ordners und des Films.</translation>
+        <translation>Ein Film zählt seine Zeit ab dem Beginn des Jahres 1904 und kann kein früheres Datum aufnehmen. Wenn Sie trotzdem speichern, bleibt dieser Film, wie er ist. Prüfen Sie die Zeitverschiebung des Ordners und des Films.</translation>
     </message>
     <message id="preSaveSummary_error_03_pre1970">
         <translation>Ein neues Dateidatum liegt vor 1970</translation>

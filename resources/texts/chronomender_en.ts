@@ -711,7 +711,7 @@ Examples:
         <translation>The new date of a movie lies before 1904</translation>
     </message>
     <message id="preSaveSummary_error_02_pre1904_details">
-        <translation>A movie counts its time from the start of the year 1904 and cannot hold an earlier date. If you save anyway, that date of the movie is not written. Check the shift of the folder and of the movie.</translation>
+        <translation>A movie counts its time from the start of the year 1904 and cannot hold an earlier date. If you save anyway, that movie is left as it is. Check the shift of the folder and of the movie.</translation>
     </message>
     <message id="preSaveSummary_error_03_pre1970">
         <translation>A new file date lies before 1970</translation>

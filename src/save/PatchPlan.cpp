@@ -109,12 +109,6 @@ void refuseAllSlots(PatchPlan &plan) {
     plan.newGpsDate.reset();
 }
 
-/// A chunk of a PNG carries a checksum, and the tool has an engine of its own: such a file is not
-/// touched at all rather than written in part.
-bool isWritable(const MySinglePic &pic, const PatchPlan &plan) {
-    return pic.fileFormatType != FileFormatPng && !plan.toolAction;
-}
-
 bool hasProblem(std::span<const PreSaveFinding> problems, PreSaveProblem problem) {
     return std::any_of(problems.begin(), problems.end(),
                        [problem](const auto &each) { return each.problem == problem; });
@@ -178,7 +172,7 @@ PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context) {
     if (doPatchesCollide(pic.singlePicAttributes, patches))
         plan.obstacle = PlanObstacle::ValuesCollide;
     planToolAction(pic, context, plan);
-    if (plan.obstacle == PlanObstacle::None && !isWritable(pic, plan))
+    if (plan.obstacle == PlanObstacle::None && plan.toolAction)
         plan.obstacle = PlanObstacle::NotYetWritable;
     if (plan.obstacle != PlanObstacle::None) {
         plan.toolAction.reset();

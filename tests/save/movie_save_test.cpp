@@ -134,11 +134,38 @@ TEST_F(MovieSave, emptyHeaderTimesAreFilled) {
     }
 }
 
-TEST_F(MovieSave, whatTheHeaderCannotSayIsAnErrorOfTheItem) {
-    for (const Date wanted : {utc(1904, 1, 1), utc(1903, 6, 1), utc(2040, 2, 6, 6, 28, 16)}) {
-        addMovie(movie());
-        shift(wanted - kCreation);
-        EXPECT_THAT(ids(session.save()), ElementsAre(SaveErrorId::NotWrittenUnreadableBack));
+TEST_F(MovieSave, whatTheHeaderCannotSayIsAnErrorOfTheItemAlsoWhenAccepted) {
+    const MovieOptions local{.isMVHDTimezoneCorrectionEnabled = true};
+    const Date epoch = utc(1904, 1, 1);
+    const struct {
+        Date wanted; // of the creation time; the modification time lies two seconds behind it
+        MovieOptions options;
+        std::string tooEarly;
+        bool isWritten = false;
+    } table[] = {
+        {epoch - absl::Seconds(2), {}, "exifDateTimeOriginal, tiffDateTime"},
+        {epoch, {}, "exifDateTimeOriginal"},
+        {epoch + absl::Seconds(1), {}, "", true},
+        {epoch, local, "", true}, // an hour later on the clocks of Berlin
+        {epoch - absl::Hours(1), local, "exifDateTimeOriginal"},
+        {utc(2040, 2, 6, 6, 28, 14), {}, ""},
+        {utc(2040, 2, 6, 6, 28, 13), {}, "", true},
+    };
+    shiftAllSlotsAlike();
+    for (const auto &row : table) {
+        SCOPED_TRACE(row.wanted);
+        MySinglePic &pic = addMovie(movie(), row.options);
+        shift(row.wanted - pic.spDateTimeOriginal);
+        std::string tooEarly;
+        for (const PreSaveFinding &finding : session.preProcess().problems)
+            if (finding.problem == PreSaveProblem::error_02_pre1904)
+                tooEarly = finding.detail;
+        EXPECT_EQ(tooEarly, row.tooEarly);
+        if (row.isWritten) {
+            saves();
+            continue;
+        }
+        refuses(SaveErrorId::NotWrittenUnreadableBack, "saveObstacle_outOfRange");
         EXPECT_EQ(content(name), movie().bytes);
     }
 }

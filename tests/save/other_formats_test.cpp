@@ -36,23 +36,18 @@ TEST_F(OtherFormats, ExifStampsAreWrittenInPlace) {
     expectModelIsWhatAFreshImportShows();
 }
 
-TEST_F(OtherFormats, XmpStampsAndPngFilesAreLeftAsTheyAre) {
-    const std::string packet = xmpWith("xmp:CreateDate", "2024-05-06T07:08:09");
-    const std::map<std::string, BuiltPhoto> files{
-        {"a.jpg", {Jpeg().xmp(packet).frame().bytes(), {}}},
-        {"b.webp", webpPhoto({.modified = "2024:05:06 07:08:09", .xmp = packet})},
-        {"c.png", pngPhoto({.original = "2024:05:06 07:08:09"})}};
-    const SaveRunResult run = saveLater(files);
-    EXPECT_THAT(results(run),
-                ElementsAre(ItemResult::Failed, ItemResult::Failed, ItemResult::Failed));
-    ASSERT_EQ(run.errors.size(), files.size());
-    for (const SaveError &error : run.errors)
-        EXPECT_EQ(error.systemText, text("saveObstacle_notYetWritable"));
-    for (const auto &[name, built] : files) {
-        EXPECT_EQ(content(name), built.bytes);
-        EXPECT_EQ(attributesOf(session.path(name)).modificationDate, session.fileDate);
-        EXPECT_TRUE(session.item(name).isUnsavedOrGroupHarmonized());
-    }
+TEST_F(OtherFormats, PngChunksGetTheirChecksums) {
+    const auto png = [](const char *exif, const char *xmp) {
+        return pngPhoto({.original = exif, .xmp = xmpWith("exif:GPSTimeStamp", xmp)});
+    };
+    const auto xmpOnly = [](const char *xmp) {
+        return BuiltPhoto{Png().images(2, 9).xmp(xmpWith("xmp:CreateDate", xmp)).end().bytes(), {}};
+    };
+    saveLater({{"a.png", png("2024:05:06 07:08:09", "2024-05-06T05:08:09Z")},
+               {"b.png", xmpOnly("2024-05-06T07:08:09-03:30")}});
+    EXPECT_EQ(content("a.png"), png("2024:05:06 08:08:09", "2024-05-06T05:08:09Z").bytes);
+    EXPECT_EQ(content("b.png"), xmpOnly("2024-05-06T08:08:09-03:30").bytes);
+    expectModelIsWhatAFreshImportShows();
 }
 
 TEST_F(OtherFormats, FilesWhoseTagsAreToBeAddedAreLeftAsTheyAre) {
