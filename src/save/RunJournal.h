@@ -5,11 +5,15 @@
 #include "Patch.h"
 
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace chronomender {
+
+class JournalFile;
 
 /// What is about to be done to one file.
 struct FileIntent {
@@ -67,8 +71,8 @@ public:
 
     Durability durability() const { return m_durability; }
 
-    /// Records the batch in the place of the last one. When it answers true the record is on disk;
-    /// false: nothing may be written.
+    /// Records the batch in the place of the last one, or behind it when that was never settled.
+    /// When it answers true the record is on disk; false: nothing may be written.
     bool begin(std::span<const UnitIntent> units, FileError *error = nullptr);
     /// The batch is written and its files are safe, but for the units with these indices: they stay
     /// recorded for `recover`.
@@ -86,6 +90,10 @@ public:
 private:
     std::string m_folder;
     Durability m_durability;
+    std::unique_ptr<JournalFile> m_file; ///< made with the first batch
+    std::size_t m_kept = 0;              ///< units of earlier batches that stay recorded
+    std::size_t m_batch = 0;             ///< units of the batch in hand
+    std::size_t m_batchStart = 0;        ///< its place in the file
 };
 
 } // namespace chronomender

@@ -26,11 +26,20 @@ public:
     std::size_t tornBytes = 0; ///< bytes of a failing write that reach the file
     int failingDateSetting = 0;
     int updateOpenError = 0; ///< errno of every opening for update
+    /// The program dies at this call, of whatever kind: it and all behind it do nothing, but that
+    /// the write that it dies at leaves `tornBytes`.
+    int diesAtCall = 0;
+    std::atomic<int> calls{0};
     std::function<void(const std::string &path)> beforeUpdateOpen;
 
     std::unique_ptr<OpenFile> open(const std::string &path, OpenMode mode,
                                    FileError *error) override {
         ++opens;
+        if (isDead()) {
+            if (error)
+                error->code = EIO;
+            return nullptr;
+        }
         if (mode == OpenMode::Update) {
             ++updateOpens;
             if (beforeUpdateOpen)
@@ -46,15 +55,19 @@ public:
     }
     std::optional<FileAttributes> attributes(const std::string &path) override {
         ++attributeReads;
-        return m_system->attributes(path);
+        return isDead() ? std::nullopt : m_system->attributes(path);
     }
     bool renameExclusively(const std::string &from, const std::string &to,
                            FileError *error) override {
-        return m_system->renameExclusively(from, to, error);
+        return !isDead() && m_system->renameExclusively(from, to, error);
     }
-    bool touchDirectory(const std::string &path) override { return m_system->touchDirectory(path); }
+    bool touchDirectory(const std::string &path) override {
+        return !isDead() && m_system->touchDirectory(path);
+    }
 
 private:
+    bool isDead() { return ++calls >= diesAtCall && diesAtCall != 0; }
+
     class File : public OpenFile {
     public:
         File(FailingFileLayer &layer, std::unique_ptr<OpenFile> file)
@@ -62,12 +75,18 @@ private:
 
         std::optional<std::size_t> pread(std::span<char> room, std::uint64_t offset) override {
             ++m_layer.reads;
-            return m_file->pread(room, offset);
+            if (!m_layer.isDead())
+                return m_file->pread(room, offset);
+            fail(EIO);
+            return std::nullopt;
         }
         bool pwrite(std::string_view bytes, std::uint64_t offset) override {
             const int call = ++m_layer.writes;
             const int from = m_layer.failingWritesFrom;
-            if (call != m_layer.failingWrite && (from == 0 || call < from))
+            const bool isDead = m_layer.isDead();
+            if (isDead && m_layer.calls > m_layer.diesAtCall)
+                return fail(EIO);
+            if (!isDead && call != m_layer.failingWrite && (from == 0 || call < from))
                 return m_file->pwrite(bytes, offset);
             if (m_layer.tornBytes > 0)
                 m_file->pwrite(bytes.substr(0, m_layer.tornBytes), offset);
@@ -75,15 +94,22 @@ private:
         }
         std::optional<FileAttributes> attributes() override {
             ++m_layer.attributeReads;
-            return m_file->attributes();
+            if (!m_layer.isDead())
+                return m_file->attributes();
+            fail(EIO);
+            return std::nullopt;
         }
         bool setModificationDate(Date date) override {
             const int call = ++m_layer.dateSettings;
+            if (m_layer.isDead())
+                return fail(EIO);
             return call == m_layer.failingDateSetting ? fail(EPERM)
                                                       : m_file->setModificationDate(date);
         }
-        bool sync() override { return m_file->sync(); }
-        LockResult lockExclusively() override { return m_file->lockExclusively(); }
+        bool sync() override { return m_layer.isDead() ? fail(EIO) : m_file->sync(); }
+        LockResult lockExclusively() override {
+            return m_layer.isDead() ? LockResult::NotSupported : m_file->lockExclusively();
+        }
         FileError lastError() const override {
             return m_error.code != 0 ? m_error : m_file->lastError();
         }
