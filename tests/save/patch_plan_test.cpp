@@ -86,6 +86,7 @@ TEST_F(PatchPlanTest, OtherStampWithoutRoomIsRefusedAndTheRestIsWritten) {
     const SaveRunResult run = session.save();
     EXPECT_THAT(results(run), ElementsAre(ItemResult::Saved));
     EXPECT_EQ(slotResult(run.items[0], "exifDateTimeDigitized"), SlotResult::Refused);
+    EXPECT_EQ(run.items[0].slots.at(1).reasonKey, "saveObstacle_noRoom");
     expectOnly({{tagOriginal, "2024:05:06 08:08:09"}});
 }
 

@@ -26,17 +26,14 @@ protected:
         if (!checksums)
             return std::nullopt;
         patches.insert(patches.end(), checksums->begin(), checksums->end());
-        for (const Patch &patch : patches) {
-            EXPECT_EQ(bytes.substr(patch.offset(), patch.before().size()), patch.before());
+        for (const Patch &patch : patches)
             bytes.replace(patch.offset(), patch.after().size(), patch.after());
-        }
         return bytes;
     }
     /// A file with both chunks behind as many image chunks.
     static Png png(const std::string &exif, const std::string &packet, std::size_t images) {
         Png png;
-        png.images(images, 3).exif(exif).xmp(packet);
-        return png.images(1, 3).end();
+        return png.images(images, 3).exif(exif).xmp(packet).images(1, 3).end();
     }
     static std::string marked(std::string text, std::size_t at) { return text.replace(at, 1, "!"); }
 
@@ -44,36 +41,23 @@ protected:
 };
 
 TEST_F(PngChecksums, AreThoseOfAFileBuiltWithTheNewValues) {
-    for (const std::size_t images : {0, 3000}) {
-        const Png before = png(kExif, kPacket, images);
-        const std::uint64_t exif = before.tiffStart(), xmp = before.xmpStart();
-        const std::string both = png(marked(kExif, 39999), marked(kPacket, 7), images).bytes();
-        const std::string exifOnly = png(marked(kExif, 39999), kPacket, images).bytes();
-        for (const std::uint64_t hint :
-             {std::uint64_t{0}, exif, xmp, exif + 9, ~std::uint64_t{0}}) {
-            EXPECT_EQ(written(before.bytes(), {exif + 39999, xmp + 7}, hint), both) << hint;
-            EXPECT_EQ(written(before.bytes(), {exif + 39999}, hint), exifOnly) << hint;
+    // Data that begin like a chunk which claims to hold what follows.
+    const std::string exif = number(20, 4, Endian::Motorola) + "iTXt" + kExif;
+    for (const std::size_t images : {1, 3000}) {
+        const Png before = png(exif, kPacket, images);
+        const std::uint64_t inExif = before.tiffStart() + 12, inXmp = before.xmpStart() + 7;
+        const std::string both = png(marked(exif, 12), marked(kPacket, 7), images).bytes();
+        const std::string one = png(marked(exif, 12), kPacket, images).bytes();
+        for (const std::uint64_t hint : {std::uint64_t{0}, inExif, inXmp, ~std::uint64_t{0}}) {
+            EXPECT_EQ(written(before.bytes(), {inExif, inXmp}, hint), both) << hint;
+            EXPECT_EQ(written(before.bytes(), {inExif}, hint), one) << hint;
         }
     }
 }
 
-TEST_F(PngChecksums, AChunkIsNotTakenForOneByItsNameAlone) {
-    // In front of the real data stand the bytes of a header that claims to hold them too.
-    const std::string trap = number(20, 4, Endian::Motorola) + "iTXt" + std::string(40, 'd');
-    const auto build = [](const std::string &exif) {
-        Png png;
-        png.exif(exif);
-        return png.end();
-    };
-    const Png before = build(trap);
-    EXPECT_EQ(written(before.bytes(), {before.tiffStart() + 12}, before.tiffStart() + 12),
-              build(marked(trap, 12)).bytes());
-}
-
 TEST_F(PngChecksums, NothingIsWrittenWithoutAChunkAroundAllOfIt) {
     const Png good = png(kExif, kPacket, 1);
-    const std::uint64_t exif = good.tiffStart(), xmp = good.xmpStart();
-    const std::uint64_t end = good.bytes().size();
+    const std::uint64_t exif = good.tiffStart(), end = good.bytes().size();
     const auto withLength = [&](std::uint32_t length) {
         return std::string(good.bytes()).replace(exif - 8, 4, number(length, 4, Endian::Motorola));
     };
@@ -82,7 +66,6 @@ TEST_F(PngChecksums, NothingIsWrittenWithoutAChunkAroundAllOfIt) {
         std::string bytes;
         std::vector<std::uint64_t> places;
     } table[] = {
-        {"header", good.bytes(), {8 + 25 + 9}},
         {"type", good.bytes(), {exif - 1}},
         {"checksum", good.bytes(), {exif + kExif.size()}},
         {"picture", good.bytes(), {exif + 1, end - 12 - 5}},
@@ -90,7 +73,6 @@ TEST_F(PngChecksums, NothingIsWrittenWithoutAChunkAroundAllOfIt) {
         {"longer than the file", withLength(0x40000000), {exif + 5}},
         {"longest", withLength(0xFFFFFFFF), {exif + 5}},
         {"too short for the value", withLength(4), {exif + 5}},
-        {"into the next chunk", withLength(39000), {xmp + 5}},
         {"another file", "GIF89a" + good.bytes().substr(6), {exif + 5}},
         {"cut off", good.bytes().substr(0, exif + kExif.size() + 2), {exif + 5}},
     };
