@@ -223,10 +223,9 @@ private:
         const bool isOfRecovery = std::any_of(m_resumed.begin(), m_resumed.end(), [&](Date begun) {
             return isWithinRun(present, begun);
         });
-        const bool isOurs =
-            isOfRecovery || hasPlannedDate(member) ||
-            ((m_isForward || member.isWritten) &&
-             (isWithinRun(present, m_begun) || distance(present, before) <= coarsestFileTime));
+        const bool isOurs = isOfRecovery || hasPlannedDate(member) ||
+                            isWithinRun(present, m_begun) ||
+                            distance(present, before) <= coarsestFileTime;
         if (!isCleanDate(wanted) || !isOurs || (present == *wanted && !member.isWritten))
             return std::nullopt;
         announce(member);

@@ -163,6 +163,7 @@ TEST_F(RunJournalTest, WholeFileIsNotWritten) {
         Result result;
     } table[] = {
         {"not begun", oldFile, oldDate, oldDate, Result::Nothing},
+        {"old but for the date", oldFile, absl::Now(), oldDate, Result::TakenBack},
         {"old, and changed by others", oldFile, later, later, Result::Nothing},
         {"done", newFile, newDate, newDate, Result::Nothing},
         {"done but for the date", newFile, absl::Now(), newDate, Result::Completed},

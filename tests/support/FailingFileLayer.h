@@ -29,6 +29,7 @@ public:
     /// The program dies at this call, of whatever kind: it and all behind it do nothing, but that
     /// the write that it dies at leaves `tornBytes`.
     int diesAtCall = 0;
+    std::function<void()> atDeath; ///< may end the process in earnest
     std::atomic<int> calls{0};
     std::function<void(const std::string &path)> beforeUpdateOpen;
 
@@ -66,7 +67,12 @@ public:
     }
 
 private:
-    bool isDead() { return ++calls >= diesAtCall && diesAtCall != 0; }
+    bool isDead() {
+        const bool isDead = ++calls >= diesAtCall && diesAtCall != 0;
+        if (isDead && atDeath)
+            atDeath();
+        return isDead;
+    }
 
     class File : public OpenFile {
     public:
@@ -83,14 +89,13 @@ private:
         bool pwrite(std::string_view bytes, std::uint64_t offset) override {
             const int call = ++m_layer.writes;
             const int from = m_layer.failingWritesFrom;
-            const bool isDead = m_layer.isDead();
-            if (isDead && m_layer.calls > m_layer.diesAtCall)
-                return fail(EIO);
-            if (!isDead && call != m_layer.failingWrite && (from == 0 || call < from))
-                return m_file->pwrite(bytes, offset);
-            if (m_layer.tornBytes > 0)
+            const bool isLast = m_layer.calls + 1 == m_layer.diesAtCall;
+            const bool isFailing = call == m_layer.failingWrite || (from != 0 && call >= from);
+            if ((isLast || isFailing) && m_layer.tornBytes > 0)
                 m_file->pwrite(bytes.substr(0, m_layer.tornBytes), offset);
-            return fail(EIO);
+            if (m_layer.isDead() || isFailing)
+                return fail(EIO);
+            return m_file->pwrite(bytes, offset);
         }
         std::optional<FileAttributes> attributes() override {
             ++m_layer.attributeReads;
