@@ -249,6 +249,9 @@ Beispiele:
     <message id="cli_help_footer">
         <translation>Ergebnis: 0 erledigt, 1 bei manchen Dateien misslungen, 2 Aufruf falsch, 3 Bedenken vor dem Speichern und nichts geschrieben, 130 unterbrochen.</translation>
     </message>
+    <message id="cli_help_forget">
+        <translation>Gibt Dateien auf, die nicht in Ordnung zu bringen waren</translation>
+    </message>
     <message id="cli_help_gaps">
         <translation>Verteilt die Auswahl gleichmäßig zwischen ihrer ersten und letzten Aufnahme</translation>
     </message>
@@ -302,6 +305,12 @@ Beispiele:
     <message id="cli_help_pics">
         <translation>Die Auswahl: Namen bis zur nächsten Option, ORDNER/NAME oder Pfade, wo ein Name in mehreren Ordnern steht; oder all</translation>
     </message>
+    <message id="cli_help_resume">
+        <translation>Bringt in Ordnung, was unterbrochenes Sichern hinterließ</translation>
+    </message>
+    <message id="cli_help_resume_footer">
+        <translation>Jede Datei wird ganz alt oder ganz neu. Die anderen Befehle tun das ebenfalls, wenn sie beginnen. Rückgabewert 1: Eine Datei war nicht in Ordnung zu bringen.</translation>
+    </message>
     <message id="cli_help_reverse">
         <translation>Kehrt die Zeiten der Auswahl um: Die erste bekommt die der letzten</translation>
     </message>
@@ -329,8 +338,14 @@ Beispiele:
     <message id="cli_help_subfolders">
         <translation>Liest auch die Ordner darin, so viele Ebenen tief</translation>
     </message>
+    <message id="cli_help_syncXmp">
+        <translation>Gleicht XMP-Daten in und neben den Dateien an die neuen Daten an</translation>
+    </message>
     <message id="cli_help_systemZone">
         <translation>Steht anstelle der Zeitzone des Systems</translation>
+    </message>
+    <message id="cli_help_tagMissing">
+        <translation>Ergänzt fehlende Datumsfelder, wo ExifTool das kann</translation>
     </message>
     <message id="cli_help_targetZone">
         <translation>Zeitzone, in der die Zeiten stehen sollen; own lässt jeder Datei ihre eigene</translation>
@@ -407,8 +422,14 @@ Beispiele:
     <message id="cli_info_values">
         <translation>Werte in der Datei</translation>
     </message>
+    <message id="cli_interruptedRunWaits">
+        <translation>Ein unterbrochenes Sichern ist noch in Ordnung zu bringen, was ein Probelauf nicht tut: %1</translation>
+    </message>
     <message id="cli_list_summary">
         <translation>Aufnahmen: %1, Ordner: %2, ungespeichert: %3</translation>
+    </message>
+    <message id="cli_missingTags">
+        <translation>fehlende Datumsfelder erbeten in Dateien: %1</translation>
     </message>
     <message id="cli_note_emptyTags">
         <translation>Zeitfelder sind leer, bleibt wie sie ist</translation>
@@ -431,6 +452,9 @@ Beispiele:
     <message id="cli_progress_reading">
         <translation>Lesen von %1</translation>
     </message>
+    <message id="cli_recovered">
+        <translation>ein unterbrochenes Sichern wurde in Ordnung gebracht: %1</translation>
+    </message>
     <message id="cli_result_failed">
         <translation>%1 misslungen</translation>
     </message>
@@ -448,6 +472,15 @@ Beispiele:
     </message>
     <message id="cli_result_unchanged">
         <translation>%1 unverändert</translation>
+    </message>
+    <message id="cli_resume_forgotten">
+        <translation>%1 aufgegeben</translation>
+    </message>
+    <message id="cli_resume_left">
+        <translation>%1 nicht in Ordnung gebracht; sie bleiben für das nächste Mal vermerkt. Sind sie für immer fort: mend resume --forget</translation>
+    </message>
+    <message id="cli_resume_nothing">
+        <translation>Kein Sichern wurde unterbrochen.</translation>
     </message>
     <message id="cli_save_acceptWith">
         <translation>Trotzdem speichern: %1</translation>
@@ -490,6 +523,9 @@ Beispiele:
     </message>
     <message id="cli_slot_notStorable">
         <translation>lässt sich auf diesem System nicht speichern</translation>
+    </message>
+    <message id="cli_slot_refused">
+        <translation>abgelehnt</translation>
     </message>
     <message id="cli_slot_stays">
         <translation>bleibt</translation>
@@ -928,6 +964,21 @@ Beispiele:
     </message>
     <message id="xTError_ID_7">
         <translation>Kurze XMP-Daten konnten nicht verlängert werden:</translation>
+    </message>
+    <message id="cli_slot_toBeWritten">
+        <translation>wird an Ort und Stelle geschrieben</translation>
+    </message>
+    <message id="cli_slot_toBeWrittenByTool">
+        <translation>wird von ExifTool geschrieben</translation>
+    </message>
+    <message id="cli_slot_unchanged">
+        <translation>unverändert</translation>
+    </message>
+    <message id="cli_slot_written">
+        <translation>an Ort und Stelle geschrieben</translation>
+    </message>
+    <message id="cli_slot_writtenByTool">
+        <translation>von ExifTool geschrieben</translation>
     </message>
 </context>
 </TS>

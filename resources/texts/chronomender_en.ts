@@ -249,6 +249,9 @@ Examples:
     <message id="cli_help_footer">
         <translation>Exit codes: 0 done, 1 some item failed, 2 usage, 3 problems before the save and nothing written, 130 interrupted.</translation>
     </message>
+    <message id="cli_help_forget">
+        <translation>Gives up files that could not be put right</translation>
+    </message>
     <message id="cli_help_gaps">
         <translation>Spread the selection evenly between its first and its last item</translation>
     </message>
@@ -302,6 +305,12 @@ Examples:
     <message id="cli_help_pics">
         <translation>The selection: names up to the next option, FOLDER/NAME or paths where a name stands in several folders; or all</translation>
     </message>
+    <message id="cli_help_resume">
+        <translation>Puts right what interrupted saves left</translation>
+    </message>
+    <message id="cli_help_resume_footer">
+        <translation>Each file becomes entirely old or entirely new. The other commands do the same when they start. Exit code 1: some file could not be put right.</translation>
+    </message>
     <message id="cli_help_reverse">
         <translation>Swap the dates of the selection end for end</translation>
     </message>
@@ -329,8 +338,14 @@ Examples:
     <message id="cli_help_subfolders">
         <translation>Reads the folders inside as well, this many levels down</translation>
     </message>
+    <message id="cli_help_syncXmp">
+        <translation>Brings XMP data in the files and beside them into line with the new dates</translation>
+    </message>
     <message id="cli_help_systemZone">
         <translation>Stands in for the system’s time zone</translation>
+    </message>
+    <message id="cli_help_tagMissing">
+        <translation>Adds the date tags that files lack, where ExifTool can</translation>
     </message>
     <message id="cli_help_targetZone">
         <translation>Time zone in which dates are to be written; own keeps each file’s own</translation>
@@ -407,8 +422,14 @@ Examples:
     <message id="cli_info_values">
         <translation>values in the file</translation>
     </message>
+    <message id="cli_interruptedRunWaits">
+        <translation>An interrupted save waits to be put right, which a dry run leaves alone: %1</translation>
+    </message>
     <message id="cli_list_summary">
         <translation>items: %1, folders: %2, unsaved: %3</translation>
+    </message>
+    <message id="cli_missingTags">
+        <translation>missing date tags asked for in files: %1</translation>
     </message>
     <message id="cli_note_emptyTags">
         <translation>date tags are empty, left alone</translation>
@@ -431,6 +452,9 @@ Examples:
     <message id="cli_progress_reading">
         <translation>Reading %1</translation>
     </message>
+    <message id="cli_recovered">
+        <translation>an interrupted save was put right: %1</translation>
+    </message>
     <message id="cli_result_failed">
         <translation>%1 failed</translation>
     </message>
@@ -448,6 +472,15 @@ Examples:
     </message>
     <message id="cli_result_unchanged">
         <translation>%1 unchanged</translation>
+    </message>
+    <message id="cli_resume_forgotten">
+        <translation>%1 given up</translation>
+    </message>
+    <message id="cli_resume_left">
+        <translation>%1 not put right; they stay noted for the next time. Those that are gone for good: mend resume --forget</translation>
+    </message>
+    <message id="cli_resume_nothing">
+        <translation>No save was interrupted.</translation>
     </message>
     <message id="cli_save_acceptWith">
         <translation>To save anyway: %1</translation>
@@ -490,6 +523,9 @@ Examples:
     </message>
     <message id="cli_slot_notStorable">
         <translation>cannot be stored on this system</translation>
+    </message>
+    <message id="cli_slot_refused">
+        <translation>refused</translation>
     </message>
     <message id="cli_slot_stays">
         <translation>stays</translation>
@@ -928,6 +964,21 @@ Examples:
     </message>
     <message id="xTError_ID_7">
         <translation>Short XMP dates could not be extended:</translation>
+    </message>
+    <message id="cli_slot_toBeWritten">
+        <translation>to be written in place</translation>
+    </message>
+    <message id="cli_slot_toBeWrittenByTool">
+        <translation>to be written by ExifTool</translation>
+    </message>
+    <message id="cli_slot_unchanged">
+        <translation>unchanged</translation>
+    </message>
+    <message id="cli_slot_written">
+        <translation>written in place</translation>
+    </message>
+    <message id="cli_slot_writtenByTool">
+        <translation>written by ExifTool</translation>
     </message>
 </context>
 </TS>

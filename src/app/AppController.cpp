@@ -4,7 +4,6 @@
 #include "DateModifications.h"
 #include "MainThread.h"
 #include "MovieClock.h"
-#include "SupportFolders.h"
 
 #include <absl/time/clock.h>
 
@@ -24,6 +23,7 @@ AppController::AppController(AppServices services, ImportQuestions &questions)
       m_journal(supportFolder()),
       m_tool(
           {supportFolder(), [this] { return m_services.defaults->stringForKey("exifToolPath"); }}),
+      m_errorLog(supportFolder()),
       m_saveDriver(m_droppedFolders.droppedFolders(),
                    SaveServices{*m_services.files, *m_services.zones, *m_services.defaults, m_undo,
                                 m_cancellation, m_journal, m_tool, m_services.now,
@@ -39,6 +39,12 @@ AppController::~AppController() {
     mainThread::beginShutdown();
     m_importDriver.waitForDone();
     m_saveWorker.waitForDone();
+}
+
+std::vector<RecoveredFile> AppController::recoverInterruptedRuns() {
+    if (!hasInterruptedRuns())
+        return {};
+    return RunJournal::recover(supportFolder(), *m_services.files);
 }
 
 OpenFolderResult AppController::addFolder(const FolderRequest &request, MySingleFolderPtr *folder) {
@@ -99,6 +105,13 @@ std::size_t AppController::useAlternative(const std::vector<MySinglePicPtr> &ite
     return useAmbiguityAlternative(items, target, isAlternative, *m_services.zones, m_undo);
 }
 
+void AppController::addMissingDateTags(const std::vector<MySinglePicPtr> &items) {
+    for (const MySinglePicPtr &pic : items)
+        for (const MySinglePicPtr &half : {pic, pic->group.bundleDependentImage})
+            if (half)
+                setShouldAddExifDateTimeTags(*half, true);
+}
+
 AlignOutcome AppController::align(AlignCommand command, const AlignSelection &selection) {
     return realignSelection(command, selection, liveContext(), m_undo);
 }
@@ -138,11 +151,19 @@ void AppController::startContinueProcess(SaveRequest request, PreProcessResult p
     m_saveProgress = std::move(progress);
     m_saveWorker.run(
         [this, request = std::move(request), preProcess = std::move(preProcess)] {
-            return m_saveDriver.continueProcessThread(request, preProcess);
+            SaveRunResult result = m_saveDriver.continueProcessThread(request, preProcess);
+            logErrors(result);
+            return result;
         },
         [finished = std::move(finished), pause = m_systemZoneChange.pause()](SaveRunResult result) {
             finished(std::move(result));
         });
+}
+
+void AppController::logErrors(const SaveRunResult &result) const {
+    const std::string errors = actionErrorText(result.errors, result.toolErrors);
+    if (!errors.empty())
+        m_errorLog.append(m_services.now(), m_services.runName, errors);
 }
 
 } // namespace chronomender

@@ -4,12 +4,14 @@
 #include "Alignment.h"
 #include "AlternativeReading.h"
 #include "Cancellation.h"
+#include "ErrorLog.h"
 #include "FileLayer.h"
 #include "FolderDrag.h"
 #include "ImportDriver.h"
 #include "MyDroppedFolders.h"
 #include "SaveDriver.h"
 #include "SourceBuilder.h"
+#include "SupportFolders.h"
 #include "SystemZoneChange.h"
 #include "SystemZoneWatch.h"
 #include "UndoManager.h"
@@ -30,6 +32,7 @@ struct AppServices {
     std::unique_ptr<UserDefaults> defaults;
     std::unique_ptr<Zones> zones;
     std::function<Date()> now;
+    std::string runName = {}; ///< what the log of errors calls a run of this program
 };
 /// The operating system's files, zones and clock, and the user's stored preferences.
 AppServices systemServices();
@@ -57,6 +60,11 @@ public:
     UserDefaults &defaults() { return *m_services.defaults; }
     UndoManager &undoManager() { return m_undo; }
     Cancellation &cancellation() { return m_cancellation; }
+
+    /// Puts right what runs left that were killed, and tells of each file; nothing, at little cost,
+    /// when there was none. Whoever starts a session calls it first.
+    std::vector<RecoveredFile> recoverInterruptedRuns();
+    bool hasInterruptedRuns() const { return RunJournal::hasUnfinished(supportFolder()); }
 
     /// Makes the folder part of the session (without importing it) and says where its zones stand.
     /// `folder` takes the new folder, or with AlreadyOpen the one that is there.
@@ -93,6 +101,8 @@ public:
     /// Picks the reading of stamps that mean two instants; see useAmbiguityAlternative.
     std::size_t useAlternative(const std::vector<MySinglePicPtr> &items, AlternativeTarget target,
                                bool isAlternative);
+    /// Asks for the missing date tags of items, and of their other halves, where they can be added.
+    void addMissingDateTags(const std::vector<MySinglePicPtr> &items);
     /// Puts a selection in order; see realignSelection.
     AlignOutcome align(AlignCommand command, const AlignSelection &selection);
 
@@ -108,12 +118,13 @@ public:
     /// Stage one of a save; nothing is written.
     void startPreProcess(SaveRequest request, Progress progress,
                          std::function<void(PreProcessResult)> finished);
-    /// Stage two. Problems in `preProcess` count as accepted.
+    /// Stage two. Problems in `preProcess` count as accepted. Errors go to the log, too.
     void startContinueProcess(SaveRequest request, PreProcessResult preProcess, Progress progress,
                               std::function<void(SaveRunResult)> finished);
 
 private:
     int dateComparisonThresold() const;
+    void logErrors(const SaveRunResult &result) const;
 
     AppServices m_services;
     Cancellation m_cancellation;
@@ -126,6 +137,7 @@ private:
     Progress m_saveProgress;
     RunJournal m_journal;
     XtController m_tool;
+    ErrorLog m_errorLog;
     SaveDriver m_saveDriver;
     WorkThread m_saveWorker;
 };

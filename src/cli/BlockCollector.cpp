@@ -100,6 +100,10 @@ const BlockCollector::BlockHandler BlockCollector::blockHandlers[] =
              collector.setOnce(block.path, block.subfolderDepth, typed, parseDepth(typed.value),
                                "cli_error_badDepth");
          }},
+        {OptionId::TagMissing,
+         [](BlockCollector &collector, FolderBlock &block, const Typed &typed) {
+             collector.setOnce(block.path, block.tagsMissing, typed, std::optional(true), "");
+         }},
 };
 
 const BlockCollector::RunHandler BlockCollector::runHandlers[] = {
@@ -127,6 +131,11 @@ const BlockCollector::RunHandler BlockCollector::runHandlers[] = {
      [](BlockCollector &c, const std::string &value) { c.m_line.align.pics.push_back(value); }},
     {OptionId::Main,
      [](BlockCollector &c, const std::string &value) { c.m_line.align.mainPic = value; }},
+    {OptionId::SyncXmp,
+     [](BlockCollector &c,
+        const std::string &) { c.m_line.settings.emplace_back("syncXMPDataOnSave", "1"); }},
+    {OptionId::Forget,
+     [](BlockCollector &c, const std::string &) { c.m_line.isForgetting = true; }},
     {OptionId::Save, [](BlockCollector &c, const std::string &) { c.m_line.isDryRun = false; }},
 };
 
@@ -169,7 +178,7 @@ void BlockCollector::openBlock(const std::string &path, bool isPlain) {
 
 void BlockCollector::finish() {
     closePic();
-    if (m_line.blocks.empty())
+    if (m_line.blocks.empty() && m_line.command != Command::Resume)
         fail(text("cli_error_noPaths"));
     if (m_line.command == Command::Align)
         checkAlignment();

@@ -4,6 +4,7 @@
 #include "BlockCollector.h"
 #include "OptionTable.h"
 #include "Texts.h"
+#include "Utf8Text.h"
 
 #include <CLI/CLI.hpp>
 
@@ -27,6 +28,7 @@ constexpr CommandDescription commandTable[]{
     {Command::Info, "info", "cli_help_info", "cli_help_info_footer"},
     {Command::Save, "save", "cli_help_save", "cli_help_save_footer"},
     {Command::Align, "align", "cli_help_align", "cli_help_align_footer"},
+    {Command::Resume, "resume", "cli_help_resume", "cli_help_resume_footer"},
 };
 
 const OptionDescription *findOption(const std::string &name) {
@@ -68,11 +70,8 @@ public:
         m_app->footer(text(description.footerKey));
         m_app->set_help_flag("-h,--help", text("cli_help_help"));
         m_app->fallthrough();
-        const bool isInfo = m_command == Command::Info;
-        CLI::Option *paths = m_app->add_option(isInfo ? "FILE" : "PATH", m_values[nullptr],
-                                               text(isInfo ? "cli_help_file" : "cli_help_path"));
-        paths->type_name("")->expected(-1);
-        m_options[paths] = nullptr;
+        if (m_command != Command::Resume)
+            addPaths();
         for (const OptionDescription &option : optionTable)
             if (option.commands & commandBit(m_command))
                 addOption(option);
@@ -80,7 +79,7 @@ public:
 
     bool wasChosen() const { return m_app->parsed(); }
 
-    ParsedCommandLine collect() const {
+    ParsedCommandLine collect(const std::string &typed) const {
         BlockCollector collector(m_command);
         std::map<const CLI::Option *, std::size_t> taken;
         for (const CLI::Option *option : m_app->parse_order()) {
@@ -97,10 +96,20 @@ public:
         collector.finish();
         if (collector.error())
             return ParseEnd{2, "", "mend: " + *collector.error() + '\n'};
-        return collector.line();
+        CommandLine line = collector.line();
+        line.typed = typed;
+        return line;
     }
 
 private:
+    void addPaths() {
+        const bool isInfo = m_command == Command::Info;
+        CLI::Option *paths = m_app->add_option(isInfo ? "FILE" : "PATH", m_values[nullptr],
+                                               text(isInfo ? "cli_help_file" : "cli_help_path"));
+        paths->type_name("")->expected(-1);
+        m_options[paths] = nullptr;
+    }
+
     void addOption(const OptionDescription &description) {
         CLI::Option *option = nullptr;
         if (*description.valueName) {
@@ -125,6 +134,16 @@ private:
     std::map<const CLI::Option *, const OptionDescription *> m_options;
 };
 
+std::string typedText(const std::vector<std::string> &arguments) {
+    std::string typed = "mend";
+    for (const std::string &argument : arguments) {
+        const bool isPlain =
+            !argument.empty() && argument.find_first_of(" '\"") == std::string::npos;
+        typed += ' ' + (isPlain ? printable(argument) : '\'' + printable(argument) + '\'');
+    }
+    return typed;
+}
+
 ParseEnd endOf(const CLI::App &app, const CLI::ParseError &error) {
     std::ostringstream output, errors;
     const int code = app.exit(error, output, errors);
@@ -146,6 +165,7 @@ ParsedCommandLine parseCommandLine(std::vector<std::string> arguments) {
     std::vector<std::unique_ptr<CommandParser>> parsers;
     for (const CommandDescription &description : commandTable)
         parsers.push_back(std::make_unique<CommandParser>(root, description));
+    const std::string typed = typedText(arguments);
     shieldBrackets(arguments);
     std::reverse(arguments.begin(), arguments.end()); // the library takes them from the end
     try {
@@ -155,7 +175,7 @@ ParsedCommandLine parseCommandLine(std::vector<std::string> arguments) {
     }
     const auto chosen = std::find_if(parsers.begin(), parsers.end(),
                                      [](const auto &parser) { return parser->wasChosen(); });
-    return (*chosen)->collect();
+    return (*chosen)->collect(typed);
 }
 
 std::string languageArgument(const std::vector<std::string> &arguments) {

@@ -46,6 +46,7 @@ struct FolderBlock : Correction {
     std::optional<MovieClock> movieClock;
     std::optional<std::string> filterExt, filterExtNot; ///< as typed; never both
     std::optional<int> subfolderDepth;                  ///< 0: no folders inside the folder
+    std::optional<bool> tagsMissing; ///< date tags that a file lacks are to be added
 };
 
 /// What `mend align` is to do.
@@ -55,7 +56,7 @@ struct AlignWish {
     std::optional<std::string> mainPic; ///< likewise; none: the first of the selection
 };
 
-enum class Command : std::uint8_t { List, Info, Save, Align };
+enum class Command : std::uint8_t { List, Info, Save, Align, Resume };
 
 /// What the user asked for, checked as far as that goes without looking at the disk.
 struct CommandLine {
@@ -68,7 +69,9 @@ struct CommandLine {
     AlignWish align;
     bool isJson = false, isDryRun = false, savesAll = false;
     bool acceptsAll = false;
+    bool isForgetting = false; ///< (resume) files that cannot be put right are given up
     std::set<PreSaveProblem> accepted;
+    std::string typed; ///< the whole line as it could be typed, without what a terminal obeys
 };
 
 /// The run ends here: help or version was asked for (code 0), or the arguments are wrong (code 2).

@@ -19,5 +19,6 @@ int runList(const CommandLine &line);
 int runInfo(const CommandLine &line);
 int runSave(const CommandLine &line);
 int runAlign(const CommandLine &line);
+int runResume(const CommandLine &line);
 
 } // namespace chronomender

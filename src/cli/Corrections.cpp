@@ -27,6 +27,8 @@ public:
         auto complaint = findPics();
         if (!complaint)
             setZones();
+        if (!complaint && m_plan.block.tagsMissing)
+            m_controller.addMissingDateTags(m_folder.sfPicDetails_fullArray);
         if (!complaint)
             complaint = shiftFolder();
         for (std::size_t i = 0; i < m_pics.size() && !complaint; ++i)

@@ -9,8 +9,8 @@
 namespace chronomender {
 
 /// Carries out what the command line says about an imported folder: zones of single items, then
-/// shifts, then the readings of stamps that mean two instants. (The folder's own zones hold since
-/// it was opened.) A name that means no item is a complaint. Main thread.
+/// missing tags, shifts, then the readings of stamps that mean two instants. (The folder's own
+/// zones hold since it was opened.) A name that means no item is a complaint. Main thread.
 std::optional<Complaint> correct(AppController &controller, const FolderPlan &plan,
                                  MySingleFolder &folder);
 

@@ -6,6 +6,7 @@
 #include "EventLoopWait.h"
 #include "FolderChoices.h"
 #include "ProgressBar.h"
+#include "RecoveryTexts.h"
 #include "Texts.h"
 #include "Utf8Text.h"
 
@@ -35,6 +36,7 @@ const char *complaintKey(OpenFolderResult result) {
 
 std::optional<int> MendSession::open(const Opening &opening) {
     AppServices services = systemServices();
+    services.runName = m_line.typed;
     auto complaint = applySettings(services);
     FolderPlans plans;
     if (!complaint) {
@@ -48,6 +50,7 @@ std::optional<int> MendSession::open(const Opening &opening) {
         ImportQuestions &questions = *this;
         m_controller = std::make_unique<AppController>(std::move(services), questions);
         m_interruption.emplace(m_controller->cancellation());
+        recoverInterruptedRuns();
         m_controller->setFolderAdded(
             [this](const MySingleFolderPtr &folder, const MySingleFolderPtr &parent) {
                 m_importOptions[folder.get()] = m_importOptions.at(parent.get());
@@ -66,6 +69,7 @@ std::optional<int> MendSession::open(const Opening &opening) {
     }
     m_controller->buildNewSource();
     tellLeftAlone();
+    tellMissingTags();
     return std::nullopt;
 }
 
@@ -90,6 +94,18 @@ std::optional<Complaint> MendSession::applySettings(AppServices &services) const
         }
     }
     return std::nullopt;
+}
+
+/// A run that is to write nothing leaves even that to another.
+void MendSession::recoverInterruptedRuns() {
+    if (m_line.isDryRun) {
+        if (m_controller->hasInterruptedRuns())
+            complain(text("cli_interruptedRunWaits", {"mend resume"}));
+        return;
+    }
+    for (const RecoveredFile &file : m_controller->recoverInterruptedRuns())
+        if (file.result != RecoveredFile::Result::Nothing)
+            complain(text("cli_recovered", {recoveryText(file)}));
 }
 
 void MendSession::failPath(const std::string &message) {
@@ -200,6 +216,17 @@ void MendSession::tellLeftAlone() const {
         complain(text("cli_emptyTagsLeftAlone", {std::to_string(count)}));
 }
 
+void MendSession::tellMissingTags() const {
+    const auto isAsked = [](const FolderPlan &plan) { return plan.block.tagsMissing.has_value(); };
+    if (std::ranges::none_of(m_plans, isAsked))
+        return;
+    std::size_t files = 0;
+    for (const MySinglePicPtr &pic : m_controller->source_full())
+        for (const MySinglePicPtr &half : {pic, pic->group.bundleDependentImage})
+            files += half && half->save.shouldAddExifDateTimeTags ? 1 : 0;
+    complain(text("cli_missingTags", {std::to_string(files)}));
+}
+
 /// Never asked for: every folder says so before its import.
 MovieOptions MendSession::movieOptions(const MySingleFolder &folder) {
     return {folder.isQuicktimeMDTADateEnabled, folder.isQuicktimeMVHDTimezoneCorrectionEnabled};
@@ -215,13 +242,6 @@ int settledCode(const MendSession &session, int code) {
     return session.wasInterrupted()   ? exitInterrupted
            : session.hasFailedPaths() ? exitItemFailed
                                       : exitDone;
-}
-
-int codeAfterWriting(WriteResult written, int code) {
-    if (written != WriteResult::Failed)
-        return code;
-    complain(text("cli_error_outputFailed"));
-    return code == exitDone ? exitItemFailed : code;
 }
 
 } // namespace chronomender

@@ -52,7 +52,9 @@ private:
     void import(const FolderPlan &plan, const MySingleFolderPtr &folder,
                 CompletionScope completion);
     void tellSkipped(const FolderPlan &plan, const std::vector<SkippedEntry> &skipped);
+    void recoverInterruptedRuns();
     void tellLeftAlone() const;
+    void tellMissingTags() const;
     void failPath(const std::string &message);
 
     const CommandLine &m_line;
@@ -68,7 +70,4 @@ private:
 /// The exit code of a command whose own work ended with `code`: an interruption, or a path that
 /// failed, makes a good end a bad one.
 int settledCode(const MendSession &session, int code);
-/// The same once the output is out.
-int codeAfterWriting(WriteResult written, int code);
-
 } // namespace chronomender

@@ -22,6 +22,7 @@ enum class OptionId : std::uint8_t {
     FilterExt,
     FilterExtNot,
     Subfolders,
+    TagMissing,
     DateSequence,
     Set,
     SystemZone,
@@ -38,6 +39,8 @@ enum class OptionId : std::uint8_t {
     Pics,
     Main,
     Save,
+    SyncXmp,
+    Forget,
 };
 
 /// One option of a command: which commands have it, and what it belongs to.
@@ -57,9 +60,10 @@ constexpr unsigned commandBit(Command command) {
 inline constexpr unsigned ofInfo = commandBit(Command::Info);
 inline constexpr unsigned ofSave = commandBit(Command::Save);
 inline constexpr unsigned ofAlign = commandBit(Command::Align);
+inline constexpr unsigned ofResume = commandBit(Command::Resume);
 inline constexpr unsigned ofFolders = commandBit(Command::List) | ofInfo | ofSave | ofAlign;
 
-inline constexpr std::array<OptionDescription, 28> optionTable{{
+inline constexpr std::array<OptionDescription, 31> optionTable{{
     {OptionId::Folder, "--folder", "PATH", "cli_help_folder", true, ofFolders},
     {OptionId::Shift, "--shift", "SPEC", "cli_help_shift", true, ofFolders},
     {OptionId::Pic, "--pic", "NAME", "cli_help_pic", true, ofFolders},
@@ -73,6 +77,7 @@ inline constexpr std::array<OptionDescription, 28> optionTable{{
     {OptionId::FilterExt, "--filter-ext", "LIST", "cli_help_filterExt", true, ofFolders},
     {OptionId::FilterExtNot, "--filter-ext-not", "LIST", "cli_help_filterExtNot", true, ofFolders},
     {OptionId::Subfolders, "--subfolders", "DEPTH", "cli_help_subfolders", true, ofFolders},
+    {OptionId::TagMissing, "--tag-missing", "", "cli_help_tagMissing", true, ofFolders},
     {OptionId::Gaps, "--gaps", "", "cli_help_gaps", false, ofAlign},
     {OptionId::Pack, "--pack", "", "cli_help_pack", false, ofAlign},
     {OptionId::ByName, "--by-name", "", "cli_help_byName", false, ofAlign},
@@ -87,7 +92,9 @@ inline constexpr std::array<OptionDescription, 28> optionTable{{
     {OptionId::DryRun, "--dry-run", "", "cli_help_dryRun", false, ofSave},
     {OptionId::Accept, "--accept", "KEY|all", "cli_help_accept", false, ofSave | ofAlign},
     {OptionId::All, "--all", "", "cli_help_all", false, ofSave},
-    {OptionId::Json, "--json", "", "cli_help_json", false, ofFolders},
+    {OptionId::SyncXmp, "--sync-xmp", "", "cli_help_syncXmp", false, ofSave | ofAlign},
+    {OptionId::Forget, "--forget", "", "cli_help_forget", false, ofResume},
+    {OptionId::Json, "--json", "", "cli_help_json", false, ofFolders | ofResume},
     {OptionId::Set, "--set", "KEY=VALUE", "cli_help_set", false, ofFolders},
     {OptionId::SystemZone, "--system-zone", "NAME", "cli_help_systemZone", false, ofFolders},
 }};

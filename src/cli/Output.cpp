@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Output.h"
 
+#include "Commands.h"
 #include "Parallel.h"
+#include "Texts.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -40,6 +42,13 @@ void writeError(std::string_view bytes) {
 
 void complain(const std::string &message) {
     writeError("mend: " + message + '\n');
+}
+
+int codeAfterWriting(WriteResult written, int code) {
+    if (written != WriteResult::Failed)
+        return code;
+    complain(text("cli_error_outputFailed"));
+    return code == exitDone ? exitItemFailed : code;
 }
 
 std::vector<std::string>

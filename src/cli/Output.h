@@ -19,6 +19,9 @@ void writeError(std::string_view bytes);
 /// One line to standard error, with the program's name in front.
 void complain(const std::string &message);
 
+/// The exit code of a command that would have ended with `code`, once its output is out.
+int codeAfterWriting(WriteResult written, int code);
+
 /// Builds text for 0 ≤ index < count by appending to a buffer, on all processors, and answers the
 /// pieces in order. `append` is called on several threads.
 std::vector<std::string>

@@ -2,7 +2,7 @@
 #include "SaveReport.h"
 
 #include "JsonLine.h"
-#include "SlotTexts.h"
+#include "Output.h"
 #include "Texts.h"
 #include "Utf8Text.h"
 
@@ -46,6 +46,24 @@ void appendProblems(JsonLine &line, const std::vector<PreSaveFinding> &problems)
     line.end();
 }
 
+std::string descriptionOf(const SaveError &error) {
+    const std::string id = std::to_string(static_cast<int>(error.id));
+    return error.systemText.empty() ? text("errorPanelDescriptionText_ID" + id) : error.systemText;
+}
+
+/// Why nothing was written to the file, or would be.
+std::string reasonOf(const ItemOutcome &outcome) {
+    if (!outcome.errors.empty())
+        return descriptionOf(outcome.errors.front());
+    return outcome.problems.empty() ? std::string()
+                                    : problemTitle(outcome.problems.front().problem);
+}
+
+bool isNothingWritten(ReportedResult result) {
+    return result == ReportedResult::Refused || result == ReportedResult::Failed ||
+           result == ReportedResult::NotReached;
+}
+
 } // namespace
 
 std::string_view resultName(ReportedResult result) {
@@ -57,12 +75,13 @@ std::string_view resultName(ReportedResult result) {
 
 SaveReport::SaveReport(AppController &controller, const std::vector<MySingleFolderPtr> &folders,
                        const std::vector<ItemOutcome> &items, Stage stage,
-                       std::set<PreSaveProblem> accepted)
+                       std::set<PreSaveProblem> accepted, const ItemZones &zones)
     : m_controller(controller),
       m_paths(folders),
       m_items(items),
       m_stage(stage),
-      m_accepted(std::move(accepted)) {
+      m_accepted(std::move(accepted)),
+      m_zones(zones) {
     for (const ItemOutcome &outcome : items)
         m_outcomes.emplace(outcome.pic.get(), &outcome);
 }
@@ -134,8 +153,11 @@ void SaveReport::appendItem(std::string &buffer, const MySinglePic &pic,
             line.element(static_cast<std::int64_t>(error.id));
     line.end();
     appendProblems(line, outcome ? outcome->problems : std::vector<PreSaveFinding>());
-    appendSlots(line, outcome ? slotViews(*outcome, folder, m_controller.zones())
-                              : std::vector<SlotView>());
+    std::vector<SlotView> slots = outcome ? slotsOf(*outcome) : std::vector<SlotView>();
+    for (SlotView &slot : slots)
+        if (slot.result == SlotResult::Refused && slot.reason.empty())
+            slot.reason = reasonOf(*outcome);
+    appendSlots(line, slots);
     line.finish();
 }
 
@@ -158,27 +180,43 @@ std::string SaveReport::jsonLines(const Summary &summary) const {
     return buffer;
 }
 
-void SaveReport::appendPlanned(std::string &buffer, const ItemOutcome &outcome) const {
+/// Of a file that was not written, no slot is.
+std::vector<SlotView> SaveReport::slotsOf(const ItemOutcome &outcome) const {
+    const auto zones = m_zones.find(outcome.pic.get());
+    std::vector<SlotView> slots =
+        slotViews(outcome, zones == m_zones.end() ? SlotZones() : zones->second);
+    if (isNothingWritten(resultOf(outcome)))
+        for (SlotView &slot : slots)
+            if (slot.result == SlotResult::WrittenInPlace ||
+                slot.result == SlotResult::WrittenByTool)
+                slot.result = SlotResult::Refused;
+    return slots;
+}
+
+void SaveReport::appendTable(std::string &buffer, const ItemOutcome &outcome) const {
     const MySingleFolderPtr folder = outcome.pic->spSingleRealFolder();
-    if (!folder)
+    const ReportedResult result = resultOf(outcome);
+    if (!folder || result == ReportedResult::Unchanged || result == ReportedResult::NotReached)
         return;
     buffer += printable(m_paths.path(*folder, *outcome.pic)) + '\n';
     Table table("    ");
-    addSlotRows(table, slotViews(outcome, *folder, m_controller.zones()));
+    addSlotRows(table, slotsOf(outcome),
+                m_stage == Stage::Run ? SlotTense::Done : SlotTense::Planned);
     buffer += table.text();
-    if (outcome.pic->importState.isExtraHardLink)
+    if (m_stage == Stage::Plan && outcome.pic->importState.isExtraHardLink)
         buffer += "    " + text("cli_save_hardLinks") + '\n';
+    for (const SaveError &error : outcome.errors)
+        buffer += "    " + descriptionOf(error) + '\n';
     for (const PreSaveFinding &finding : outcome.problems)
         buffer += "    " + std::string(key(finding.problem)) + ": " +
                   problemTitle(finding.problem) +
                   (finding.detail.empty() ? "" : " (" + finding.detail + ')') + '\n';
 }
 
-std::string SaveReport::plannedText() const {
-    std::string buffer;
-    for (const ItemOutcome &outcome : m_items)
-        appendPlanned(buffer, outcome);
-    return buffer;
+std::vector<std::string> SaveReport::slotTable() const {
+    return buildPieces(m_items.size(), [this](std::size_t i, std::string &buffer) {
+        appendTable(buffer, m_items[i]);
+    });
 }
 
 std::string SaveReport::problemText() const {

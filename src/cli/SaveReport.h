@@ -3,6 +3,7 @@
 
 #include "AppController.h"
 #include "ItemTexts.h"
+#include "SlotTexts.h"
 
 #include <map>
 #include <set>
@@ -27,10 +28,13 @@ std::string_view resultName(ReportedResult result);
 class SaveReport {
 public:
     enum class Stage : bool { Plan, Run };
-    /// `items` are those of the plan, or of the run once there was one; they outlive the report.
+    /// Of each item, as they were before the run; needed for a text alone.
+    using ItemZones = std::unordered_map<const MySinglePic *, SlotZones>;
+    /// `items` are those of the plan, or of the run once there was one; they and the zones outlive
+    /// the report.
     SaveReport(AppController &controller, const std::vector<MySingleFolderPtr> &folders,
                const std::vector<ItemOutcome> &items, Stage stage,
-               std::set<PreSaveProblem> accepted);
+               std::set<PreSaveProblem> accepted, const ItemZones &zones);
 
     struct Summary {
         bool isDryRun = false, wasInterrupted = false;
@@ -39,8 +43,9 @@ public:
     /// A line for each file of the session, in display order (a dependent behind its master), and
     /// a summary.
     std::string jsonLines(const Summary &summary) const;
-    /// Every slot old → new, for a dry run.
-    std::string plannedText() const;
+    /// Every slot of each file old → new, with what became of it, or would; files with nothing to
+    /// do are left out, and so are those that were not reached.
+    std::vector<std::string> slotTable() const;
     /// The problems by key, with the option that accepts each.
     std::string problemText() const;
     /// Items that an interruption left.
@@ -57,7 +62,8 @@ private:
     const ItemOutcome *outcomeOf(const MySinglePic &pic) const;
     void appendItem(std::string &buffer, const MySinglePic &pic,
                     const MySingleFolder &folder) const;
-    void appendPlanned(std::string &buffer, const ItemOutcome &outcome) const;
+    void appendTable(std::string &buffer, const ItemOutcome &outcome) const;
+    std::vector<SlotView> slotsOf(const ItemOutcome &outcome) const;
     std::string affectedText(PreSaveProblem problem) const;
     std::string path(const MySinglePic &pic) const;
 
@@ -66,6 +72,7 @@ private:
     const std::vector<ItemOutcome> &m_items;
     Stage m_stage;
     std::set<PreSaveProblem> m_accepted;
+    const ItemZones &m_zones;
     std::unordered_map<const MySinglePic *, const ItemOutcome *> m_outcomes;
 };
 

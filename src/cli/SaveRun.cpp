@@ -24,16 +24,19 @@ public:
         m_plan = preProcess();
         if (m_plan.wasCancelled || m_session.wasInterrupted())
             return finish(m_plan.items, Stage::Plan, exitInterrupted);
+        if (!m_session.line().isJson)
+            takeZones();
         if (m_plan.items.empty())
             return finish(m_plan.items, Stage::Plan, exitDone);
         const bool needsConsent = hasUnacceptedProblem();
         if (m_session.line().isDryRun || needsConsent)
             return finish(m_plan.items, Stage::Plan,
-                          needsConsent ? exitProblems : exitCodeOf(m_plan.items), plannedErrors());
+                          needsConsent ? exitProblems : exitCodeOf(m_plan.items),
+                          actionErrorText(plannedErrors()));
         const SaveRunResult result = continueProcess();
         return finish(result.items, Stage::Run,
                       result.wasCancelled ? exitInterrupted : exitCodeOf(result.items),
-                      result.errors);
+                      actionErrorText(result.errors, result.toolErrors));
     }
 
 private:
@@ -44,6 +47,13 @@ private:
         return waitFor<PreProcessResult>([&](auto finished) {
             m_session.controller().startPreProcess(m_request, progressTo(bar), finished);
         });
+    }
+
+    void takeZones() {
+        for (const ItemOutcome &item : m_plan.items)
+            if (const MySingleFolderPtr folder = item.pic->spSingleRealFolder())
+                m_zones.emplace(item.pic.get(),
+                                slotZones(*item.pic, *folder, m_session.controller().zones()));
     }
 
     SaveRunResult continueProcess() {
@@ -87,16 +97,16 @@ private:
     }
 
     int finish(const std::vector<ItemOutcome> &items, Stage stage, int code,
-               const std::vector<SaveError> &errors = {}) {
+               const std::string &errors = {}) {
         const int exitCode = settledCode(m_session, code);
         const SaveReport report(m_session.controller(), m_session.folders(), items, stage,
-                                acceptedProblems());
+                                acceptedProblems(), m_zones);
         const bool isInterrupted = exitCode == exitInterrupted;
         const CommandLine &line = m_session.line();
         const WriteResult written =
-            writeOutput(line.isJson ? report.jsonLines({line.isDryRun, isInterrupted, exitCode})
-                                    : reportText(report, stage, exitCode));
-        writeError(actionErrorText(errors));
+            line.isJson ? writeOutput(report.jsonLines({line.isDryRun, isInterrupted, exitCode}))
+                        : writeOutput(reportText(report, stage, exitCode));
+        writeError(errors);
         return codeAfterWriting(written, exitCode);
     }
 
@@ -108,22 +118,24 @@ private:
                                                           : "cli_save_dryRunNothingWritten";
     }
 
-    std::string reportText(const SaveReport &report, Stage stage, int exitCode) const {
-        std::string out;
-        if (m_session.line().isDryRun)
-            out += report.plannedText();
-        out += report.problemText();
-        out += report.notReachedText();
-        out += report.summaryText();
+    std::vector<std::string> reportText(const SaveReport &report, Stage stage, int exitCode) const {
+        std::vector<std::string> pieces;
+        // Where consent is missing, the problems are what counts, unless all was asked for.
+        if (stage == Stage::Run || m_session.line().isDryRun)
+            pieces = report.slotTable();
+        pieces.push_back(report.problemText() + report.notReachedText() + report.summaryText() +
+                         endingText(report, stage, exitCode));
+        return pieces;
+    }
+
+    std::string endingText(const SaveReport &report, Stage stage, int exitCode) const {
         if (exitCode == exitInterrupted && stage == Stage::Plan)
-            out += text("cli_save_interruptedBefore") + '\n';
-        else if (report.count(ReportedResult::NotReached) > 0)
-            out += text("cli_save_interrupted") + '\n';
-        else if (report.isEmpty())
-            out += text("cli_save_nothingToSave") + '\n';
-        else if (stage == Stage::Plan)
-            out += text(planEndingKey(exitCode)) + '\n';
-        return out;
+            return text("cli_save_interruptedBefore") + '\n';
+        if (report.count(ReportedResult::NotReached) > 0)
+            return text("cli_save_interrupted") + '\n';
+        if (report.isEmpty())
+            return text("cli_save_nothingToSave") + '\n';
+        return stage == Stage::Plan ? text(planEndingKey(exitCode)) + '\n' : std::string();
     }
 
     std::set<PreSaveProblem> acceptedProblems() const {
@@ -138,6 +150,7 @@ private:
     MendSession &m_session;
     SaveRequest m_request;
     PreProcessResult m_plan;
+    SaveReport::ItemZones m_zones;
 };
 
 } // namespace

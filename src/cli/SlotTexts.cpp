@@ -6,21 +6,38 @@
 #include "ZoneLookup.h"
 
 #include <algorithm>
+#include <array>
 
 namespace chronomender {
 namespace {
 
 constexpr std::string_view creationSlot = "fileCreationDate";
 
-/// Stamps are told as the file tells them; file dates, which have no zone, as the item's date.
-void takeZones(SlotView &view, const MySinglePic &pic, const MySingleFolder &folder,
-               const Zones &zones) {
-    view.oldZone = view.newZone = targetTimeZoneForPic(pic, folder, zones).rules;
-    for (const StampSlot slot : stampSlots)
-        if (description(slot).name == view.name) {
-            view.oldZone = sourceZoneForSlot(pic, slot, folder, zones).rules;
-            view.newZone = targetZoneForSlot(pic, slot, folder, zones).rules;
-        }
+struct SlotResultTexts {
+    SlotResult result;
+    std::string_view name;
+    const char *plannedKey, *doneKey;
+};
+constexpr std::array<SlotResultTexts, 5> slotResults{{
+    {SlotResult::Unchanged, "unchanged", "cli_slot_unchanged", "cli_slot_unchanged"},
+    {SlotResult::WrittenInPlace, "writtenInPlace", "cli_slot_toBeWritten", "cli_slot_written"},
+    {SlotResult::WrittenByTool, "writtenByTool", "cli_slot_toBeWrittenByTool",
+     "cli_slot_writtenByTool"},
+    {SlotResult::Refused, "refused", "cli_slot_refused", "cli_slot_refused"},
+    {SlotResult::NotStorable, "notStorable", "cli_slot_notStorable", "cli_slot_notStorable"},
+}};
+
+const SlotResultTexts &textsOf(SlotResult result) {
+    return *std::ranges::find(slotResults, result, &SlotResultTexts::result);
+}
+
+bool isWritten(SlotResult result) {
+    return result == SlotResult::WrittenInPlace || result == SlotResult::WrittenByTool;
+}
+
+void takeZones(SlotView &view, const SlotZones &zones, std::size_t slot) {
+    view.oldZone = zones.oldZones[slot];
+    view.newZone = zones.newZones[slot];
 }
 
 /// The distant past marks a tag that is to be added: nothing that a person could read.
@@ -42,36 +59,54 @@ SlotView slotView(std::string_view name, const OptionalDate &oldDate, const Opti
 
 } // namespace
 
+/// Stamps are told as the file tells them; file dates, which have no zone, as the item's date.
+SlotZones slotZones(const MySinglePic &pic, const MySingleFolder &folder, const Zones &zones) {
+    SlotZones result;
+    result.oldZones.fill(targetTimeZoneForPic(pic, folder, zones).rules);
+    result.newZones = result.oldZones;
+    for (std::size_t i = 0; i < stampSlots.size(); ++i) {
+        result.oldZones[i] = sourceZoneForSlot(pic, stampSlots[i], folder, zones).rules;
+        result.newZones[i] = targetZoneForSlot(pic, stampSlots[i], folder, zones).rules;
+    }
+    return result;
+}
+
 std::vector<SlotView> slotViews(const MySinglePic &pic, const MySingleFolder &folder,
                                 const Zones &zones) {
+    const SlotZones itsZones = slotZones(pic, folder, zones);
     std::vector<SlotView> views;
-    for (const SlotDescription &slot : slotDescriptions) {
+    for (std::size_t i = 0; i < slotDescriptions.size(); ++i) {
+        const SlotDescription &slot = slotDescriptions[i];
         const OptionalDate oldDate = readable(pic.slots.*slot.oldDate);
         const OptionalDate newDate = readable(pic.slots.*slot.newDate);
         if (!oldDate && !newDate)
             continue;
         const bool isStorable = slot.name != creationSlot || newDate == oldDate;
         views.push_back(slotView(slot.name, oldDate, newDate, isStorable));
-        takeZones(views.back(), pic, folder, zones);
+        takeZones(views.back(), itsZones, i);
     }
     return views;
 }
 
-std::vector<SlotView> slotViews(const ItemOutcome &outcome, const MySingleFolder &folder,
-                                const Zones &zones) {
+std::vector<SlotView> slotViews(const ItemOutcome &outcome, const SlotZones &zones) {
     std::vector<SlotView> views;
-    for (const SlotOutcome &slot : outcome.slots) {
+    for (std::size_t i = 0; i < outcome.slots.size(); ++i) {
+        const SlotOutcome &slot = outcome.slots[i];
         const OptionalDate oldDate = readable(slot.oldDate);
         const OptionalDate wanted = readable(slot.newDate);
         const OptionalDate newDate =
             slot.result == SlotResult::Unchanged || !wanted ? oldDate : wanted;
         if (!oldDate && !newDate)
             continue;
-        const bool isStorable = slot.result != SlotResult::NotStorable;
-        views.push_back(slotView(slot.slot, oldDate, newDate, isStorable));
+        SlotView view =
+            slotView(slot.slot, oldDate, newDate, slot.result != SlotResult::NotStorable);
         // The same instant told in another zone is other bytes in the file.
-        views.back().stays = views.back().stays && slot.result != SlotResult::WrittenInPlace;
-        takeZones(views.back(), *outcome.pic, folder, zones);
+        view.stays = view.stays && !isWritten(slot.result);
+        view.result = slot.result;
+        if (!slot.reasonKey.empty())
+            view.reason = text(slot.reasonKey);
+        takeZones(view, zones, i);
+        views.push_back(std::move(view));
     }
     return views;
 }
@@ -85,25 +120,40 @@ void appendSlots(JsonLine &line, const std::vector<SlotView> &slots) {
         if (slot.newDate)
             line.field("new",
                        *slot.newDate == InfiniteFuture() ? "at save" : utcText(*slot.newDate));
-        line.flag("stays", slot.stays).end();
+        line.flag("stays", slot.stays);
+        if (slot.result)
+            line.field("result", textsOf(*slot.result).name).fieldIfAny("reason", slot.reason);
+        line.end();
     }
     line.end();
 }
 
-void addSlotRows(Table &table, const std::vector<SlotView> &slots) {
-    for (const SlotView &slot : slots) {
-        std::vector<std::string> row{std::string(slot.name)};
-        row.push_back(slot.oldDate ? readableText(*slot.oldDate, slot.oldZone) : "-");
-        if (!slot.isStorable)
-            row.push_back(text("cli_slot_notStorable"));
-        else if (slot.stays)
-            row.push_back(text("cli_slot_stays"));
-        else
-            row.push_back("→ " + (*slot.newDate == InfiniteFuture()
-                                      ? text("cli_slot_atSave")
-                                      : readableText(*slot.newDate, slot.newZone)));
-        table.add(std::move(row));
-    }
+namespace {
+
+std::string newDateText(const SlotView &slot) {
+    if (slot.stays || !slot.isStorable)
+        return {};
+    return "→ " + (*slot.newDate == InfiniteFuture() ? text("cli_slot_atSave")
+                                                     : readableText(*slot.newDate, slot.newZone));
+}
+
+std::string resultText(const SlotView &slot, SlotTense tense) {
+    if (!slot.isStorable)
+        return text("cli_slot_notStorable");
+    if (!slot.result)
+        return slot.stays ? text("cli_slot_stays") : std::string();
+    const SlotResultTexts &texts = textsOf(*slot.result);
+    const std::string result = text(tense == SlotTense::Done ? texts.doneKey : texts.plannedKey);
+    return slot.reason.empty() ? result : result + ": " + slot.reason;
+}
+
+} // namespace
+
+void addSlotRows(Table &table, const std::vector<SlotView> &slots, SlotTense tense) {
+    for (const SlotView &slot : slots)
+        table.add({std::string(slot.name),
+                   slot.oldDate ? readableText(*slot.oldDate, slot.oldZone) : "-",
+                   newDateText(slot), resultText(slot, tense)});
 }
 
 } // namespace chronomender

@@ -46,6 +46,7 @@ struct PreProcessResult {
 struct SaveRunResult {
     std::vector<ItemOutcome> items;
     std::vector<SaveError> errors;
+    std::string toolErrors = {}; ///< the external tool's summary of what it had to complain of
     bool wasCancelled = false;
 };
 

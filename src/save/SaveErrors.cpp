@@ -38,8 +38,8 @@ std::optional<PreSaveProblem> problemWithKey(std::string_view key) {
     return static_cast<PreSaveProblem>(found - problemKeys.begin());
 }
 
-std::string actionErrorText(const std::vector<SaveError> &errors) {
-    if (errors.empty())
+std::string actionErrorText(const std::vector<SaveError> &errors, const std::string &toolErrors) {
+    if (errors.empty() && toolErrors.empty())
         return {};
     std::map<int, std::string> pathsOfIds;
     for (const SaveError &error : errors)
@@ -47,6 +47,8 @@ std::string actionErrorText(const std::vector<SaveError> &errors) {
     std::string result = text("errorPanelMessageText") + '\n';
     for (const auto &[id, paths] : pathsOfIds)
         result += '\n' + text("errorPanelDescriptionText_ID" + std::to_string(id)) + '\n' + paths;
+    if (!toolErrors.empty())
+        result += '\n' + toolErrors + (toolErrors.ends_with('\n') ? "" : "\n");
     return result;
 }
 

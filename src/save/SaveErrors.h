@@ -67,7 +67,8 @@ struct SaveError {
 };
 
 /// The text of a run's errors: a header, then for each id its description and its paths, in order
-/// of id; "" without errors.
-std::string actionErrorText(const std::vector<SaveError> &errors);
+/// of id, and behind them the external tool's own summary; "" without any.
+std::string actionErrorText(const std::vector<SaveError> &errors,
+                            const std::string &toolErrors = {});
 
 } // namespace chronomender

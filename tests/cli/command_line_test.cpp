@@ -71,6 +71,14 @@ TEST_F(CommandLineUse, MistakesAreNamedAndNothingIsWritten) {
     expectUsageError({"list", "--set", "dateChangeEXIFEXIFDigiDate", canon}, "KEY=VALUE");
 }
 
+TEST_F(CommandLineUse, ResumeTakesNoFolderAndHasNothingToDo) {
+    expectUsageError({"resume", path("canon")}, "canon");
+    expectUsageError({"list", "--forget", path("canon")}, "--forget");
+    const RunResult run = mend({"resume", "--forget"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.output, "No save was interrupted.\n");
+}
+
 TEST_F(CommandLineUse, OneFolderTwiceIsAMistakeUnderWhateverPath) {
     std::filesystem::create_directory_symlink(path("canon"), path("link"));
     expectUsageError({"list", path("canon"), path("canon/../canon")}, "given twice");

@@ -42,7 +42,7 @@ TEST_F(Save, DryRunShowsEverySlotAndWritesNothing) {
     EXPECT_THAT(run.output,
                 AllOf(HasSubstr("exifDateTimeOriginal"), HasSubstr("exifDateTimeDigitized"),
                       HasSubstr("2024-05-06 07:08:09 +00:00"),
-                      HasSubstr("→ 2024-05-06 06:08:09 +00:00"),
+                      HasSubstr("→ 2024-05-06 06:08:09 +00:00  to be written in place"),
                       HasSubstr("cannot be stored on this system"),
                       HasSubstr("Dry run: nothing was written.")));
     EXPECT_EQ(tracesOf(disk().path()), before);
@@ -89,6 +89,34 @@ TEST_F(Save, DatesAndZoneStampsGoIntoAnotherZoneTogetherAndComeBack) {
                                   Not(HasSubstr("+01:00")))));
     move("Asia/Kathmandu", "Europe/Berlin");
     EXPECT_EQ(bytes(), before);
+}
+
+TEST_F(Save, TableNamesEachSlotOfWrittenFilesInTheZonesThatHeldBefore) {
+    writeZonedPhoto("trip/a.jpg", "2024:07:01 20:30:00", "+02:00");
+    writePhoto("trip/b.jpg", "0000:00:00 00:00:00");
+    const RunResult run = mend({"save", "--folder", path("trip"), "--target-zone", "Asia/Tokyo"});
+    EXPECT_EQ(run.exitCode, 0) << run.errors;
+    EXPECT_THAT(run.output,
+                AllOf(ContainsRegex("exifDateTimeOriginal +2024-07-01 20:30:00 [+]02:00 +"
+                                    "→ 2024-07-02 03:30:00 [+]09:00  written in place"),
+                      ContainsRegex("fileModificationDate .*  (unchanged|written in place)"),
+                      Not(HasSubstr("b.jpg"))));
+}
+
+TEST_F(Save, MissingTagsAreAskedForWhereTheyCanBeAdded) {
+    little::PhotoFields fields;
+    fields.original = "2024:05:06 07:08:09";
+    write("trip/a.jpg", fields);
+    writePhoto("trip/b.jpg", "2024:05:06 07:08:10");
+    const Arguments folder{"--json", "--folder", path("trip"), "--tag-missing"};
+    const RunResult listed = mend(joined({"list"}, folder));
+    EXPECT_THAT(listed.errors, HasSubstr("asked for in files: 1"));
+    EXPECT_EQ(listed.lines().at(0).at("unsaved"), true);
+    EXPECT_EQ(listed.lines().at(1).at("unsaved"), false);
+    const Json added =
+        mend(joined({"info"}, folder)).lines().at(0).at("slots").at("exifDateTimeDigitized");
+    EXPECT_EQ(added.at("new"), "2024-05-06T07:08:09Z");
+    EXPECT_FALSE(added.contains("old"));
 }
 
 TEST_F(Save, SettingsReachTheCalculationAndNowIsAConcreteDate) {
@@ -198,7 +226,10 @@ TEST_F(Save, WriteProtectedFileFailsAloneWithItsText) {
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(summaryOf(run).at("saved"), 1);
     EXPECT_EQ(run.lines().at(0).at("errorIds"), Json::array({2}));
+    EXPECT_EQ(run.lines().at(0).at("slots").at("tiffDateTime").at("result"), "refused");
     EXPECT_THAT(run.errors, HasSubstr("could not be opened for writing"));
+    EXPECT_THAT(little::fileContent(workFolder() + "/home/chronoMender/errorLog.txt"),
+                AllOf(HasSubstr("mend save --json"), HasSubstr(run.errors)));
 }
 
 TEST_F(Save, BrokenPipeDoesNotStopASave) {

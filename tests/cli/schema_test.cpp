@@ -32,7 +32,7 @@ std::vector<std::string> cellsOf(const std::string &row) {
 /// The rows "| list | `path` | string | always | … |" of the manual: what is promised there is what
 /// is tested here.
 Schema documentedSchema() {
-    static const std::set<std::string> kinds{"list", "info", "save", "summary"};
+    static const std::set<std::string> kinds{"list", "info", "save", "summary", "resumed"};
     Schema schema;
     std::ifstream manual(std::string(CHRONOMENDER_SOURCE_TREE) + "/docs/cli.md");
     for (std::string row; std::getline(manual, row);) {
@@ -141,6 +141,7 @@ TEST_F(JsonSchema, OfSaveIsTheDocumentedOne) {
     lines.pop_back();
     expectSchema("summary", {summary.at("summary")});
     expectSchema("save", lines);
+    expectSchema("resumed", {mend({"resume", "--json"}).lines().at(0).at("summary")});
 }
 
 } // namespace
