@@ -863,6 +863,9 @@ Beispiele:
     <message id="resetAllInSingleMode">
         <translation>Alle einzelnen Zeitverschiebungen zurücknehmen</translation>
     </message>
+    <message id="saveObstacle_copyInTheWay">
+        <translation>Eine liegen gebliebene Kopie von ExifTool steht daneben: „…_exiftool_tmp“</translation>
+    </message>
     <message id="saveObstacle_fileDateNotKept">
         <translation>der Datenträger kann diese Zeit nicht aufnehmen</translation>
     </message>
@@ -878,11 +881,11 @@ Beispiele:
     <message id="saveObstacle_notPutBack">
         <translation>einige der alten Zeiten ließen sich nicht zurückschreiben</translation>
     </message>
-    <message id="saveObstacle_notYetWritable">
-        <translation>diese Version schreibt Zeiten dieser Art noch nicht</translation>
-    </message>
     <message id="saveObstacle_outOfRange">
         <translation>der Kopf des Films kann dieses Datum nicht aufnehmen (1904 bis 2040)</translation>
+    </message>
+    <message id="saveObstacle_toolWroteOtherwise">
+        <translation>ExifTool hat die Datei geschrieben, aber sie nennt nicht die gewünschten Zeiten</translation>
     </message>
     <message id="saveObstacle_unreadableBack">
         <translation>die neue Zeit lässt sich nicht so schreiben, dass sie wieder denselben Zeitpunkt ergibt</translation>

@@ -863,6 +863,9 @@ Examples:
     <message id="resetAllInSingleMode">
         <translation>Take Back All Single Shifts</translation>
     </message>
+    <message id="saveObstacle_copyInTheWay">
+        <translation>A copy of the file that ExifTool left behind stands beside it: “…_exiftool_tmp”</translation>
+    </message>
     <message id="saveObstacle_fileDateNotKept">
         <translation>the disk cannot keep this date</translation>
     </message>
@@ -878,11 +881,11 @@ Examples:
     <message id="saveObstacle_notPutBack">
         <translation>some of the file’s old dates could not be put back</translation>
     </message>
-    <message id="saveObstacle_notYetWritable">
-        <translation>this version does not write dates of this kind yet</translation>
-    </message>
     <message id="saveObstacle_outOfRange">
         <translation>the movie's header cannot hold this date (1904 to 2040)</translation>
+    </message>
+    <message id="saveObstacle_toolWroteOtherwise">
+        <translation>ExifTool wrote the file, but it does not tell the wanted dates</translation>
     </message>
     <message id="saveObstacle_unreadableBack">
         <translation>the new date cannot be written so that it reads back as the same moment</translation>

@@ -94,6 +94,8 @@ void lateSetEmptyMetaModDateFromFileModDate(MySinglePic &pic) {
 
 void cleanupBeforeRefreshInternalData(MySinglePic &pic) {
     pic.xmp = {};
+    for (const StampSlot slot : stampSlots)
+        pic.slots.*description(slot).oldDate = std::nullopt;
     SinglePicAttributes &attributes = pic.singlePicAttributes;
     for (auto *value : {&attributes.exifDateTimeOriginal, &attributes.exifDateTimeDigitized,
                         &attributes.tiffDateTime, &attributes.exifOffsetTimeOriginal,
@@ -118,16 +120,12 @@ void takeLivePhotoMarks(LivePhotoState &livePhoto, std::optional<LivePhotoMarks>
     livePhoto.customRendered = marks->customRendered;
 }
 
-} // namespace
-
-void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
-                                        const MySingleFolder &folder, const Zones &zones,
-                                        XmpDateInfos xmp) {
+void takeDatesData(MySinglePic &pic, DatesData dates, const absl::TimeZone &zone,
+                   XmpDateInfos xmp) {
     SinglePicAttributes &attributes = pic.singlePicAttributes;
-    const Zone &zone = sourceTimeZoneForPic(pic, folder, zones);
     if (!xmp.isEmpty())
         setImageAttributesFromXmpDatesData(pic, std::move(xmp), dates.tiffDateTime.has_value(),
-                                           zone.rules);
+                                           zone);
     takeStamp(attributes.exifDateTimeOriginal, attributes.exifOffsetTimeOriginal,
               std::move(dates.exifDateTimeOriginal), std::move(dates.exifOffsetTimeOriginal));
     takeStamp(attributes.exifDateTimeDigitized, attributes.exifOffsetTimeDigitized,
@@ -135,7 +133,7 @@ void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
     takeStamp(attributes.tiffDateTime, attributes.tiffOffsetTime, std::move(dates.tiffDateTime),
               std::move(dates.exifOffsetTiffTime));
     for (const StampSlot slot : stampSlots)
-        setSlotFromStamp(pic, slot, zone.rules);
+        setSlotFromStamp(pic, slot, zone);
 
     if (dates.xmpHeaderStartOffset)
         attributes.xmpHeaderStartOffset = dates.xmpHeaderStartOffset;
@@ -148,6 +146,15 @@ void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
     validateMetaNormalization(pic);
     setGPXAttributesFromTheDatesData(pic, dates);
     setLocationFromData(pic);
+}
+
+} // namespace
+
+void setImageAttributesFromTheDatesData(MySinglePic &pic, DatesData dates,
+                                        const MySingleFolder &folder, const Zones &zones,
+                                        XmpDateInfos xmp) {
+    takeDatesData(pic, std::move(dates), sourceTimeZoneForPic(pic, folder, zones).rules,
+                  std::move(xmp));
 }
 
 void validateMetaNormalization(MySinglePic &pic) {
@@ -193,25 +200,24 @@ void setImageAttributesFromFileAttributes(MySinglePic &pic, const FileAttributes
     lateSetEmptyMetaModDateFromFileModDate(pic);
 }
 
-bool refreshInternalData(MySinglePic &pic, const MySingleFolder &folder, const Zones &zones) {
-    const auto files = makeSystemFileLayer();
-    const auto file = files->open(pic.spPath(), OpenMode::Read);
-    const auto attributes = file ? file->attributes() : std::nullopt;
+bool refreshInternalData(MySinglePic &pic, const OpenFile &file, const FileAttributes &attributes,
+                         const absl::TimeZone &zone) {
     MySingleFolderDataReader reader;
-    if (!attributes || !reader.borrow(file->descriptor()))
+    if (!reader.borrow(file.descriptor()))
         return false;
-    const std::string extension = pic.extension();
-    DatesData dates = reader.readDates(pic.fileFormatType, extension);
+    DatesData dates = reader.readDates(pic.fileFormatType, pic.extension());
     XmpDateInfos xmp = readXmpDates(reader, pic.fileFormatType, dates);
     XmpLocation xmpLocation = std::exchange(pic.singlePicAttributes.xmpLocation, {});
     if (!xmpLocation.isEmpty())
         xmpLocation = reader.readXmpLocation(pic.fileFormatType, dates);
     cleanupBeforeRefreshInternalData(pic);
-    setImageAttributesFromTheDatesData(pic, std::move(dates), folder, zones, std::move(xmp));
+    takeDatesData(pic, std::move(dates), zone, std::move(xmp));
     addRelevantXmpInfos(pic, std::move(xmpLocation));
     if (!pic.hasLocation())
         setLocationFromXmp(pic, pic.relevantSidecarInfos.location);
-    takeFileAttributes(pic, *attributes);
+    takeFileAttributes(pic, attributes);
+    pic.importState.isExtraHardLink = attributes.hardLinks > 1;
+    updateMainDate(pic);
     return true;
 }
 

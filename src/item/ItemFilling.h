@@ -28,8 +28,10 @@ bool isUsableLocation(double latitude, double longitude);
 /// Coordinates from the recorded GPS values; a location at 0/0 or out of range is none.
 void setLocationFromData(MySinglePic &pic);
 
-/// Reads the item's file again: size, times, offsets, stamps (after a save by the external tool).
+/// Reads a photo's open file again: size, times, offsets, stamps, and the main date by the item's
+/// type (after the external tool has written the file). Stamps without a zone are read in `zone`.
 /// False when the file cannot be read.
-bool refreshInternalData(MySinglePic &pic, const MySingleFolder &folder, const Zones &zones);
+bool refreshInternalData(MySinglePic &pic, const OpenFile &file, const FileAttributes &attributes,
+                         const absl::TimeZone &zone);
 
 } // namespace chronomender

@@ -22,6 +22,43 @@ void updateStampSlots(MySinglePic &pic, const PatchPlan &plan) {
             pic.slots.*description(stampSlots[i]).oldDate = plan.stamps[i].readBack;
 }
 
+/// Of an item without patches for the tool: what the plan says stands in the file.
+void takeWritten(MySinglePic &pic, const PatchPlan &plan) {
+    applyPatches(pic.singlePicAttributes, plan.patches);
+    updateStampSlots(pic, plan);
+    pic.spType = typeAfterFillingEmptyTags(pic.spType);
+    if (pic.spType == SpTypeNoTagsFixedDate)
+        pic.spType = SpTypeNoTagsFileDate;
+    if (plan.newGpsDate)
+        pic.location.spGpsUTCDate = plan.newGpsDate;
+}
+
+/// The tool has moved everything about, and added what was asked for.
+void takeReadAgain(MySinglePic &pic, const MySinglePic &readAgain) {
+    pic.singlePicAttributes = readAgain.singlePicAttributes;
+    pic.slots = readAgain.slots;
+    pic.xmp = readAgain.xmp;
+    pic.location = readAgain.location;
+    pic.livePhoto = readAgain.livePhoto;
+    pic.findings = readAgain.findings;
+    pic.isHeaderIntel = readAgain.isHeaderIntel;
+    pic.importState.isExtraHardLink = readAgain.importState.isExtraHardLink;
+    pic.spType = readAgain.spType;
+    pic.save.shouldAddExifDateTimeTags = pic.save.didAddExifDateTimeTags = false;
+    pic.save.tagAddType = 0;
+}
+
+/// The file says what the plan says of it.
+bool isAsPlanned(const MySinglePic &readAgain, const PatchPlan &plan) {
+    for (std::size_t i = 0; i < stampSlots.size(); ++i) {
+        const StampPlan &stamp = plan.stamps[i];
+        if (stamp.readBack && stamp.result != SlotResult::Refused &&
+            readAgain.slots.*description(stampSlots[i]).oldDate != stamp.readBack)
+            return false;
+    }
+    return !plan.newGpsDate || readAgain.location.spGpsUTCDate == plan.newGpsDate;
+}
+
 /// What was written reads as its later instant, unless the earlier was wanted and accepted as such.
 /// Without any stamp in the plan the reading stays.
 void settleReading(MySinglePic &pic, const PatchPlan &plan) {
@@ -95,19 +132,28 @@ bool needsFullUpdate(const MySinglePic &pic, const PatchPlan &plan) {
                        [](const StampPlan &stamp) { return stamp.isAmbiguous; });
 }
 
+MySinglePicPtr readBehindTool(const MySinglePic &pic, const PatchPlan &plan, OpenFile &file,
+                              const absl::TimeZone &zone) {
+    const auto attributes = file.attributes();
+    auto copy = std::make_shared<MySinglePic>(pic);
+    // With tags added there is an original stamp, and it goes first.
+    copy->spType = pic.save.shouldAddExifDateTimeTags ? SpTypeExifOriginal
+                                                      : typeAfterFillingEmptyTags(pic.spType);
+    if (!attributes || !refreshInternalData(*copy, file, *attributes, zone))
+        return nullptr;
+    return isAsPlanned(*copy, plan) ? copy : nullptr;
+}
+
 void applySavedPlan(MySinglePic &pic, const PatchPlan &plan, const PatchOutcome &outcome,
                     const MySingleFolder &folder, const Zones &zones) {
     const Zone &target = targetTimeZoneForPic(pic, folder, zones);
-    applyPatches(pic.singlePicAttributes, plan.patches);
+    if (outcome.readAgain)
+        takeReadAgain(pic, *outcome.readAgain);
+    else
+        takeWritten(pic, plan);
     if (outcome.attributes)
         takeFileAttributes(pic, *outcome.attributes);
-    updateStampSlots(pic, plan);
-    pic.spType = typeAfterFillingEmptyTags(pic.spType);
-    if (pic.spType == SpTypeNoTagsFixedDate)
-        pic.spType = SpTypeNoTagsFileDate;
     updateMainDate(pic);
-    if (plan.newGpsDate)
-        pic.location.spGpsUTCDate = plan.newGpsDate;
     settleReading(pic, plan);
     validateDateDifferencesUsingTimeZone(pic, target.rules);
     pic.zones.isUnsavedDueToTZC = false;

@@ -10,7 +10,13 @@
 
 namespace chronomender {
 
-// What a save changes in the model. Main thread.
+// What a save changes in the model. Main thread, unless told otherwise.
+
+/// A copy of the item, filled from the file that the external tool has written by the plan. None
+/// when that cannot be read, or a date in it is not the plan's. `zone` is the one that the file's
+/// wall clocks were written in. Any thread; the item is only read.
+MySinglePicPtr readBehindTool(const MySinglePic &pic, const PatchPlan &plan, OpenFile &file,
+                              const absl::TimeZone &zone);
 
 /// The item now stands for what its file holds: recorded bytes, OLD slots, main date and type.
 /// What a fresh import of the file would show.

@@ -4,12 +4,22 @@
 #include "Parallel.h"
 
 #include <algorithm>
+#include <queue>
 
 namespace chronomender {
 namespace {
 
 /// A batch keeps so many files open, and a cancelled run waits for so many.
 constexpr std::size_t kUnitsOfBatch = 128;
+/// The tool takes its time with each.
+constexpr std::size_t kToolUnitsOfBatch = 16;
+
+std::size_t batchLength(std::span<const WriteUnit> units) {
+    std::size_t length = 0, withTool = 0;
+    while (length < std::min(units.size(), kUnitsOfBatch) && withTool < kToolUnitsOfBatch)
+        withTool += units[length++].needsTool() ? 1 : 0;
+    return length;
+}
 
 } // namespace
 
@@ -19,7 +29,7 @@ BatchWriter::BatchWriter(const SaveServices &services, std::function<void(std::s
 std::size_t BatchWriter::run(std::span<WriteUnit> units) {
     std::size_t done = 0;
     while (done < units.size() && !m_services.cancellation.isRequested()) {
-        const auto batch = units.subspan(done, std::min(kUnitsOfBatch, units.size() - done));
+        const auto batch = units.subspan(done, batchLength(units.subspan(done)));
         runBatch(batch, done);
         done += batch.size();
     }
@@ -28,11 +38,14 @@ std::size_t BatchWriter::run(std::span<WriteUnit> units) {
 
 void BatchWriter::runBatch(std::span<WriteUnit> batch, std::size_t first) {
     forAll(batch, &WriteUnit::prove);
+    askForTool(batch);
     const std::vector<std::size_t> recorded = record(batch);
     parallelFor(batch.size(), [&](std::size_t i) {
         batch[i].write();
-        batch[i].finish();
+        if (!batch[i].needsTool())
+            batch[i].finish();
     });
+    runTool(batch);
     if (m_services.journal.durability() == RunJournal::Durability::Synced)
         forAll(batch, &WriteUnit::sync);
     settle(batch, recorded);
@@ -44,6 +57,31 @@ void BatchWriter::runBatch(std::span<WriteUnit> batch, std::size_t first) {
 
 void BatchWriter::forAll(std::span<WriteUnit> batch, void (WriteUnit::*step)()) {
     parallelFor(batch.size(), [&](std::size_t i) { (batch[i].*step)(); });
+}
+
+void BatchWriter::askForTool(std::span<WriteUnit> batch) const {
+    if (std::ranges::none_of(batch, &WriteUnit::needsTool) || m_services.tool.program())
+        return;
+    for (WriteUnit &unit : batch)
+        if (unit.needsTool())
+            unit.refuse(SaveErrorId::ToolMissing, {});
+}
+
+/// All are sent before the first answer is waited for: the tool sleeps when it has nothing to do.
+void BatchWriter::runTool(std::span<WriteUnit> batch) const {
+    std::queue<WriteUnit *> waiting;
+    for (WriteUnit &unit : batch)
+        if (unit.needsTool() && unit.sendTo(m_services.tool))
+            waiting.push(&unit);
+    while (!waiting.empty()) {
+        WriteUnit &unit = *waiting.front();
+        waiting.pop();
+        unit.takeToolAnswer(m_services.tool.postAction());
+        if (unit.sendTo(m_services.tool))
+            waiting.push(&unit);
+        else
+            unit.finish();
+    }
 }
 
 /// Nothing may be written that could not be put right after a sudden end.

@@ -24,6 +24,9 @@ public:
 private:
     void runBatch(std::span<WriteUnit> batch, std::size_t first);
     static void forAll(std::span<WriteUnit> batch, void (WriteUnit::*step)());
+    /// Fails what needs the tool where there is none.
+    void askForTool(std::span<WriteUnit> batch) const;
+    void runTool(std::span<WriteUnit> batch) const;
     std::vector<std::size_t> record(std::span<WriteUnit> batch) const;
     void settle(std::span<WriteUnit> batch, const std::vector<std::size_t> &recorded) const;
 

@@ -4,7 +4,6 @@
 #include "PngChecksums.h"
 #include "Texts.h"
 #include "UnchangedProof.h"
-#include "XtController.h"
 
 #include <absl/time/time.h>
 
@@ -54,7 +53,7 @@ std::uint64_t chunkHint(const SinglePicAttributes &recorded) {
 FileWrite::FileWrite(PatchJob job, FileLayer &files) : m_job(std::move(job)), m_files(&files) {}
 
 bool FileWrite::fail(SaveErrorId id, FileUnchangedState state, std::string systemText) {
-    m_outcome = {id, std::move(systemText), state, std::nullopt, false, false};
+    m_outcome = {id, std::move(systemText), state, std::nullopt, false, false, {}};
     return false;
 }
 
@@ -83,6 +82,9 @@ bool FileWrite::prove() {
     m_proved = *attributes;
     if (!hasWork())
         return true;
+    // The tool would not write, and what stands there may be all that is left of somebody's file.
+    if (needsTool() && m_files->attributes(XtController::copyPath(m_job.path)))
+        return fail(SaveErrorId::ToolFailed, state, text("saveObstacle_copyInTheWay"));
     // Only a file's owner may set its times. Asked first, so that a file whose date cannot be set
     // is not touched at all.
     if (!m_file->setModificationDate(m_proved.modificationDate))
@@ -169,8 +171,40 @@ bool FileWrite::write() {
     return true;
 }
 
+void FileWrite::sendTo(XtController &tool) const {
+    tool.send(*m_job.plan.toolAction, m_job.path, m_job.pic.fileFormatType == FileFormatPng);
+}
+
+bool FileWrite::takeToolAnswer(const ToolOutcome &answer) {
+    const auto there = m_files->attributes(m_job.path);
+    if (!there)
+        return fail(SaveErrorId::ToolFailed, FileUnchangedState::NotFound, answer.error);
+    // A tool that died may have replaced the file and not have said so.
+    if (!answer.didChange && there->isSameFile(m_proved))
+        return takeBack(answer.isMissing ? SaveErrorId::ToolMissing : SaveErrorId::ToolFailed,
+                        answer.error);
+    if (openReplacement())
+        return true;
+    // Harmless where the open file is no longer the one at the path.
+    takeBack(SaveErrorId::NotWrittenUnreadableBack, text("saveObstacle_toolWroteOtherwise"));
+    m_outcome.state = FileUnchangedState::BytesDiffer;
+    m_outcome.attributes.reset();
+    return false;
+}
+
+bool FileWrite::openReplacement() {
+    std::unique_ptr<OpenFile> replacement = m_files->open(m_job.path, OpenMode::Update);
+    m_outcome.readAgain = replacement ? m_job.readAgain(*replacement) : nullptr;
+    if (!m_outcome.readAgain)
+        return false;
+    m_file = std::move(replacement);
+    m_begun = 0;
+    m_isReplaced = true;
+    return true;
+}
+
 bool FileWrite::finish() {
-    if (!hasWork())
+    if (!hasWork() || m_outcome.isWritten)
         return true;
     const OptionalDate &wanted = m_job.plan.modificationDate;
     if (wanted && !m_file->setModificationDate(*wanted))
@@ -202,14 +236,15 @@ bool FileWrite::takeBack(SaveErrorId id, std::string systemText) {
     (void)m_file->setModificationDate(m_proved.modificationDate);
     if (!isBack)
         systemText += (systemText.empty() ? "" : "; ") + text("saveObstacle_notPutBack");
-    fail(id, isBack ? FileUnchangedState::Unchanged : FileUnchangedState::BytesDiffer,
+    const bool isAsRead = isBack && !m_isReplaced;
+    fail(id, isAsRead ? FileUnchangedState::Unchanged : FileUnchangedState::BytesDiffer,
          std::move(systemText));
     m_outcome.attributes = m_file->attributes();
     return false;
 }
 
 void FileWrite::followFailureOf(const FileWrite &other) {
-    if (m_outcome.error)
+    if (m_outcome.error || m_isReplaced)
         return;
     if (m_begun > 0 || m_outcome.isWritten) {
         takeBack(SaveErrorId::WriteFailed, {});

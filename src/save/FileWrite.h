@@ -4,7 +4,9 @@
 #include "FileLayer.h"
 #include "PatchPlan.h"
 #include "RunJournal.h"
+#include "XtController.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,6 +23,8 @@ struct PatchOutcome {
     std::optional<FileAttributes> attributes;
     bool isWritten = false;     ///< the plan is carried out
     bool isOfOtherHalf = false; ///< the error is that of the group's other file
+    /// The item as its file shows it now; none when only recorded values were overwritten.
+    MySinglePicPtr readAgain = {};
 };
 
 /// One file and what is to become of it. Everything outlives the job.
@@ -28,12 +32,17 @@ struct PatchJob {
     const MySinglePic &pic; ///< what was recorded of the file; only read
     std::string path;
     const PatchPlan &plan; ///< without obstacle
+    /// For a plan with a tool action: a copy of the item, filled from the file that the tool wrote.
+    /// None when it does not hold what the plan says.
+    std::function<MySinglePicPtr(OpenFile &)> readAgain = {};
 };
 
 /// One file on its way through a save: proved, written, dated, synced, all through one descriptor.
-/// Each step may follow only when the one before answered true. When a step fails, what was written
-/// goes back, each value proved first; the file then holds its old values, or the outcome says that
-/// it does not. Different files may be written side by side.
+/// Where the external tool has something to add it runs behind the values; its renaming is then
+/// what commits the file, as what it does cannot be taken back. Each step may follow only when the
+/// one before answered true. When a step fails, what was written goes back, each value proved
+/// first; the file then holds its old values, or the outcome says that it does not. Different files
+/// may be written side by side.
 class FileWrite {
 public:
     FileWrite(PatchJob job, FileLayer &files);
@@ -50,6 +59,11 @@ public:
 
     /// Proves the file once more, since others were proved in between, and overwrites the values.
     bool write();
+    /// Asks for what the tool is to add; only behind `write`, and answered by `takeToolAnswer`.
+    void sendTo(XtController &tool) const;
+    /// From here on the file is the one that the tool wrote, read and found to be as planned; else
+    /// what was written goes back.
+    bool takeToolAnswer(const ToolOutcome &answer);
     /// Sets the modification date and takes the file's attributes again.
     bool finish();
     /// Waits until the file is on disk.
@@ -73,6 +87,7 @@ private:
     bool isAtItsPath();
     bool planChecksums();
     std::optional<SaveErrorId> sidecarProblem(std::string &systemText) const;
+    bool openReplacement();
     bool takeBack(SaveErrorId id, std::string systemText);
 
     PatchJob m_job;
@@ -81,6 +96,7 @@ private:
     FileAttributes m_proved;        ///< of the file before the first write
     std::vector<Patch> m_checksums; ///< behind the plan's patches
     std::size_t m_begun = 0;        ///< patches and checksums whose writing was begun
+    bool m_isReplaced = false;      ///< the open file is the one that the tool wrote
     PatchOutcome m_outcome;
 };
 

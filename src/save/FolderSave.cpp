@@ -6,6 +6,7 @@
 #include "CompoundLivePhotos.h"
 #include "MainThread.h"
 #include "Texts.h"
+#include "ZoneLookup.h"
 
 #include <algorithm>
 
@@ -108,8 +109,7 @@ void FolderSave::write(std::vector<Step> &steps, ProgressCounter &progress) cons
         std::vector<PatchJob> jobs;
         jobs.reserve(count);
         for (const Step &step : std::span(steps).subspan(first, count))
-            jobs.push_back(
-                {*step.item->pic, m_path + '/' + step.item->pic->spName, *step.item->plan});
+            jobs.push_back(jobOf(*step.item));
         units.emplace_back(std::move(jobs), m_services.files);
         firstSteps.push_back(first);
     }
@@ -121,6 +121,17 @@ void FolderSave::write(std::vector<Step> &steps, ProgressCounter &progress) cons
             progress.oneDone();
         }
     }).run(units);
+}
+
+PatchJob FolderSave::jobOf(const ItemOutcome &item) const {
+    const MySinglePic &pic = *item.pic;
+    const PatchPlan &plan = *item.plan;
+    PatchJob job{pic, m_path + '/' + pic.spName, plan};
+    if (plan.toolAction)
+        job.readAgain = [&pic, &plan,
+                         zone = targetTimeZoneForPic(pic, *m_folder, m_services.zones).rules](
+                            OpenFile &file) { return readBehindTool(pic, plan, file, zone); };
+    return job;
 }
 
 /// Why the item's file is not even opened.

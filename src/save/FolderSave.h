@@ -37,6 +37,7 @@ private:
     static std::size_t sizeOfGroup(const std::vector<Step> &steps, std::size_t first);
     void refuseObstructed(std::vector<Step> &steps) const;
     void write(std::vector<Step> &steps, ProgressCounter &progress) const;
+    PatchJob jobOf(const ItemOutcome &item) const;
     std::optional<PatchOutcome> obstacleOf(const ItemOutcome &item) const;
     void report(std::vector<Step> &steps) const;
     void reportItem(Step &step) const;

@@ -140,8 +140,6 @@ std::string_view textKey(PlanObstacle obstacle) {
         return "saveObstacle_notAccepted";
     case PlanObstacle::OutOfRange:
         return "saveObstacle_outOfRange";
-    case PlanObstacle::NotYetWritable:
-        return "saveObstacle_notYetWritable";
     }
     return {};
 }
@@ -172,8 +170,6 @@ PatchPlan planForPic(const MySinglePic &pic, const PlanContext &context) {
     if (doPatchesCollide(pic.singlePicAttributes, patches))
         plan.obstacle = PlanObstacle::ValuesCollide;
     planToolAction(pic, context, plan);
-    if (plan.obstacle == PlanObstacle::None && plan.toolAction)
-        plan.obstacle = PlanObstacle::NotYetWritable;
     if (plan.obstacle != PlanObstacle::None) {
         plan.toolAction.reset();
         refuseAllSlots(plan);

@@ -23,7 +23,6 @@ enum class PlanObstacle : std::uint8_t {
     NoRoom,         ///< the stamp that holds the item's date has no room in its field
     ValuesCollide,  ///< two values of the file share bytes and want different ones
     NotAccepted,    ///< it would do what nobody accepted
-    NotYetWritable, ///< this version does not write dates of this kind
     OutOfRange,     ///< a movie header cannot hold the date
 };
 /// Text key of an obstacle, for example "saveObstacle_noRoom"; "" for none.

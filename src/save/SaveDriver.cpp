@@ -98,6 +98,7 @@ SaveRunResult SaveDriver::continueProcessThread(const SaveRequest &request,
             FolderSave(folder, left.first(count), request, m_services).run(progress, result);
         left = left.subspan(count);
     }
+    m_services.tool.cleanup();
     return result;
 }
 

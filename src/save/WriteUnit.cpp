@@ -39,12 +39,33 @@ void WriteUnit::write() {
     doForEach(&FileWrite::write);
 }
 
+bool WriteUnit::sendTo(XtController &tool) {
+    if (hasFailed())
+        return false;
+    while (m_withTool < m_files.size())
+        if (const FileWrite &file = m_files[m_withTool++]; file.needsTool()) {
+            file.sendTo(tool);
+            return true;
+        }
+    return false;
+}
+
+void WriteUnit::takeToolAnswer(const ToolOutcome &answer) {
+    FileWrite &file = m_files[m_withTool - 1];
+    if (!file.takeToolAnswer(answer) || !file.finish())
+        followFailureOf(file);
+}
+
 void WriteUnit::finish() {
     doForEach(&FileWrite::finish);
 }
 
 void WriteUnit::sync() {
-    doForEach(&FileWrite::sync);
+    if (!hasFailed())
+        return doForEach(&FileWrite::sync);
+    // What the tool has done to one file stays when it failed with the other.
+    for (FileWrite &file : m_files)
+        (void)file.sync();
 }
 
 void WriteUnit::refuse(SaveErrorId id, const std::string &systemText) {

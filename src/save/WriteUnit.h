@@ -17,6 +17,11 @@ public:
     /// All files are proved before the first write. A group's master, which leads, speaks first.
     void prove();
     void write();
+    /// Asks the tool for what it is to add to the unit's next file; false when there is none, or
+    /// the unit has failed. One at a time: what the tool did to one file stays, should it fail with
+    /// the other.
+    bool sendTo(XtController &tool);
+    void takeToolAnswer(const ToolOutcome &answer);
     void finish();
     void sync();
     void refuse(SaveErrorId id, const std::string &systemText);
@@ -36,6 +41,7 @@ private:
     void followFailureOf(const FileWrite &failed);
 
     std::vector<FileWrite> m_files;
+    std::size_t m_withTool = 0; ///< files in front that were sent to the tool, or need it not
 };
 
 } // namespace chronomender

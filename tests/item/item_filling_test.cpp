@@ -132,13 +132,14 @@ TEST_F(ItemFilling, RefreshReadsTheFileAgain) {
     MySinglePic &pic = session.item("a.jpg");
     session.write("a.jpg", tiffPhoto({.original = "2030:01:01 00:00:00"}).bytes);
     pic.fileFormatType = FileFormatTiff;
-    ASSERT_TRUE(refreshInternalData(pic, session.folder(), session.zones));
+    ASSERT_TRUE(session.readAgain(pic));
     EXPECT_EQ(pic.slots.exifDateTimeOriginalOLD, utc(2029, 12, 31, 23));
+    EXPECT_FALSE(pic.slots.exifDateTimeDigitizedOLD || pic.slots.tiffDateTimeOLD);
     EXPECT_FALSE(pic.singlePicAttributes.gpsLocation);
     EXPECT_FALSE(pic.singlePicAttributes.exifOffsetTimeOriginal);
     EXPECT_EQ(pic.singlePicAttributes.fileSize, std::filesystem::file_size(pic.spPath()));
     std::filesystem::remove(pic.spPath());
-    EXPECT_FALSE(refreshInternalData(pic, session.folder(), session.zones));
+    EXPECT_FALSE(session.readAgain(pic));
 }
 
 } // namespace

@@ -20,7 +20,7 @@ protected:
         session.write(name, bytes);
         auto pic = MySinglePic::create(name, session.folders[0], type, utc(2024, 5, 6));
         pic->fileFormatType = fileFormatTypeForExtension(pic->extension());
-        EXPECT_TRUE(refreshInternalData(*pic, session.folder(), session.zones));
+        EXPECT_TRUE(session.readAgain(*pic));
         return pic;
     }
     static std::string jpeg(const Xmp &packet, const PhotoFields &fields = {}) {
@@ -67,7 +67,7 @@ TEST_F(XmpFilling, TheFilesOwnTagsGoFirst) {
 TEST_F(XmpFilling, ReadingAgainForgetsAPacketThatIsGone) {
     const auto pic = read(SpTypeExifOriginal, jpeg(packet));
     session.write("a.jpg", jpegPhoto({.original = "2024:05:06 07:08:09"}).bytes);
-    EXPECT_TRUE(refreshInternalData(*pic, session.folder(), session.zones));
+    EXPECT_TRUE(session.readAgain(*pic));
     EXPECT_TRUE(pic->singlePicAttributes.xmpDateInfos.isEmpty());
     EXPECT_FALSE(pic->xmp.isCreaXmp || pic->xmp.isModiXmp || pic->location.isGpsXmp);
     EXPECT_EQ(pic->location.spGpsUTCDate, std::nullopt);
@@ -80,7 +80,7 @@ TEST_F(XmpFilling, ALateSearchTakesAUsablePlaceFromThePacketOfAPng) {
         xmp.attribute("exif:GPSLatitude", "0,0N").attribute("exif:GPSLongitude", longitude).end();
         const auto pic = read(SpTypeNoTagsFileDate, Png().xmp(xmp.bytes()).bytes(), "a.png");
         lateSearchXmpLocation(*pic);
-        EXPECT_TRUE(refreshInternalData(*pic, session.folder(), session.zones));
+        EXPECT_TRUE(session.readAgain(*pic));
         EXPECT_EQ(pic->location.gpsLong, degrees) << longitude;
     }
 }

@@ -50,17 +50,5 @@ TEST_F(OtherFormats, PngChunksGetTheirChecksums) {
     expectModelIsWhatAFreshImportShows();
 }
 
-TEST_F(OtherFormats, FilesWhoseTagsAreToBeAddedAreLeftAsTheyAre) {
-    const BuiltPhoto photo = importPhoto({.original = "2024:05:06 07:08:09"});
-    keepOwnZones();
-    shift(absl::Hours(1));
-    ASSERT_TRUE(setShouldAddExifDateTimeTags(session.item("a.jpg"), true));
-    refuses(SaveErrorId::NotWrittenUnreadableBack, "saveObstacle_notYetWritable");
-    EXPECT_EQ(content(), photo.bytes);
-    EXPECT_TRUE(setShouldAddExifDateTimeTags(session.item("a.jpg"), false));
-    saves();
-    EXPECT_EQ(content(), replaced(photo, {{"ExifDateTimeOriginal", "2024:05:06 08:08:09"}}));
-}
-
 } // namespace
 } // namespace chronomender

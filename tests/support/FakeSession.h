@@ -5,6 +5,7 @@
 #include "FailingFileLayer.h"
 #include "Grouping.h"
 #include "ImportRun.h"
+#include "ItemFilling.h"
 #include "LittlePhoto.h"
 #include "MainThread.h"
 #include "MySingleFolder.h"
@@ -68,7 +69,8 @@ public:
     Date now = utc(2024, 8, 1, 12);
     Date fileDate = utc(2024, 5, 6, 20) + absl::Milliseconds(500);
     RunJournal journal{disk.path("support"), RunJournal::Durability::Unsynced};
-    XtController tool{{disk.path("support")}};
+    std::string toolProgram; ///< "": the ExifTool of this machine
+    XtController tool{{disk.path("support"), [this] { return toolProgram; }}};
     SaveDriver driver{
         folders,
         {files, zones, defaults, undo, cancellation, journal, tool, [this] { return now; }, {}}};
@@ -110,6 +112,13 @@ public:
             folder(index).sfFolderPath(), folder(index).reference(), folder(index).sfEditMode);
         fresh->sourceTimeZones = folder(index).sourceTimeZones;
         return importInto(*fresh);
+    }
+
+    /// The item's file read again in the system's zone.
+    bool readAgain(MySinglePic &pic) {
+        const auto file = files.open(pic.spPath(), OpenMode::Read, nullptr);
+        return file && refreshInternalData(pic, *file, file->attributes().value(),
+                                           zones.systemZone().rules);
     }
 
     MySinglePic &item(const std::string &name) {
