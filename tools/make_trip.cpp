@@ -3,11 +3,13 @@
 // make_trip FOLDER: a sample trip of five cameras whose clocks disagree, and one night at home.
 //
 //   canon/   a camera on local time, but one hour fast; half of its files carry zone stamps, some
-//            shots lie in a raw file and a JPEG, and one raw file has an XMP sidecar
-//   nikon/   a camera that was never switched from home time; some files carry zone stamps
+//            shots lie in a raw file and a JPEG, one raw file has an XMP sidecar, and some pictures
+//            were exported to HEIC, WebP, PNG and JPEG, the latter two with their dates in XMP only
+//   nikon/   a camera that was never switched from home time; some files carry zone stamps; a PNG
+//            with Exif, and a picture that lost all its tags
 //   phone/   right, with zone stamps and positions; HEIC, a live photo, a screenshot, a received
 //            picture without any date, an AAE sidecar
-//   gopro/   movies whose header holds the camera's own clock, two hours slow
+//   gopro/   movies (MP4 and MOV) whose header holds the camera's own clock, two hours slow
 //   oldcam/  AVI movies on home time
 //   party/   a compact camera without zone stamps, in the night in which Berlin's clocks go back
 //   friend/  a phone in the same night, which writes zone stamps
@@ -55,6 +57,12 @@ enum class Kind : std::uint8_t {
     Received,       ///< a WebP without any date
     Movie,          ///< an MP4 whose header holds the camera's clock
     OldMovie,       ///< an AVI
+    QuickTimeMovie, ///< as Movie, in a MOV
+    ExifPng,
+    ExifWebp,
+    XmpJpeg,   ///< all dates stand in XMP
+    TypedDate, ///< a JPEG whose only date was typed into XMP, without seconds
+    Untagged,  ///< a JPEG without any tag
 };
 
 struct Camera {
@@ -112,19 +120,27 @@ constexpr std::array shots{
     Shot{Nikon, 11, 10, 1, 9, Kind::Jpeg, true},
     Shot{Phone, 11, 10, 1, 30, Kind::Heic, true},
     Shot{Phone, 11, 12, 10, 0, Kind::Received},
+    Shot{Canon, 11, 12, 30, 18, Kind::ExifWebp},
     Shot{Canon, 11, 13, 45, 0, Kind::Jpeg, true, 9},
+    Shot{Nikon, 11, 14, 2, 51, Kind::ExifPng, true},
+    Shot{GoPro, 11, 15, 12, 9, Kind::QuickTimeMovie},
+    Shot{Canon, 11, 16, 40, 33, Kind::XmpJpeg, true},
     Shot{Nikon, 11, 18, 22, 16},
     Shot{Phone, 11, 18, 25, 2, Kind::Jpeg, true},
     Shot{Canon, 12, 0, 20, 55, Kind::RawWithSidecar},
     Shot{GoPro, 12, 5, 30, 1, Kind::Movie},
     Shot{Nikon, 12, 5, 48, 3, Kind::Tiff},
     Shot{Canon, 12, 5, 49, 44, Kind::Jpeg, true},
+    Shot{Canon, 12, 5, 50, 2, Kind::Screenshot, true},
     Shot{Phone, 12, 5, 52, 10, Kind::Jpeg, true},
     Shot{Nikon, 12, 11, 30, 30},
     Shot{Canon, 12, 11, 31, 2, Kind::RawWithJpeg, true},
     Shot{OldCam, 12, 11, 31, 20, Kind::OldMovie},
     Shot{Nikon, 12, 11, 31, 40, Kind::Jpeg, true},
     Shot{Phone, 12, 11, 40, 0, Kind::Jpeg, true},
+    Shot{Canon, 12, 14, 5, 25, Kind::TypedDate, true},
+    Shot{Nikon, 12, 15, 20, 40, Kind::Untagged, true},
+    Shot{Canon, 12, 17, 8, 12, Kind::Heic, true},
     Shot{Canon, 12, 20, 15, 33, Kind::Tiff, true},
     Shot{Phone, 12, 20, 16, 21, Kind::Jpeg, true},
     Shot{Nikon, 13, 7, 0, 14},
@@ -291,6 +307,13 @@ Json headerExpectation(absl::CivilSecond time) {
     return {{"QuickTime:CreateDate", exifStamp(time)}, {"QuickTime:ModifyDate", exifStamp(time)}};
 }
 
+Json xmpExpectation(const PlannedShot &plan, std::initializer_list<const char *> tags) {
+    Json wanted = Json::object();
+    for (const char *tag : tags)
+        wanted[tag] = exifStamp(plan.trueTime) + std::string(TripStamp);
+    return wanted;
+}
+
 Json livePhotoExpectation(const PlannedShot &plan) {
     Json wanted = headerExpectation(absl::ToCivilSecond(plan.instant, absl::UTCTimeZone()));
     wanted["QuickTime:CreationDate"] = exifStamp(plan.trueTime) + std::string(TripStamp);
@@ -335,17 +358,31 @@ public:
             return raw(seed) && write(path(".xmp"), Sidecar);
         case Kind::Heic:
             return encoded(".HEIC", "heic", seed, exifExpectation(plan)) &&
-                   write(path(".AAE"), Adjustments);
+                   (plan.shot.camera != Phone || write(path(".AAE"), Adjustments));
         case Kind::LivePhoto:
             return encoded(".HEIC", "heic", seed, exifExpectation(plan)) &&
                    encoded(".MOV", "mov", seed, livePhotoExpectation(plan), true);
         case Kind::Screenshot:
-            return encoded(".PNG", "png", seed,
-                           {{"XMP:DateCreated", exifStamp(plan.trueTime) + "+09:00"}});
+            return encoded(".PNG", "png", seed, xmpExpectation(plan, {"XMP:DateCreated"}));
+        case Kind::ExifPng:
+            return encoded(".PNG", "exif-png", seed, exifExpectation(plan));
+        case Kind::ExifWebp:
+            return encoded(".WEBP", "exif-webp", seed, exifExpectation(plan));
+        case Kind::XmpJpeg:
+            return encoded(
+                ".JPG", "xmp-jpeg", seed,
+                xmpExpectation(plan, {"XMP:DateCreated", "XMP:CreateDate", "XMP:ModifyDate"}));
+        case Kind::TypedDate:
+            return encoded(".JPG", "typed-date", seed, xmpExpectation(plan, {"XMP:DateCreated"})) &&
+                   markRewritten();
+        case Kind::Untagged:
+            return encoded(".JPG", "untagged", seed, exifExpectation(plan)) && markRewritten();
         case Kind::Received:
             return encoded(".WEBP", "webp", seed, Json::object());
         case Kind::Movie:
             return encoded(".MP4", "mp4", seed, headerExpectation(plan.trueTime));
+        case Kind::QuickTimeMovie:
+            return encoded(".MOV", "mp4", seed, headerExpectation(plan.trueTime));
         case Kind::OldMovie:
             return file(".AVI", aviOf(plan.record, jpegOf(pictureOf(plan, seed), 80, false)),
                         {{"RIFF:DateTimeOriginal", exifStamp(plan.trueTime)}});
@@ -389,8 +426,14 @@ private:
             withDashes(exifStamp(m_shot->camera.isOnHomeTime || isDependent
                                      ? absl::ToCivilSecond(m_shot->instant, absl::UTCTimeZone())
                                      : m_shot->record.wallClock));
-        told["stamp"] = withDashes(exifStamp(m_shot->trueTime)) + std::string(TripStamp);
+        told["stamp"] = withDashes(exifStamp(m_shot->record.wallClock)) + std::string(TripStamp);
         return writeDated(path(ending + ".base.jpg"), jpegFile(*m_shot, seed));
+    }
+
+    /// What is to be written has no place in the file, so the external tool writes it anew.
+    bool markRewritten() {
+        m_files.back()["isRewritten"] = true;
+        return true;
     }
 
     void tell(const std::string &ending, Json expected) {
@@ -401,6 +444,7 @@ private:
              {"clock", exifStamp(m_shot->record.wallClock)},
              {"isEdited", m_shot->record.edited.has_value()},
              {"isDependent", false},
+             {"isRewritten", false},
              {"expected", std::move(expected)}});
     }
 

@@ -6,6 +6,7 @@ beside it (NAME.base.jpg), which is then removed; file times are those of the JP
 import json
 import os
 import pathlib
+import shutil
 import subprocess
 import sys
 
@@ -30,6 +31,32 @@ def png(base, target, file):
     tag(target, "-all=", f"-XMP-photoshop:DateCreated={file['stamp']}")
 
 
+def exif_png(base, target, _file):
+    run("ffmpeg", "-v", "error", "-y", "-i", base, "-map_metadata", "-1", target)
+    tag(target, "-all=", "-tagsFromFile", base, "-EXIF:all")
+
+
+def exif_webp(base, target, _file):
+    run("cwebp", "-quiet", "-metadata", "exif", base, "-o", target)
+
+
+def xmp_jpeg(base, target, file):
+    untagged(base, target, file)
+    tag(target, *(f"-XMP-{name}={file['stamp']}"
+                  for name in ("photoshop:DateCreated", "xmp:CreateDate", "xmp:ModifyDate")))
+
+
+def typed_date(base, target, file):
+    untagged(base, target, file)
+    minute, zone = file["stamp"][:16], file["stamp"][19:]
+    tag(target, f"-XMP-photoshop:DateCreated={minute}{zone}")
+
+
+def untagged(base, target, _file):
+    shutil.copyfile(base, target)
+    tag(target, "-all=")
+
+
 def webp(base, target, _file):
     run("cwebp", "-quiet", "-metadata", "none", base, "-o", target)
 
@@ -46,7 +73,9 @@ def live_movie(base, target, file):
         f"-Keys:CreationDate={file['stamp']}")
 
 
-ENCODERS = {"heic": heic, "png": png, "webp": webp, "mov": live_movie, "mp4": movie}
+ENCODERS = {"heic": heic, "png": png, "exif-png": exif_png, "webp": webp, "exif-webp": exif_webp,
+            "xmp-jpeg": xmp_jpeg, "typed-date": typed_date, "untagged": untagged,
+            "mov": live_movie, "mp4": movie}
 
 
 def main():

@@ -7,15 +7,15 @@ the night at home, whose clocks were right. Exit code 1 when anything is not as 
 import datetime
 import json
 import pathlib
+import struct
 import subprocess
 import sys
+import zlib
 
 EXIF_TAGS = ["EXIF:DateTimeOriginal", "EXIF:CreateDate", "EXIF:ModifyDate", "EXIF:OffsetTime",
              "EXIF:OffsetTimeOriginal", "EXIF:OffsetTimeDigitized"]
 TAGS = EXIF_TAGS + ["QuickTime:CreateDate", "QuickTime:ModifyDate", "QuickTime:CreationDate",
-                    "RIFF:DateTimeOriginal", "XMP:DateCreated"]
-
-
+                    "RIFF:DateTimeOriginal", "XMP:DateCreated", "XMP:CreateDate", "XMP:ModifyDate"]
 NAMING_TAGS = ["EXIF:DateTimeOriginal", "QuickTime:CreationDate", "QuickTime:CreateDate",
                "RIFF:DateTimeOriginal", "XMP:DateCreated"]
 
@@ -66,24 +66,54 @@ def order_faults(files, listed):
     return sum(a != b for a, b in zip(true_order, found)) + abs(len(true_order) - len(found))
 
 
+def png_checksums(data):
+    """Each chunk of a PNG as (begin, place of its checksum), with every checksum proved."""
+    at = 8
+    while data[:4] == b"\x89PNG" and at + 12 <= len(data):
+        crc = at + 8 + struct.unpack_from(">I", data, at)[0]
+        if struct.unpack_from(">I", data, crc)[0] != zlib.crc32(data[at + 4:crc]):
+            raise SystemExit(f"witness: a PNG chunk at {at} has a wrong checksum")
+        yield at, crc
+        at = crc + 4
+
+
+def stray_places(places, values, new):
+    """Changed places outside of values and of the checksums of PNG chunks with changed values."""
+    inside = [at for at in places if any(begin <= at < end for begin, end in values)]
+    sums = [crc for begin, crc in png_checksums(new) if any(begin <= at < crc for at in inside)]
+    return [at for at in places if at not in inside and not any(0 <= at - crc < 4 for crc in sums)]
+
+
+def picture_of(path):
+    """A sum of all decoded pictures of a file."""
+    done = subprocess.run(["ffmpeg", "-v", "error", "-i", path, "-map", "0:v", "-f", "md5", "-"],
+                          capture_output=True, text=True, check=True)
+    return done.stdout
+
+
 def judge_bytes(trip, files):
-    """Counts files changed, bytes changed, and bytes changed outside of the recorded values."""
+    """Counts files changed in place, bytes changed, bytes changed outside of the recorded values,
+    files that changed in size though they need not, files that ExifTool had to write, and pictures
+    among those that are others now."""
     ranges = {}
     for entry in json_lines(trip / "info.jsonl"):
         key = "/".join(pathlib.PurePath(entry["path"]).parts[-2:])
         ranges[key] = [(value["offset"], value["offset"] + value["room"])
                        for value in entry["values"]]
-    changed_files = changed_bytes = strays = resized = 0
+    changed_files = changed_bytes = strays = resized = rewritten = spoilt = 0
     for file in files:
-        old = (trip / "untouched" / file["path"]).read_bytes()
-        new = (trip / "photos" / file["path"]).read_bytes()
+        old_path, new_path = (trip / state / file["path"] for state in ("untouched", "photos"))
+        if file["isRewritten"]:
+            rewritten += 1
+            spoilt += picture_of(old_path) != picture_of(new_path)
+            continue
+        old, new = old_path.read_bytes(), new_path.read_bytes()
         resized += len(old) != len(new)
         places = [at for at, (a, b) in enumerate(zip(old, new)) if a != b] if old != new else []
         changed_files += bool(places)
         changed_bytes += len(places)
-        strays += sum(not any(begin <= at < end for begin, end in ranges.get(file["path"], []))
-                      for at in places)
-    return changed_files, changed_bytes, strays, resized
+        strays += len(stray_places(places, ranges.get(file["path"], []), new))
+    return changed_files, changed_bytes, strays, resized, rewritten, spoilt
 
 
 def right_ones_are_untouched(trip, files):
@@ -106,7 +136,7 @@ def main():
     after = order_faults(trip_files, json_lines(trip / "after.jsonl"))
     night_before = order_faults(night_files, json_lines(trip / "night-before.jsonl"))
     night_after = order_faults(night_files, json_lines(trip / "night-after.jsonl"))
-    changed_files, changed_bytes, strays, resized = judge_bytes(trip, files)
+    changed_files, changed_bytes, strays, resized, rewritten, spoilt = judge_bytes(trip, files)
     verdicts = [
         (date_faults == 0, f"dates: {len(files) - date_faults} of {len(files)} files hold the true "
                            "time in every stamp and zone stamp that they have"),
@@ -117,7 +147,9 @@ def main():
          f"were read as the later, {night_after} with the other reading of one"),
         (changed_files > 0 and strays == 0 and resized == 0,
          f"bytes: {changed_bytes} bytes differ in {changed_files} files, {strays} of them outside "
-         f"the date values; {resized} files changed in size"),
+         f"the date values (and PNG checksums); {resized} files changed in size"),
+        (rewritten > 0 and spoilt == 0,
+         f"pictures: ExifTool had to write {rewritten} files; {spoilt} of their pictures changed"),
         (right_ones_are_untouched(trip, files),
          "care: the files of the phone and of the night are as they were, times included"),
     ]

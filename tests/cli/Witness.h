@@ -14,8 +14,9 @@ public:
     static bool isAvailable() { return std::system("exiftool -ver >/dev/null 2>&1") == 0; }
 
     explicit Witness(const Arguments &paths) {
-        const Arguments tags{"-DateTimeOriginal", "-CreateDate",         "-ModifyDate",
-                             "-OffsetTime",       "-OffsetTimeOriginal", "-OffsetTimeDigitized"};
+        const Arguments tags = words("-DateTimeOriginal -CreateDate -ModifyDate -OffsetTime "
+                                     "-OffsetTimeOriginal -OffsetTimeDigitized -DateCreated "
+                                     "-DateTimeDigitized -CreationDate");
         const Arguments arguments =
             joined(joined({"-j", "-G1", "-a", "-s", "-n", "-q"}, tags), paths);
         const little::TemporaryFolder work;

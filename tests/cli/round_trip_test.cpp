@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <gmock/gmock.h>
 #include <map>
+#include <numeric>
 #include <set>
 
 namespace chronomender {
@@ -15,12 +16,13 @@ namespace {
 
 using ::testing::HasSubstr;
 
-constexpr const char *kinds[] = {"jpeg", "tiff", "raw"};
+const Arguments allKinds{"jpeg", "tiff", "raw", "heif", "avif", "cr3",      "png",
+                         "webp", "gif",  "mov", "mp4",  "avi",  "malformed"};
 constexpr const char *zoneKeys[] = {"ExifOffsetTimeOriginal", "ExifOffsetTimeDigitized",
                                     "TIFFOffsetTime"};
 const absl::Duration shift = absl::Hours(1) + absl::Seconds(123);
 
-/// A recorded stamp, and the tag under which the witness knows it.
+/// A recorded stamp, the tag under which the witness knows it, and the slot that it tells.
 struct StampKey {
     const char *key, *witnessTag, *slot;
 };
@@ -28,6 +30,15 @@ constexpr StampKey stampKeys[]{
     {"ExifDateTimeOriginal", "ExifIFD:DateTimeOriginal", "exifDateTimeOriginal"},
     {"ExifDateTimeDigitized", "ExifIFD:CreateDate", "exifDateTimeDigitized"},
     {"TIFFDateTime", "IFD0:ModifyDate", "tiffDateTime"},
+    {"photoshop:DateCreated", "XMP-photoshop:DateCreated", "exifDateTimeOriginal"},
+    {"exif:DateTimeOriginal", "XMP-exif:DateTimeOriginal", "exifDateTimeOriginal"},
+    {"exif:DateTimeDigitized", "XMP-exif:DateTimeDigitized", "exifDateTimeDigitized"},
+    {"xmp:CreateDate", "XMP-xmp:CreateDate", "exifDateTimeDigitized"},
+    {"xmp:ModifyDate", "XMP-xmp:ModifyDate", "tiffDateTime"},
+    {"QTMetaDate", "Keys:CreationDate", "exifDateTimeOriginal"},
+    {"QTMvhdCreaDate", "QuickTime:CreateDate", "exifDateTimeOriginal"},
+    {"QTMvhdModDate", "QuickTime:ModifyDate", "tiffDateTime"},
+    {"riffCreaDate", "RIFF:DateTimeOriginal", "exifDateTimeOriginal"},
 };
 
 const Json *valueWithKey(const Json &info, const std::string &key) {
@@ -37,6 +48,13 @@ const Json *valueWithKey(const Json &info, const std::string &key) {
     return nullptr;
 }
 
+bool isExif(const std::string &key) {
+    return key.starts_with("ExifDateTime") || key == "TIFFDateTime";
+}
+bool isXmp(const std::string &key) {
+    return key.find(':') != std::string::npos;
+}
+
 /// Digits in all places, a date, and a zero byte behind it.
 bool isCanonical(const Json &value) {
     const std::string text = value.at("text");
@@ -44,20 +62,46 @@ bool isCanonical(const Json &value) {
            civilFromExifTimeStamp(text) && value.at("bytes").get<std::string>().ends_with("00");
 }
 
+/// A slot's date as found in the file; "" for none.
+std::string oldDate(const Json &info, const char *slot) {
+    return info.at("slots").value(slot, Json::object()).value("old", "");
+}
+
 /// Original, digitized, modification: each not before the one in front of it, as a shift keeps
 /// dates apart only then.
 bool areSlotsInOrder(const Json &info) {
     std::string last;
-    for (const StampKey &stamp : stampKeys) {
-        const auto slot = info.at("slots").find(stamp.slot);
-        if (slot == info.at("slots").end() || !slot->contains("old"))
-            continue;
-        const std::string date = slot->at("old");
-        if (date < last)
+    for (const char *slot : {"exifDateTimeOriginal", "exifDateTimeDigitized", "tiffDateTime"}) {
+        const std::string date = oldDate(info, slot);
+        if (!date.empty() && date < last)
             return false;
-        last = date;
+        last = std::max(last, date);
     }
     return true;
+}
+
+/// The stamp tells another instant than the slot that it belongs to, which is written to both.
+bool isOfAnotherInstant(const Json &value, const std::string &slotDate) {
+    std::string stamp = value.at("text");
+    if (const std::size_t bracket = stamp.find('('); bracket != std::string::npos)
+        stamp = stamp.substr(bracket + 1, stamp.size() - bracket - 2);
+    absl::Time own, ofSlot;
+    return absl::ParseTime(absl::RFC3339_full, stamp, &own, nullptr) &&
+           absl::ParseTime(absl::RFC3339_full, slotDate, &ofSlot, nullptr) &&
+           absl::AbsDuration(own - ofSlot) >= absl::Seconds(1);
+}
+
+std::string reasonOfValue(const StampKey &stamp, const Json &value, const Json &info) {
+    const std::string text = value.at("text");
+    if (isExif(stamp.key) && !isCanonical(value))
+        return "not a canonical stamp";
+    if (isExif(stamp.key) && value.at("room") < 19)
+        return "no room";
+    if (isXmp(stamp.key) && std::count(text.begin(), text.begin() + 19, ':') < 2)
+        return "short XMP stamp, to be made longer";
+    if (!isExif(stamp.key) && isOfAnotherInstant(value, oldDate(info, stamp.slot)))
+        return isXmp(stamp.key) ? "XMP tells another instant" : "header tells another instant";
+    return "";
 }
 
 /// Why a file cannot be expected to come back byte by byte; "" when it must.
@@ -66,54 +110,45 @@ std::string reasonToLeaveOut(const Json &info) {
     if (type >= 5 && type <= 10)
         return "empty tags";
     for (const StampKey &stamp : stampKeys)
-        if (const Json *value = valueWithKey(info, stamp.key)) {
-            if (!isCanonical(*value))
-                return "not a canonical stamp";
-            if (value->at("room") < 19)
-                return "no room";
-        }
+        if (const Json *value = valueWithKey(info, stamp.key))
+            if (const std::string reason = reasonOfValue(stamp, *value, info); !reason.empty())
+                return reason;
     return areSlotsInOrder(info) ? "" : "slots out of order";
 }
 
-/// The date stands in an XMP packet, which is not written in place yet.
-bool hasXmpDate(const Json &info) {
-    const Json &values = info.at("values");
-    return std::any_of(values.begin(), values.end(), [](const Json &value) {
-        const std::string key = value.at("key");
-        return key.find(':') != std::string::npos && key.find("GPS") == std::string::npos;
-    });
-}
-
-/// Copies of the corpus's photos, a folder for each kind.
+/// Copies of the corpus's files, a folder for each kind, each file an item by itself.
 class CorpusCopies : public MendTest {
 protected:
+    explicit CorpusCopies(Arguments kinds = allKinds) : m_kinds(std::move(kinds)) {}
+
     void SetUp() override {
         const auto corpus = little::corpusFolder(CHRONOMENDER_SOURCE_TREE);
         if (!std::filesystem::exists(corpus / "jpeg"))
             GTEST_SKIP() << "no corpus at " << corpus;
-        for (const char *kind : kinds)
+        for (const std::string &kind : m_kinds)
             std::filesystem::copy(corpus / kind, path(kind));
-        for (Json &line : mend({"info", "--json", "--system-zone", "UTC", path("jpeg"),
-                                path("tiff"), path("raw")})
-                              .lines()) {
+        for (Json &line : told("info", {})) {
             const std::string file = line.at("path");
-            if (hasXmpDate(line)) {
-                std::filesystem::remove(file);
-                continue;
-            }
             m_before[file] = little::fileContent(file);
             m_info[file] = std::move(line);
         }
         ASSERT_GE(m_info.size(), 90U);
     }
 
+    RunResult run(const std::string &command, const Arguments &forFolders,
+                  const Arguments &forRun = {}) const {
+        Arguments arguments = joined(
+            {command, "--json", "--system-zone", "UTC", "--set", "createFileGroups=0"}, forRun);
+        for (const std::string &kind : m_kinds)
+            arguments = joined(joined(arguments, {"--folder", path(kind)}), forFolders);
+        return mend(arguments);
+    }
+    std::vector<Json> told(const std::string &command, const Arguments &options) const {
+        return run(command, options).lines();
+    }
     RunResult save(const std::string &shiftText, const Arguments &forFolders,
                    const Arguments &forRun) const {
-        Arguments arguments = joined({"save", "--json", "--system-zone", "UTC"}, forRun);
-        for (const char *kind : kinds)
-            arguments = joined(joined(arguments, {"--folder", path(kind), "--shift", shiftText}),
-                               forFolders);
-        return mend(arguments);
+        return run("save", joined({"--shift", shiftText}, forFolders), forRun);
     }
 
     Arguments files() const {
@@ -135,28 +170,58 @@ protected:
         return changed;
     }
 
+    void printLeftOut(const std::map<std::string, std::string> &reasons) const {
+        std::map<std::string, std::pair<int, std::string>> formats;
+        for (const auto &[file, info] : m_info) {
+            auto &[count, list] = formats[info.at("format")];
+            ++count;
+            if (const auto reason = reasons.find(file); reason != reasons.end())
+                list +=
+                    "    " + file.substr(disk().path().size() + 1) + ": " + reason->second + '\n';
+        }
+        for (const auto &[format, entry] : formats)
+            std::printf("  %-10s %3d files, left out: %td\n%s", format.c_str(), entry.first,
+                        std::count(entry.second.begin(), entry.second.end(), '\n'),
+                        entry.second.c_str());
+        std::printf("  %zu files, %zu left out\n", m_info.size(), reasons.size());
+    }
+
+    Arguments m_kinds;
     std::map<std::string, Json> m_info;
     std::map<std::string, std::string> m_before;
 };
 
+/// The witness's "2024:05:06 07:08:09", with whatever stands behind it.
 std::string shiftedStamp(const std::string &stamp) {
-    const auto fields = civilFromExifTimeStamp(stamp);
+    const auto fields = civilFromExifTimeStamp(stamp.substr(0, 19));
     return fields ? exifDataFromDate(instantFromCivil(*fields, absl::UTCTimeZone()) + shift,
                                      absl::UTCTimeZone())
-                        ->substr(0, 19)
+                            ->substr(0, 19) +
+                        stamp.substr(19)
                   : stamp;
 }
 
 class RoundTrip : public CorpusCopies {
 protected:
+    using CorpusCopies::CorpusCopies;
+
     /// Every slot of a file moves by the same.
     RunResult saveAlike(const std::string &shiftText,
-                        const Arguments &forFolders = {"--target-zone", "own"},
-                        const std::string &accepted = "error_13_unreadableStamp") const {
+                        const Arguments &forFolders = {"--target-zone", "own"}) const {
         return save(shiftText, forFolders,
-                    {"--accept", accepted, "--set", "dateChangeEXIFEXIFDigiDate=3", "--set",
+                    {"--accept", "all", "--set", "dateChangeEXIFEXIFDigiDate=3", "--set",
                      "dateChangeEXIFEXIFModDate=3", "--set",
                      "dateChangeNoEXIFButTIFFMetaModDate=3"});
+    }
+
+    /// Only files that are left out anyway may have failed.
+    void expectSaved(const RunResult &run,
+                     const std::map<std::string, std::string> &leftOut) const {
+        for (const Json &line : run.lines())
+            if (const std::string result = line.value("result", "saved");
+                result != "saved" && result != "unchanged") {
+                EXPECT_TRUE(leftOut.contains(line.at("path"))) << line << run.errors;
+            }
     }
 
     std::map<std::string, std::string> leftOut() const {
@@ -167,48 +232,63 @@ protected:
         return reasons;
     }
 
-    void expectWitnessed(const std::string &file, const Witness &before, const Witness &now) const {
+    /// The number of stamps that both know.
+    int expectWitnessed(const std::string &file, const Witness &before, const Witness &now) const {
+        int known = 0;
         for (const StampKey &stamp : stampKeys) {
             const Json *value = valueWithKey(m_info.at(file), stamp.key);
             const std::string seen = before.value(file, stamp.witnessTag);
-            if (value && seen == value->at("text")) {
-                EXPECT_EQ(now.value(file, stamp.witnessTag), shiftedStamp(seen))
-                    << file << ' ' << stamp.key;
-            }
+            if (!value || seen.size() < 19 || seen.starts_with("0000") ||
+                (isExif(stamp.key) && seen != value->at("text")))
+                continue;
+            ++known;
+            EXPECT_EQ(now.value(file, stamp.witnessTag), shiftedStamp(seen))
+                << file << ' ' << stamp.key;
         }
+        return known;
     }
 };
 
 TEST_F(RoundTrip, ThereAndBackGivesTheSameBytes) {
     const auto excluded = leftOut();
+    printLeftOut(excluded);
+    EXPECT_LE(excluded.size() * 10, m_info.size());
     const bool hasWitness = Witness::isAvailable();
     const std::optional<Witness> before =
         hasWitness ? std::optional<Witness>(std::in_place, files()) : std::nullopt;
-    const RunResult there = saveAlike("+1:02:03");
-    ASSERT_EQ(there.exitCode, 0) << there.errors;
+    expectSaved(saveAlike("+1:02:03"), excluded);
     if (hasWitness) {
         const Witness now(files());
+        int known = 0;
         for (const auto &[file, info] : m_info)
-            if (!excluded.contains(file))
-                expectWitnessed(file, *before, now);
+            known += excluded.contains(file) ? 0 : expectWitnessed(file, *before, now);
+        std::printf("  %d stamps were seen shifted by the witness\n", known);
+        EXPECT_GE(known, 350);
     }
-    const RunResult back = saveAlike("-1:02:03");
-    ASSERT_EQ(back.exitCode, 0) << back.errors;
+    expectSaved(saveAlike("-1:02:03"), excluded);
     for (const auto &[file, info] : m_info)
         if (!excluded.contains(file)) {
             EXPECT_EQ(changedBytes(file), std::vector<std::size_t>()) << file;
         }
-
-    std::printf("%zu files, %zu left out:\n", m_info.size(), excluded.size());
-    for (const auto &[file, reason] : excluded)
-        std::printf("  %s: %s\n", file.substr(disk().path().size() + 1).c_str(), reason.c_str());
-    EXPECT_LE(excluded.size() * 10, m_info.size());
     if (!hasWitness)
         GTEST_SKIP() << "exiftool is not installed: the stamps in between had no witness";
 }
 
+/// Only files whose dates stand in Exif: the others tell an offset of their own, or UTC.
 class ZoneRoundTrip : public RoundTrip {
 protected:
+    ZoneRoundTrip() : RoundTrip({"jpeg", "tiff", "raw"}) {}
+
+    void SetUp() override {
+        RoundTrip::SetUp();
+        std::erase_if(m_info, [](const auto &entry) {
+            const bool hasXmp = std::ranges::any_of(stampKeys, [&](const StampKey &stamp) {
+                return isXmp(stamp.key) && valueWithKey(entry.second, stamp.key);
+            });
+            return hasXmp && std::filesystem::remove(entry.first);
+        });
+    }
+
     /// Writes every stamp in another zone, and notes files with a stamp in an hour that one of the
     /// two zones has twice or not at all.
     void move(const std::string &from, const std::string &to) {
@@ -218,15 +298,8 @@ protected:
                 if (alert.at("name") == "repeatedTime" || alert.at("name") == "skippedTime" ||
                     alert.at("name") == "cannotBeWritten")
                     m_doubtful[line.at("path")] = alert.at("text");
-        const RunResult run = saveAlike("0", zones, "all");
+        const RunResult run = saveAlike("0", zones);
         ASSERT_EQ(run.exitCode, 0) << run.errors;
-    }
-
-    std::vector<Json> told(const std::string &command, const Arguments &options) const {
-        Arguments arguments{command, "--json", "--system-zone", "UTC"};
-        for (const char *kind : kinds)
-            arguments = joined(joined(arguments, {"--folder", path(kind)}), options);
-        return mend(arguments).lines();
     }
 
     /// The instants that the stamps of each file mean: a zone stamp that does not go with its date
@@ -286,6 +359,31 @@ protected:
                            [&](const Json &value) { return isInside(offset, value); });
     }
 
+    /// Places of the checksums of those chunks of a PNG that have one of the changed places
+    /// inside.
+    std::set<std::size_t> checksumPlaces(const std::string &file,
+                                         const std::vector<std::size_t> &changed) const {
+        const std::string &bytes = m_before.at(file);
+        std::set<std::size_t> places;
+        const auto numberAt = [&](std::size_t at) {
+            return std::accumulate(bytes.begin() + static_cast<std::ptrdiff_t>(at),
+                                   bytes.begin() + static_cast<std::ptrdiff_t>(at) + 4,
+                                   std::size_t{0}, [](std::size_t sum, char byte) {
+                                       return sum * 256 + static_cast<unsigned char>(byte);
+                                   });
+        };
+        for (std::size_t at = 8, end = 0; bytes.starts_with("\x89PNG") && at + 12 <= bytes.size();
+             at = end + 4) {
+            end = at + 8 + numberAt(at);
+            const bool isTouched = std::ranges::any_of(changed, [&](std::size_t place) {
+                return place >= at && place < end && isRecorded(file, place);
+            });
+            for (std::size_t i = 0; i < 4 && isTouched; ++i)
+                places.insert(end + i);
+        }
+        return places;
+    }
+
     bool isOfZoneStamp(const std::string &file, std::size_t offset) const {
         return std::any_of(std::begin(zoneKeys), std::end(zoneKeys), [&](const char *key) {
             const Json *value = valueWithKey(m_info.at(file), key);
@@ -307,13 +405,16 @@ TEST_F(DefaultSave, ChangesNothingButRecordedValues) {
         ASSERT_EQ(changedBytes(file), std::vector<std::size_t>()) << file;
 
     const RunResult accepted = save("+1:02:03", {}, {"--accept", "all"});
-    EXPECT_EQ(accepted.exitCode, 0) << accepted.errors;
     std::size_t written = 0;
     for (const auto &[file, info] : m_info) {
+        if (reasonToLeaveOut(info).starts_with("short XMP"))
+            continue; // ExifTool writes it anew
         const auto changed = changedBytes(file);
         written += changed.empty() ? 0 : 1;
+        const auto checksums = checksumPlaces(file, changed);
         for (const std::size_t offset : changed) {
-            EXPECT_TRUE(isRecorded(file, offset)) << file << " @" << offset;
+            EXPECT_TRUE(isRecorded(file, offset) || checksums.contains(offset))
+                << file << " @" << offset;
             EXPECT_TRUE(!isOfZoneStamp(file, offset) || withZoneProblem.contains(file))
                 << file << " @" << offset;
         }
