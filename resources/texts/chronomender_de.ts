@@ -837,25 +837,25 @@ Beispiele:
         <translation>Speichern und umbenennen</translation>
     </message>
     <message id="recovery_changed">
-        <translation>„%1“ oder die zugehörige zweite Datei wurde von einem anderen Programm verändert, nachdem ein Lauf unterbrochen worden war, und bleibt, wie sie ist. Bitte die Daten prüfen.</translation>
+        <translation>ein anderes Programm hat diese oder die zugehörige Datei verändert, nachdem ein Lauf unterbrochen worden war; sie bleibt, wie sie ist, bitte die Daten prüfen</translation>
     </message>
     <message id="recovery_completed">
-        <translation>„%1“ wurde gerade geschrieben, als ein Lauf unterbrochen wurde. Die Datei hat jetzt alle neuen Werte; es ist nichts weiter zu tun.</translation>
+        <translation>wurde gerade geschrieben, als ein Lauf unterbrochen wurde; die Datei hat jetzt alle neuen Werte</translation>
     </message>
     <message id="recovery_inUse">
-        <translation>„%1“ oder die zugehörige zweite Datei wird von einem anderen Programm benutzt und ist vielleicht nur zum Teil geschrieben. Bitte dieses Programm schließen; beim nächsten Start wird es wieder versucht.</translation>
+        <translation>diese oder die zugehörige Datei wird von einem anderen Programm benutzt und ist vielleicht nur zum Teil geschrieben; bitte dieses Programm schließen, beim nächsten Start wird es wieder versucht</translation>
     </message>
     <message id="recovery_nothing">
-        <translation>„%1“ ist unversehrt: Ein unterbrochener Lauf hatte mit dem Schreiben noch nicht begonnen oder war damit fertig. Es musste nichts geschrieben werden.</translation>
+        <translation>unversehrt; ein unterbrochener Lauf hatte noch nicht begonnen oder war schon fertig, und es musste nichts geschrieben werden</translation>
     </message>
     <message id="recovery_takenBack">
-        <translation>„%1“ wurde gerade geschrieben, als ein Lauf unterbrochen wurde. Die Datei hat wieder alle alten Werte; bitte noch einmal sichern.</translation>
+        <translation>wurde gerade geschrieben, als ein Lauf unterbrochen wurde; die Datei hat wieder alle alten Werte, bitte noch einmal sichern</translation>
     </message>
     <message id="recovery_unreachable">
-        <translation>„%1“ oder die zugehörige zweite Datei ist nicht zu finden und vielleicht nur zum Teil geschrieben. Bitte das Volume verbinden oder die Datei zurücklegen; beim nächsten Start wird es wieder versucht.</translation>
+        <translation>diese oder die zugehörige Datei ist nicht zu finden und vielleicht nur zum Teil geschrieben; bitte das Volume verbinden oder die Datei zurücklegen, beim nächsten Start wird es wieder versucht</translation>
     </message>
     <message id="recovery_writeFailed">
-        <translation>„%1“ oder die zugehörige zweite Datei ist vielleicht nur zum Teil geschrieben und lässt sich jetzt nicht schreiben (%2). Bitte beschreibbar machen; beim nächsten Start wird es wieder versucht.</translation>
+        <translation>diese oder die zugehörige Datei ist vielleicht nur zum Teil geschrieben und lässt sich jetzt nicht schreiben; bitte beschreibbar machen, beim nächsten Start wird es wieder versucht</translation>
     </message>
     <message id="resetAllInFolderMode">
         <translation>Zeitverschiebung des Ordners zurücknehmen</translation>

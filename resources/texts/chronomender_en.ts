@@ -837,25 +837,25 @@ Examples:
         <translation>Save and Rename</translation>
     </message>
     <message id="recovery_changed">
-        <translation>“%1”, or the file that belongs with it, was changed by another program after a run was interrupted, and is left alone. Check its dates.</translation>
+        <translation>another program has changed it, or the file that belongs with it, after a run was interrupted; it is left alone, please check its dates</translation>
     </message>
     <message id="recovery_completed">
-        <translation>“%1” was being written when a run was interrupted. It has all its new values now; nothing is left to do.</translation>
+        <translation>was being written when a run was interrupted; it has all its new values now</translation>
     </message>
     <message id="recovery_inUse">
-        <translation>“%1”, or the file that belongs with it, is in use by another program, and may be written only in part. Close that program; it is tried again at the next start.</translation>
+        <translation>it, or the file that belongs with it, is in use by another program and may be written only in part; close that program, it is tried again at the next start</translation>
     </message>
     <message id="recovery_nothing">
-        <translation>“%1” is whole: an interrupted run had not begun to write it, or was done with it. Nothing had to be written.</translation>
+        <translation>whole; an interrupted run had not begun with it, or was done with it, and nothing had to be written</translation>
     </message>
     <message id="recovery_takenBack">
-        <translation>“%1” was being written when a run was interrupted. It has all its old values again; save it once more.</translation>
+        <translation>was being written when a run was interrupted; it has all its old values again, please save it once more</translation>
     </message>
     <message id="recovery_unreachable">
-        <translation>“%1”, or the file that belongs with it, cannot be found, and may be written only in part. Connect its volume or put it back; it is tried again at the next start.</translation>
+        <translation>it, or the file that belongs with it, cannot be found and may be written only in part; connect its volume or put it back, it is tried again at the next start</translation>
     </message>
     <message id="recovery_writeFailed">
-        <translation>“%1”, or the file that belongs with it, may be written only in part, and cannot be written now (%2). Make it writable; it is tried again at the next start.</translation>
+        <translation>it, or the file that belongs with it, may be written only in part and cannot be written now; make it writable, it is tried again at the next start</translation>
     </message>
     <message id="resetAllInFolderMode">
         <translation>Take Back the Folder’s Shift</translation>

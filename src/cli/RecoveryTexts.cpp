@@ -15,30 +15,21 @@ using Result = RecoveredFile::Result;
 struct RecoveryResult {
     Result result;
     std::string_view name;
-    bool isLeft;
 };
 constexpr std::array<RecoveryResult, 7> results{{
-    {Result::Nothing, "nothing", false},
-    {Result::Completed, "completed", false},
-    {Result::TakenBack, "takenBack", false},
-    {Result::Changed, "changed", false},
-    {Result::Unreachable, "unreachable", true},
-    {Result::InUse, "inUse", true},
-    {Result::WriteFailed, "writeFailed", true},
+    {Result::Nothing, "nothing"},
+    {Result::Completed, "completed"},
+    {Result::TakenBack, "takenBack"},
+    {Result::Changed, "changed"},
+    {Result::Unreachable, "unreachable"},
+    {Result::InUse, "inUse"},
+    {Result::WriteFailed, "writeFailed"},
 }};
-
-const RecoveryResult &descriptionOf(Result result) {
-    return *std::ranges::find(results, result, &RecoveryResult::result);
-}
 
 } // namespace
 
 std::string_view resultName(Result result) {
-    return descriptionOf(result).name;
-}
-
-bool isLeft(Result result) {
-    return descriptionOf(result).isLeft;
+    return std::ranges::find(results, result, &RecoveryResult::result)->name;
 }
 
 std::string recoveryText(const RecoveredFile &file) {

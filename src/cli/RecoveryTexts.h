@@ -10,8 +10,6 @@ namespace chronomender {
 
 /// What became of a file, for programs: such as "takenBack".
 std::string_view resultName(RecoveredFile::Result result);
-/// The file is not put right, and stays recorded for the next time.
-bool isLeft(RecoveredFile::Result result);
 /// One line for people: the file, what became of it, and the system's words where it refused.
 std::string recoveryText(const RecoveredFile &file);
 

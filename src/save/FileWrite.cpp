@@ -236,6 +236,7 @@ bool FileWrite::takeBack(SaveErrorId id, std::string systemText) {
     (void)m_file->setModificationDate(m_proved.modificationDate);
     if (!isBack)
         systemText += (systemText.empty() ? "" : "; ") + text("saveObstacle_notPutBack");
+    m_isLeftHalfWritten = !isBack;
     const bool isAsRead = isBack && !m_isReplaced;
     fail(id, isAsRead ? FileUnchangedState::Unchanged : FileUnchangedState::BytesDiffer,
          std::move(systemText));
@@ -254,11 +255,6 @@ void FileWrite::followFailureOf(const FileWrite &other) {
     m_outcome.error = other.m_outcome.error;
     m_outcome.systemText.clear();
     m_outcome.isOfOtherHalf = true;
-}
-
-bool FileWrite::isLeftHalfWritten() const {
-    return m_outcome.error && m_file && m_outcome.attributes &&
-           m_outcome.state != FileUnchangedState::Unchanged;
 }
 
 } // namespace chronomender

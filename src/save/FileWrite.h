@@ -74,7 +74,7 @@ public:
     /// Nothing may be written to it, for a reason from outside.
     void refuse(SaveErrorId id, std::string systemText);
     /// Values of ours stand in it that could not go back.
-    bool isLeftHalfWritten() const;
+    bool isLeftHalfWritten() const { return m_isLeftHalfWritten; }
 
     /// Closes the file, which gives up its lock.
     void close() { m_file.reset(); }
@@ -96,7 +96,8 @@ private:
     FileAttributes m_proved;        ///< of the file before the first write
     std::vector<Patch> m_checksums; ///< behind the plan's patches
     std::size_t m_begun = 0;        ///< patches and checksums whose writing was begun
-    bool m_isReplaced = false;      ///< the open file is the one that the tool wrote
+    bool m_isLeftHalfWritten = false;
+    bool m_isReplaced = false; ///< the open file is the one that the tool wrote
     PatchOutcome m_outcome;
 };
 

@@ -12,11 +12,6 @@
 namespace chronomender {
 namespace {
 
-bool isLeft(RecoveredFile::Result result) {
-    using enum RecoveredFile::Result;
-    return result == Unreachable || result == InUse || result == WriteFailed;
-}
-
 /// Puts right what one record says; the indices of the units that it could not.
 std::vector<std::size_t> recoverUnits(JournalFile &file, const Record &record, FileLayer &files,
                                       std::vector<RecoveredFile> &told) {
@@ -40,6 +35,11 @@ std::vector<std::size_t> recoverUnits(JournalFile &file, const Record &record, F
 }
 
 } // namespace
+
+bool isLeft(RecoveredFile::Result result) {
+    using enum RecoveredFile::Result;
+    return result == Unreachable || result == InUse || result == WriteFailed;
+}
 
 std::string_view textKey(RecoveredFile::Result result) {
     static constexpr std::array<std::string_view, 7> keys = {

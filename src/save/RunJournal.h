@@ -46,7 +46,9 @@ struct RecoveredFile {
     Result result = Result::Nothing;
     std::string systemText; ///< the system's own words where it refused something; else ""
 };
-/// Text key of a result, for example "recovery_completed".
+/// The file is not put right, and stays recorded for the next time.
+bool isLeft(RecoveredFile::Result result);
+/// Text key of a result, for example "recovery_completed"; its text follows the path and a colon.
 std::string_view textKey(RecoveredFile::Result result);
 
 /// The record of what a run is about to write, so that a run that was killed can be put right:

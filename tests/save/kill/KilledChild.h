@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -14,7 +15,8 @@
 namespace chronomender::little {
 
 /// A copy of this process, made by fork, that carries out `work` and is killed at the n-th entry or
-/// exit of a system call, of all its threads together, as if the power of its program had gone.
+/// exit of a system call, of all its threads together. Programs that it has started are not
+/// watched; their end is waited for.
 class KilledChild {
 public:
     enum class End { Killed, Finished, Crashed, NotPermitted };
@@ -24,6 +26,7 @@ public:
     /// `n` from 1; 0 lets it finish. Returns when nothing of the child is left.
     End run(int n) {
         std::fflush(nullptr);
+        ::prctl(PR_SET_CHILD_SUBREAPER, 1); // what the child has started ends up with us
         m_pid = ::fork();
         if (m_pid == 0)
             beChild();
@@ -33,7 +36,10 @@ public:
         ptrace(PTRACE_SETOPTIONS, m_pid, nullptr,
                PTRACE_O_TRACESYSGOOD | PTRACE_O_TRACECLONE | PTRACE_O_EXITKILL);
         goOn(m_pid, 0);
-        return follow(n);
+        const End end = follow(n);
+        while (::waitpid(-1, nullptr, __WALL) > 0)
+            ;
+        return end;
     }
     /// System calls of the work, as the last run that finished made them.
     int systemCalls() const { return m_stops / 2; }

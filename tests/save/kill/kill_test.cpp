@@ -4,6 +4,7 @@
 #include "LittleMovie.h"
 #include "LittlePhotos.h"
 #include "LittleXmp.h"
+#include "PatchPlan.h"
 #include "SaveTest.h"
 
 #include <iomanip>
@@ -96,9 +97,14 @@ protected:
         for (const auto &[name, bytes] : files)
             session.write(name, bytes);
         shiftAllSlotsAlike();
+        session.folder().sfEditMode = EditMode::Together;
         session.import();
         keepOwnZones();
         shift(absl::Hours(25));
+        for (const MySinglePicPtr &pic : session.folder().sfPicDetails_fullArray) {
+            const bool addsTags = isForTool && setShouldAddExifDateTimeTags(*pic, true);
+            EXPECT_EQ(addsTags, isForTool);
+        }
         dry = session.preProcess();
         before = present(files);
     }
@@ -114,6 +120,8 @@ protected:
         fs::remove_all(support);
         for (const auto &[name, bytes] : before.bytes)
             session.write(name, bytes);
+        if (isForTool) // what the tool wrote is another file
+            prepare(Contents(before.bytes));
     }
     State present() const { return present(before.bytes); }
     /// What a save that nothing disturbs leaves; false where it cannot be watched.
@@ -123,6 +131,7 @@ protected:
         after = present();
         for (const auto &[name, bytes] : before.bytes)
             EXPECT_NE(after.bytes.at(name), bytes) << "nothing was saved";
+        patched = isForTool ? patchedByPlan() : after.bytes;
         restore();
         return true;
     }
@@ -132,7 +141,18 @@ protected:
         EXPECT_FALSE(RunJournal::hasUnfinished(support));
         const State state = present();
         EXPECT_TRUE(state == before || state == after);
+        for (const auto &[name, bytes] : before.bytes)
+            EXPECT_FALSE(fs::exists(XtController::copyPath(session.path(name))));
         return state;
+    }
+    Contents patchedByPlan() const {
+        Contents bytes = before.bytes;
+        for (const ItemOutcome &item : dry.items)
+            for (const Patch &patch : item.plan->patches)
+                bytes.at(item.pic->spName)
+                    .replace(static_cast<std::size_t>(patch.offset()), patch.after().size(),
+                             patch.after());
+        return bytes;
     }
     /// The second stage of the save, as a program of its own would run it.
     void saveAsChild() {
@@ -148,11 +168,13 @@ protected:
                                             {}});
         driver.continueProcessThread({}, dry);
     }
-    /// Every run of bytes that the save changes is old or new, and all other bytes are what they
-    /// were.
+    /// Every run of bytes that the save changes in place is old or new, and all other bytes are
+    /// what they were.
     void expectWholeValues(const Contents &now) const {
         for (const auto &[name, bytes] : now) {
-            const std::string &old = before.bytes.at(name), &wanted = after.bytes.at(name);
+            const std::string &old = before.bytes.at(name), &wanted = patched.at(name);
+            if (bytes == after.bytes.at(name))
+                continue;
             ASSERT_EQ(bytes.size(), old.size());
             for (std::size_t i = 0, end; i < old.size(); i = end) {
                 const bool isValue = old[i] != wanted[i];
@@ -165,10 +187,42 @@ protected:
         }
     }
 
+    struct Tally {
+        int kills = 0, oldBefore = 0, newBefore = 0, mixedBefore = 0, oldAfter = 0, newAfter = 0;
+    };
+    /// Kills a save at every entry and exit, or at every so many, until one gets to its end.
+    Tally killEverywhere(const char *name, int step) {
+        Tally tally;
+        for (int stop = 1; child.run(stop) == End::Killed; stop += step) {
+            SCOPED_TRACE(stop);
+            ++tally.kills;
+            const Contents left = present().bytes;
+            expectWholeValues(left);
+            ++(left == before.bytes  ? tally.oldBefore
+               : left == after.bytes ? tally.newBefore
+                                     : tally.mixedBefore);
+            ++(recovered() == before ? tally.oldAfter : tally.newAfter);
+            if (HasFailure())
+                return tally;
+            restore();
+        }
+        EXPECT_EQ(present(), after) << "the last run was not killed";
+        EXPECT_GT(tally.newBefore, 0);
+        std::cout << std::left << std::setw(8) << name << std::right << std::setw(4)
+                  << child.systemCalls() << " system calls," << std::setw(4) << tally.kills
+                  << " kills; before recovery" << std::setw(4) << tally.oldBefore << " old,"
+                  << std::setw(4) << tally.newBefore << " new," << std::setw(4) << tally.mixedBefore
+                  << " mixed; after" << std::setw(4) << tally.oldAfter << " old," << std::setw(4)
+                  << tally.newAfter << " new\n";
+        return tally;
+    }
+
     std::string support = session.disk.path("support");
     KilledChild child{[this] { saveAsChild(); }};
     PreProcessResult dry;
     State before, after;
+    Contents patched; ///< all values new, before the tool comes
+    bool isForTool = false;
 };
 
 class KilledSave : public KilledSaveTest, public testing::WithParamInterface<Case> {};
@@ -177,25 +231,20 @@ TEST_P(KilledSave, IsEntirelyOldOrEntirelyNewAfterRecovery) {
     prepare(GetParam().files());
     if (!learnWhatIsSaved())
         GTEST_SKIP() << "this system permits no tracing";
-    int kills = 0, oldBefore = 0, newBefore = 0, mixedBefore = 0, oldAfter = 0, newAfter = 0;
-    while (child.run(kills + 1) == End::Killed) {
-        SCOPED_TRACE(++kills);
-        const Contents left = present().bytes;
-        expectWholeValues(left);
-        ++(left == before.bytes ? oldBefore : left == after.bytes ? newBefore : mixedBefore);
-        ++(recovered() == before ? oldAfter : newAfter);
-        if (HasFailure())
-            return;
-        restore();
-    }
-    EXPECT_EQ(present(), after) << "the last run was not killed";
-    EXPECT_GT(newBefore, 0);
-    EXPECT_EQ(oldAfter, oldBefore) << "what was begun is completed";
-    std::cout << std::left << std::setw(8) << GetParam().name << std::right << std::setw(4)
-              << child.systemCalls() << " system calls," << std::setw(4) << kills
-              << " kills; before recovery" << std::setw(4) << oldBefore << " old," << std::setw(4)
-              << newBefore << " new," << std::setw(4) << mixedBefore << " mixed; after"
-              << std::setw(4) << oldAfter << " old," << std::setw(4) << newAfter << " new\n";
+    const Tally tally = killEverywhere(GetParam().name, 1);
+    EXPECT_EQ(tally.oldAfter, tally.oldBefore) << "what was begun is completed";
+}
+
+/// The tool runs beside the program that is killed, and is not stopped at its own calls.
+TEST_F(KilledSaveTest, FileThatTheToolWritesIsOldOrNew) {
+    if (!session.tool.program())
+        GTEST_SKIP() << "there is no exiftool on this machine";
+    isForTool = true;
+    prepare({{"a.jpg", jpegPhoto({.original = "2024:05:06 07:08:09"}).bytes}});
+    if (!learnWhatIsSaved())
+        GTEST_SKIP() << "this system permits no tracing";
+    constexpr int mostKills = 60;
+    killEverywhere("Tool", std::max(1, 2 * child.systemCalls() / mostKills));
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, KilledSave, testing::ValuesIn(cases),
