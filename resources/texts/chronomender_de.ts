@@ -452,9 +452,6 @@ Beispiele:
     <message id="cli_progress_reading">
         <translation>Lesen von %1</translation>
     </message>
-    <message id="cli_recovered">
-        <translation>ein unterbrochenes Sichern wurde in Ordnung gebracht: %1</translation>
-    </message>
     <message id="cli_result_failed">
         <translation>%1 misslungen</translation>
     </message>

@@ -452,9 +452,6 @@ Examples:
     <message id="cli_progress_reading">
         <translation>Reading %1</translation>
     </message>
-    <message id="cli_recovered">
-        <translation>an interrupted save was put right: %1</translation>
-    </message>
     <message id="cli_result_failed">
         <translation>%1 failed</translation>
     </message>

@@ -105,7 +105,7 @@ void MendSession::recoverInterruptedRuns() {
     }
     for (const RecoveredFile &file : m_controller->recoverInterruptedRuns())
         if (file.result != RecoveredFile::Result::Nothing)
-            complain(text("cli_recovered", {recoveryText(file)}));
+            complain(recoveryText(file));
 }
 
 void MendSession::failPath(const std::string &message) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MendRun.h"
+#include "RunJournal.h"
 
 #include <csignal>
 #include <gmock/gmock.h>
@@ -7,6 +8,8 @@
 
 namespace chronomender {
 namespace {
+
+using ::testing::HasSubstr;
 
 constexpr int fileCount = 3000;
 constexpr const char *oldStamp = "2024:05:06 07:08:09";
@@ -79,6 +82,58 @@ TEST_F(Interruption, OfAnImportSavesNothing) {
     EXPECT_TRUE(run.exitCode == -SIGTERM || run.exitCode == 130 || run.exitCode == 0);
     const std::string content = little::fileContent(path("few/a.jpg"));
     EXPECT_EQ(occurrences(content, oldStamp), run.exitCode == 0 ? 0U : 3U);
+}
+
+/// A photo whose save was killed behind the first of its three stamps.
+class KilledSave : public MendTest {
+protected:
+    KilledSave() {
+        const little::PhotoFields fields{
+            .original = oldStamp, .digitized = oldStamp, .modified = oldStamp};
+        const auto built = little::jpegPhoto(fields);
+        m_photo = disk().write("trip/a.jpg", built.bytes);
+        const auto files = makeSystemFileLayer();
+        UnitIntent unit{{{m_photo, *files->attributes(m_photo), {}, std::nullopt, ""}}};
+        for (const char *key : {"ExifDateTimeOriginal", "ExifDateTimeDigitized", "TIFFDateTime"})
+            unit.files[0].patches.emplace_back(built.offsets.at(key), oldStamp, newStamp);
+        EXPECT_TRUE(RunJournal(workFolder() + "/home/chronoMender").begin({&unit, 1}));
+        files->open(m_photo, OpenMode::Update)
+            ->pwrite(newStamp, built.offsets.at("ExifDateTimeOriginal"));
+        m_torn = little::fileContent(m_photo);
+    }
+
+    std::string m_photo, m_torn;
+};
+
+TEST_F(KilledSave, IsPutRightByTheNextStartButNotByADryRun) {
+    const RunResult dry = mend({"save", "--dry-run", "--folder", path("trip"), "--shift", "60"});
+    EXPECT_THAT(dry.errors, HasSubstr("mend resume"));
+    EXPECT_EQ(little::fileContent(m_photo), m_torn);
+    const RunResult list = mend({"list", "--json", path("trip")});
+    EXPECT_THAT(list.errors, HasSubstr("a.jpg: was being written when a run was interrupted"));
+    EXPECT_EQ(occurrences(little::fileContent(m_photo), newStamp), 3U);
+    EXPECT_EQ(mend({"list", "--json", path("trip")}).errors, "");
+}
+
+TEST_F(KilledSave, StaysNotedWhileItsFileIsAwayUntilItIsGivenUp) {
+    std::filesystem::rename(m_photo, path("elsewhere.jpg"));
+    const RunResult run = mend({"resume", "--json"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.lines().at(0).at("result"), "unreachable");
+    EXPECT_EQ(run.lines().at(1).at("summary").at("left"), 1);
+    std::filesystem::rename(path("elsewhere.jpg"), m_photo);
+    const RunResult back = mend({"resume"});
+    EXPECT_EQ(back.exitCode, 0);
+    EXPECT_THAT(back.output, HasSubstr("it has all its new values now"));
+    EXPECT_EQ(occurrences(little::fileContent(m_photo), newStamp), 3U);
+}
+
+TEST_F(KilledSave, CanBeGivenUp) {
+    std::filesystem::remove(m_photo);
+    const RunResult run = mend({"resume", "--forget"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.output, HasSubstr("1 given up"));
+    EXPECT_EQ(mend({"resume"}).output, "No save was interrupted.\n");
 }
 
 } // namespace
