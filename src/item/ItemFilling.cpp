@@ -105,8 +105,8 @@ void cleanupBeforeRefreshInternalData(MySinglePic &pic) {
     attributes.gpsTimeStamp.reset();
     attributes.gpsLocation.reset();
     attributes.xmpDateInfos = {};
-    if (std::exchange(pic.location.isGpsXmp, false))
-        pic.location.spGpsUTCDate.reset();
+    pic.location.isGpsXmp = false;
+    pic.location.spGpsUTCDate.reset();
     attributes.xmpHeaderStartOffset.reset();
     attributes.cr3XmpOffset.reset();
 }

@@ -54,7 +54,8 @@ TEST_F(TagAdding, MissingTagsAreThereAndTheRestIsCorrectedAsWell) {
              {"a.webp", FileFormatWebp},
              {"a.tif", FileFormatTiff}};
     for (const auto &[name, format] : rows) {
-        const MySinglePic &pic = imported(name, photoOf(format, {.original = original}));
+        const MySinglePic &pic =
+            imported(name, photoOf(format, {.original = original, .location = PhotoLocation{}}));
         saves();
         // The modification tag takes the file's date.
         EXPECT_EQ(witness(pic.spPath()), "2024:05:06 08:08:09\n2024:05:06 08:08:09\n"
