@@ -112,6 +112,9 @@ public:
     /// From now on such changes are noticed. A program that runs for one command has no need to.
     void startWatchingSystemZone();
 
+    /// Files that need the external tool can be written.
+    bool hasTool() const { return m_tool.program().has_value(); }
+
     /// What calculations for a display go by.
     NewDateContext liveContext() const;
 

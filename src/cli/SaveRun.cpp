@@ -29,10 +29,12 @@ public:
         if (m_plan.items.empty())
             return finish(m_plan.items, Stage::Plan, exitDone);
         const bool needsConsent = hasUnacceptedProblem();
-        if (m_session.line().isDryRun || needsConsent)
+        if (m_session.line().isDryRun || needsConsent) {
+            foretellMissingTool();
             return finish(m_plan.items, Stage::Plan,
                           needsConsent ? exitProblems : exitCodeOf(m_plan.items),
                           actionErrorText(plannedErrors()));
+        }
         const SaveRunResult result = continueProcess();
         return finish(result.items, Stage::Run,
                       result.wasCancelled ? exitInterrupted : exitCodeOf(result.items),
@@ -86,6 +88,20 @@ private:
                    !item.errors.empty();
         });
         return isWhole ? exitDone : exitItemFailed;
+    }
+
+    void foretellMissingTool() {
+        if (m_session.controller().hasTool())
+            return;
+        const FolderPaths paths(m_session.folders());
+        for (ItemOutcome &item : m_plan.items) {
+            const MySingleFolderPtr folder = item.pic->spSingleRealFolder();
+            if (!folder || std::ranges::find(item.slots, SlotResult::WrittenByTool,
+                                             &SlotOutcome::result) == item.slots.end())
+                continue;
+            item.result = ItemResult::Failed;
+            item.errors.push_back({SaveErrorId::ToolMissing, paths.path(*folder, *item.pic), ""});
+        }
     }
 
     /// What a save would fail with, known without writing.

@@ -102,6 +102,10 @@ TEST_F(Save, MissingTagsAreAskedForAndAddedWhereTheyCanBe) {
         mend(joined({"info"}, folder)).lines().at(0).at("slots").at("exifDateTimeDigitized");
     EXPECT_EQ(added.at("new"), "2024-05-06T07:08:09Z");
     EXPECT_FALSE(added.contains("old"));
+    const RunResult toolless = mend({"save", "--dry-run", "--folder", path("trip"), "--tag-missing",
+                                     "--set", "exifToolPath=/nonexistent"});
+    EXPECT_EQ(toolless.exitCode, 1);
+    EXPECT_THAT(toolless.errors, HasSubstr("libimage-exiftool-perl"));
     if (!Witness::isAvailable())
         GTEST_SKIP() << "exiftool is not installed: nothing was added";
     const RunResult saved = mend({"save", "--folder", path("trip"), "--tag-missing"});
