@@ -86,8 +86,12 @@ StampPlan planSlot(const MySinglePic &pic, StampSlot slot, const PlanContext &co
 }
 
 void planToolAction(const MySinglePic &pic, const PlanContext &context, PatchPlan &plan) {
-    if (pic.save.shouldAddExifDateTimeTags)
+    if (pic.save.shouldAddExifDateTimeTags) {
         plan.toolAction = completeFullExifDateTags(pic, context);
+        // Beside the new tags the packet is not read any more, though it is kept in step once more.
+        if (pic.location.isGpsXmp)
+            plan.newGpsDate.reset();
+    }
     const std::vector<SupportStamp> support = supportStamps(pic, context);
     if (support.empty())
         return;

@@ -218,5 +218,15 @@ TEST_F(XmpPlanTest, MissingTagsAreAddedAndNeverPatched) {
                             "-ExifIFD:OffsetTime=+05:30"));
 }
 
+TEST_F(XmpPlanTest, APacketIsKeptInStepWhileTagsAreAdded) {
+    importWith({{{kGps, "2024-05-06T05:08:09Z"}}, "2024:05:06 07:08:09"});
+    ASSERT_TRUE(setShouldAddExifDateTimeTags(session.item("a.jpg"), true));
+    shift(absl::Hours(1));
+    if (!session.tool.program())
+        GTEST_SKIP() << "there is no exiftool on this machine";
+    saves();
+    EXPECT_THAT(content(), testing::HasSubstr("2024-05-06T06:08:09Z"));
+}
+
 } // namespace
 } // namespace chronomender
