@@ -218,6 +218,9 @@ bool refreshInternalData(MySinglePic &pic, const OpenFile &file, const FileAttri
     takeFileAttributes(pic, attributes);
     pic.importState.isExtraHardLink = attributes.hardLinks > 1;
     updateMainDate(pic);
+    // One half of a GPS instant is completed by the main date, which is known only now.
+    if (pic.location.spGpsUTCDate)
+        updateGpsDateWithCreationDate(pic, pic.spDateTimeOriginal);
     return true;
 }
 

@@ -95,6 +95,20 @@ TEST_F(GpsTimePlan, FollowsThePreferences) {
     }
 }
 
+TEST_F(GpsTimePlan, IsReadAgainBehindTheTool) {
+    if (!session.tool.program())
+        GTEST_SKIP() << "there is no exiftool on this machine";
+    for (const char *time : {"5/1 8/1 9/1", ""}) {
+        session.folder().sfEditMode = EditMode::Together;
+        PhotoFields fields{.original = "2024:05:06 07:08:09", .location = PhotoLocation{}};
+        fields.location->time = *time ? std::optional(rationals(time)) : std::nullopt;
+        importPhoto(fields);
+        ASSERT_TRUE(setShouldAddExifDateTimeTags(session.item("a.jpg"), true));
+        shift(absl::Hours(20));
+        saves();
+    }
+}
+
 TEST_F(GpsTimePlan, FieldWithoutRoomKeepsBothStampsAsTheyAre) {
     for (const bool isTimeShort : {true, false}) {
         importPhoto();
