@@ -980,5 +980,8 @@ Beispiele:
     <message id="cli_slot_writtenByTool">
         <translation>von ExifTool geschrieben</translation>
     </message>
+    <message id="workPanelSyncXMP">
+        <translation>XMP-Daten werden angeglichen</translation>
+    </message>
 </context>
 </TS>

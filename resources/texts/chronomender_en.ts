@@ -980,5 +980,8 @@ Examples:
     <message id="cli_slot_writtenByTool">
         <translation>written by ExifTool</translation>
     </message>
+    <message id="workPanelSyncXMP">
+        <translation>Bringing XMP dates into line</translation>
+    </message>
 </context>
 </TS>

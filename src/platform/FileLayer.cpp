@@ -39,6 +39,7 @@ public:
     std::optional<FileAttributes> attributes() override;
     bool setModificationDate(Date date) override;
     bool sync() override;
+    bool syncFileSystem() override;
     LockResult lockExclusively() override;
     FileError lastError() const override { return m_lastError; }
     int descriptor() const override { return m_descriptor; }
@@ -115,6 +116,10 @@ bool SystemFile::setModificationDate(Date date) {
 
 bool SystemFile::sync() {
     return retryInterrupted([&] { return fsync(m_descriptor); }) == 0 || failed(errno);
+}
+
+bool SystemFile::syncFileSystem() {
+    return syncfs(m_descriptor) == 0 || failed(errno);
 }
 
 LockResult SystemFile::lockExclusively() {

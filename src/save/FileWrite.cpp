@@ -224,6 +224,10 @@ bool FileWrite::sync() {
            takeBack(SaveErrorId::WriteFailed, m_file->lastError().text());
 }
 
+std::optional<std::uint64_t> FileWrite::writtenDevice() const {
+    return m_outcome.isWritten ? std::optional(m_proved.device) : std::nullopt;
+}
+
 /// Always false, with what became of the file in the outcome.
 bool FileWrite::takeBack(SaveErrorId id, std::string systemText) {
     bool isBack = true;

@@ -68,6 +68,10 @@ public:
     bool finish();
     /// Waits until the file is on disk.
     bool sync();
+    /// Waits until the whole file system is; false leaves the outcome alone.
+    bool syncFileSystem() { return m_file->syncFileSystem(); }
+    /// Where what was written stands; none when nothing was.
+    std::optional<std::uint64_t> writtenDevice() const;
 
     /// After the other half of a group failed: nothing of this one stays written.
     void followFailureOf(const FileWrite &other);

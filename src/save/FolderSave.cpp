@@ -113,14 +113,16 @@ void FolderSave::write(std::vector<Step> &steps, ProgressCounter &progress) cons
         units.emplace_back(std::move(jobs), m_services.files);
         firstSteps.push_back(first);
     }
-    BatchWriter(m_services, [&](std::size_t unit) {
+    const std::size_t done = BatchWriter(m_services, [&progress](const WriteUnit &unit) {
+                                 for (std::size_t i = 0; i < unit.fileCount(); ++i)
+                                     progress.oneDone();
+                             }).run(units);
+    for (std::size_t unit = 0; unit < done; ++unit)
         for (std::size_t i = 0; i < units[unit].fileCount(); ++i) {
             Step &step = steps[firstSteps[unit] + i];
             step.isReached = true;
             step.outcome = units[unit].outcome(i);
-            progress.oneDone();
         }
-    }).run(units);
 }
 
 PatchJob FolderSave::jobOf(const ItemOutcome &item) const {
@@ -178,6 +180,12 @@ void FolderSave::reportItem(Step &step) const {
         {*step.outcome.error, m_path + '/' + item.pic->spName, step.outcome.systemText});
 }
 
+/// Whether what was verified here is asked for behind this step.
+bool FolderSave::isReadByLaterSteps() const {
+    return m_request.type != SaveProcessType::Save ||
+           m_services.defaults.boolForKey("syncXMPDataOnSave");
+}
+
 void FolderSave::applyToModel(const std::vector<Step> &steps) const {
     FolderSaveSummary summary;
     m_folder->fixedDates = 0;
@@ -191,6 +199,7 @@ void FolderSave::applyToModel(const std::vector<Step> &steps) const {
             m_folder->saveErrors += step.outcome.isOfOtherHalf ? 0 : 1;
             continue;
         }
+        pic.save.isVerifiedDuringSave = isReadByLaterSteps();
         if (summary.saved.empty() || summary.saved.back() != step.report.pic)
             summary.saved.push_back(step.report.pic);
         // A master whose dependent was saved alone had nothing else to be saved for.

@@ -41,6 +41,7 @@ private:
     std::optional<PatchOutcome> obstacleOf(const ItemOutcome &item) const;
     void report(std::vector<Step> &steps) const;
     void reportItem(Step &step) const;
+    bool isReadByLaterSteps() const;
     void applyToModel(const std::vector<Step> &steps) const;
 
     MySingleFolderPtr m_folder;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SaveDriver.h"
 
-#include "FolderSave.h"
 #include "MainThread.h"
 #include "PreProcess.h"
+#include "RunStep.h"
+#include "SaveStep.h"
+#include "XmpSyncStep.h"
 
 #include <absl/time/clock.h>
 
@@ -21,7 +23,16 @@ bool isSavingType(SaveProcessType type) {
 } // namespace
 
 SaveDriver::SaveDriver(const std::vector<MySingleFolderPtr> &folders, SaveServices services)
-    : m_folders(folders), m_services(std::move(services)) {}
+    : m_folders(folders), m_services(std::move(services)) {
+    m_steps.push_back(std::make_unique<SaveStep>(m_services));
+    m_steps.push_back(std::make_unique<XmpSyncStep>(m_services));
+}
+
+SaveDriver::~SaveDriver() = default;
+
+void SaveDriver::appendStep(std::unique_ptr<RunStep> step) {
+    m_steps.push_back(std::move(step));
+}
 
 std::shared_ptr<const void> SaveDriver::beginPartOfSave() {
     const unsigned own = ++m_lastSave;
@@ -82,23 +93,15 @@ SaveRunResult SaveDriver::continueProcessThread(const SaveRequest &request,
                                                 const PreProcessResult &preProcess) {
     const auto inProgress = beginPartOfSave();
     SaveRunResult result;
-    if (!isSavingType(request.type))
-        return result;
-    const std::size_t total = preProcess.items.size();
-    ProgressCounter progress(m_services.progress, total, piValueForCount(total));
-    result.items.reserve(total);
-    std::span<const ItemOutcome> left(preProcess.items);
-    while (!left.empty()) {
-        const auto folder = left.front().pic->spSingleRealFolder();
-        const auto next = std::find_if(left.begin(), left.end(), [&](const ItemOutcome &item) {
-            return item.pic->spSingleRealFolder() != folder;
-        });
-        const auto count = static_cast<std::size_t>(next - left.begin());
-        if (folder)
-            FolderSave(folder, left.first(count), request, m_services).run(progress, result);
-        left = left.subspan(count);
-    }
+    for (const auto &step : m_steps)
+        if (step->isPartOf(request)) {
+            if (m_services.stepBegins)
+                m_services.stepBegins(step->titleKey());
+            step->run(request, preProcess, result);
+        }
     m_services.tool.cleanup();
+    result.toolErrors = m_services.tool.errorsSummaryString();
+    m_services.tool.clearErrors();
     return result;
 }
 

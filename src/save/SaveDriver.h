@@ -67,7 +67,11 @@ struct SaveServices {
     std::function<Date()> now;
     std::function<void(std::size_t done, std::size_t total)>
         progress; ///< any worker thread; may be empty
+    /// Text key of what the worker thread begins to do in stage two; may be empty.
+    std::function<void(std::string_view titleKey)> stepBegins = {};
 };
+
+class RunStep;
 
 /// The two-stage save. Runs on one worker thread (files of different items may be proved and
 /// patched side by side); every change of the model happens on the main thread, which must be
@@ -75,6 +79,10 @@ struct SaveServices {
 class SaveDriver {
 public:
     SaveDriver(const std::vector<MySingleFolderPtr> &folders, SaveServices services);
+    ~SaveDriver();
+
+    /// Makes the step the last one of stage two. Not while a save runs.
+    void appendStep(std::unique_ptr<RunStep> step);
 
     /// Spans both stages and the question between them. Any thread.
     bool isSavingInProgress() const { return *m_saveInProgress != 0; }
@@ -82,8 +90,8 @@ public:
     /// Stage one: proves every file unchanged, calculates every new date, checks what was
     /// calculated.
     PreProcessResult preProcessThread(const SaveRequest &request);
-    /// Stage two: proves each file again and overwrites exactly the recorded values. Problems in
-    /// `preProcess` count as accepted.
+    /// Stage two, step by step: proves each file again and overwrites exactly the recorded values,
+    /// then brings XMP into line where that is wanted. Problems in `preProcess` count as accepted.
     SaveRunResult continueProcessThread(const SaveRequest &request,
                                         const PreProcessResult &preProcess);
 
@@ -96,6 +104,7 @@ private:
 
     const std::vector<MySingleFolderPtr> &m_folders;
     SaveServices m_services;
+    std::vector<std::unique_ptr<RunStep>> m_steps;
     using SaveNumber = std::atomic<unsigned>;
     /// 0: none. Results may outlive the driver and a later save, so they share and compare it.
     std::shared_ptr<SaveNumber> m_saveInProgress = std::make_shared<SaveNumber>(0);

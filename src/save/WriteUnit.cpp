@@ -68,6 +68,12 @@ void WriteUnit::sync() {
         (void)file.sync();
 }
 
+void WriteUnit::addWrittenDevices(std::map<std::uint64_t, FileWrite *> &files) {
+    for (FileWrite &file : m_files)
+        if (const auto device = file.writtenDevice())
+            files.emplace(*device, &file);
+}
+
 void WriteUnit::refuse(SaveErrorId id, const std::string &systemText) {
     if (hasFailed())
         return;

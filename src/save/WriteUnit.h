@@ -4,6 +4,8 @@
 #include "FileWrite.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <map>
 #include <vector>
 
 namespace chronomender {
@@ -24,6 +26,8 @@ public:
     void takeToolAnswer(const ToolOutcome &answer);
     void finish();
     void sync();
+    /// Adds one written file of each device that is not among them yet.
+    void addWrittenDevices(std::map<std::uint64_t, FileWrite *> &files);
     void refuse(SaveErrorId id, const std::string &systemText);
     void close();
 

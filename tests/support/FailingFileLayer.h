@@ -112,6 +112,9 @@ private:
                                                       : m_file->setModificationDate(date);
         }
         bool sync() override { return m_layer.isDead() ? fail(EIO) : m_file->sync(); }
+        bool syncFileSystem() override {
+            return m_layer.isDead() ? fail(EIO) : m_file->syncFileSystem();
+        }
         LockResult lockExclusively() override {
             return m_layer.isDead() ? LockResult::NotSupported : m_file->lockExclusively();
         }
