@@ -2,9 +2,14 @@
 #include "SystemFiles.h"
 
 #include <fcntl.h>
+#include <linux/limits.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
+#include <sys/xattr.h>
 #include <unistd.h>
+
+#include <cstring>
+#include <vector>
 
 namespace chronomender::systemFiles {
 namespace {
@@ -67,6 +72,18 @@ bool renameByLink(const char *from, const char *to) {
     unlink(to); // both names are the same file: taking the new one back loses nothing
     errno = reason;
     return false;
+}
+
+void copyExtendedAttributes(int from, int to) {
+    std::vector<char> names(XATTR_LIST_MAX), value(XATTR_SIZE_MAX);
+    const ssize_t length = flistxattr(from, names.data(), names.size());
+    for (ssize_t at = 0; at < length;) {
+        const char *name = &names[static_cast<std::size_t>(at)];
+        const ssize_t size = fgetxattr(from, name, value.data(), value.size());
+        if (size >= 0)
+            (void)fsetxattr(to, name, value.data(), static_cast<std::size_t>(size), 0);
+        at += static_cast<ssize_t>(std::strlen(name)) + 1;
+    }
 }
 
 } // namespace chronomender::systemFiles

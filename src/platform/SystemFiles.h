@@ -17,6 +17,10 @@ std::optional<FileAttributes> attributesOf(int directory, const char *name);
 /// nothing is renamed and the error is EOPNOTSUPP.
 bool renameByLink(const char *from, const char *to);
 
+/// Gives an open file the extended attributes of another: what other programs keep of a file beside
+/// it, such as ratings, and its access list. What the file system refuses is left out.
+void copyExtendedAttributes(int from, int to);
+
 /// Repeats a system call that a signal interrupted.
 template<class Call>
 auto retryInterrupted(Call call) {

@@ -2,6 +2,7 @@
 #include "FileWrite.h"
 
 #include "PngChecksums.h"
+#include "SystemFiles.h"
 #include "Texts.h"
 #include "UnchangedProof.h"
 
@@ -197,6 +198,7 @@ bool FileWrite::openReplacement() {
     m_outcome.readAgain = replacement ? m_job.readAgain(*replacement) : nullptr;
     if (!m_outcome.readAgain)
         return false;
+    systemFiles::copyExtendedAttributes(m_file->descriptor(), replacement->descriptor());
     m_file = std::move(replacement);
     m_begun = 0;
     m_isReplaced = true;

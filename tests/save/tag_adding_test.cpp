@@ -2,6 +2,9 @@
 #include "LittlePhotos.h"
 #include "LittleXmp.h"
 #include "SaveTest.h"
+#include "ToolWitness.h"
+
+#include <sys/xattr.h>
 
 namespace chronomender {
 namespace {
@@ -10,18 +13,8 @@ using namespace little;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// What a tool says of a file's dates, read without us.
-std::string witness(const std::string &path) {
-    const std::string command = "exiftool -s3 -DateTimeOriginal -CreateDate -ModifyDate "
-                                "-OffsetTimeOriginal -OffsetTimeDigitized -OffsetTime " +
-                                path;
-    std::string said;
-    FILE *pipe = ::popen(command.c_str(), "r");
-    for (int byte = std::fgetc(pipe); byte != EOF; byte = std::fgetc(pipe))
-        said += static_cast<char>(byte);
-    ::pclose(pipe);
-    return said;
-}
+constexpr auto dateTags = "-DateTimeOriginal -CreateDate -ModifyDate -OffsetTimeOriginal "
+                          "-OffsetTimeDigitized -OffsetTime";
 
 class TagAdding : public SaveTest {
 protected:
@@ -58,8 +51,8 @@ TEST_F(TagAdding, MissingTagsAreThereAndTheRestIsCorrectedAsWell) {
             imported(name, photoOf(format, {.original = original, .location = PhotoLocation{}}));
         saves();
         // The modification tag takes the file's date.
-        EXPECT_EQ(witness(pic.spPath()), "2024:05:06 08:08:09\n2024:05:06 08:08:09\n"
-                                         "2024:05:06 22:00:00\n+02:00\n+02:00\n")
+        EXPECT_EQ(witness(pic.spPath(), dateTags), "2024:05:06 08:08:09\n2024:05:06 08:08:09\n"
+                                                   "2024:05:06 22:00:00\n+02:00\n+02:00\n")
             << name;
         EXPECT_FALSE(pic.isUnsavedOrGroupHarmonized()) << name;
         std::filesystem::remove(pic.spPath());
@@ -68,7 +61,10 @@ TEST_F(TagAdding, MissingTagsAreThereAndTheRestIsCorrectedAsWell) {
 
 TEST_F(TagAdding, AFileWithoutAnyTagGetsAllFromItsFileDate) {
     const MySinglePic &pic = imported("a.jpg", bare);
+    ::setxattr(pic.spPath().c_str(), "user.rating", "5", 1, 0);
+    const bool hasAttributes = ::getxattr(pic.spPath().c_str(), "user.rating", nullptr, 0) == 1;
     saves();
+    EXPECT_EQ(::getxattr(pic.spPath().c_str(), "user.rating", nullptr, 0) == 1, hasAttributes);
     EXPECT_EQ(pic.spType, SpTypeExifOriginal);
     EXPECT_EQ(pic.spDateTimeOriginal, utc(2024, 5, 6, 21));
     EXPECT_FALSE(pic.isUnsavedOrGroupHarmonized());
