@@ -150,6 +150,11 @@ std::vector<std::string> JournalFile::list(const std::string &supportFolder) {
     return paths;
 }
 
+bool JournalFile::isThere() const {
+    struct stat found;
+    return fstat(m_descriptor, &found) == 0 && found.st_nlink > 0;
+}
+
 std::optional<Record> JournalFile::read() {
     std::string bytes(std::min(m_size, largestRecord), '\0');
     std::size_t count = 0;

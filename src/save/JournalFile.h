@@ -29,6 +29,8 @@ public:
     ~JournalFile();
 
     std::size_t size() const { return m_size; }
+    /// False when somebody has removed the file: what is written to it would be lost.
+    bool isThere() const;
     /// What the file holds; what is not whole behind it is cut off. None when it cannot be read.
     std::optional<Record> read();
     /// Puts a frame behind the others; when it answers true it is on disk. After a failure the file

@@ -58,11 +58,12 @@ RunJournal::~RunJournal() {
 }
 
 bool RunJournal::begin(std::span<const UnitIntent> units, FileError *error) {
-    if (!m_file) {
+    if (!m_file || !m_file->isThere()) {
         auto created = JournalFile::create(m_folder, m_durability, error);
         if (!created)
             return false;
         m_file = std::make_unique<JournalFile>(*std::move(created));
+        m_kept = m_batch = 0;
     }
     m_kept += m_batch;
     m_batch = 0;

@@ -67,6 +67,20 @@ protected:
     SaveRunResult goOn(const PreProcessResult &dry) {
         return session.driver.continueProcessThread({}, dry);
     }
+    /// The second stage as a program of its own would run it: the record ends with it.
+    SaveRunResult saveSynced(FileLayer &files, const PreProcessResult &dry) {
+        RunJournal journal(session.disk.path("support"), RunJournal::Durability::Synced);
+        SaveServices services{files,
+                              session.zones,
+                              session.defaults,
+                              session.undo,
+                              session.cancellation,
+                              journal,
+                              session.tool,
+                              [this] { return session.now; },
+                              {}};
+        return SaveDriver(session.folders, services).continueProcessThread({}, dry);
+    }
     /// All items are written, and the model knows it.
     void saves() {
         EXPECT_THAT(results(session.save()), testing::Each(ItemResult::Saved));

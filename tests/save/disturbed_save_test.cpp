@@ -41,19 +41,7 @@ protected:
         later = replaced(photo, {{"ExifDateTimeOriginal", "2024:05:07 08:08:09"},
                                  {"TIFFDateTime", "2024:05:07 08:08:10"}});
     }
-    SaveRunResult saveDisturbed() {
-        RunJournal journal(support, RunJournal::Durability::Synced);
-        SaveDriver driver(session.folders, {files,
-                                            session.zones,
-                                            session.defaults,
-                                            session.undo,
-                                            session.cancellation,
-                                            journal,
-                                            session.tool,
-                                            [this] { return session.now; },
-                                            {}});
-        return driver.continueProcessThread({}, dry);
-    }
+    SaveRunResult saveDisturbed() { return saveSynced(files, dry); }
     Date dateOf(const std::string &name) {
         return attributesOf(session.path(name)).modificationDate;
     }

@@ -347,6 +347,10 @@ TEST_F(RunJournalTest, LivingProgramIsPassedOverAndOnlyUnsettledUnitsStay) {
         RunJournal journal(support);
         ASSERT_TRUE(journal.begin(second));
         journal.settle();
+        fs::remove_all(support);
+        ASSERT_TRUE(journal.begin(second));
+        EXPECT_FALSE(fs::is_empty(support + "/journal"));
+        journal.settle();
     }
     EXPECT_TRUE(fs::is_empty(support + "/journal"));
 }

@@ -29,7 +29,6 @@ public:
     /// The program dies at this call, of whatever kind: it and all behind it do nothing, but that
     /// the write that it dies at leaves `tornBytes`.
     int diesAtCall = 0;
-    std::function<void()> atDeath; ///< may end the process in earnest
     std::atomic<int> calls{0};
     std::function<void(const std::string &path)> beforeUpdateOpen;
 
@@ -67,12 +66,7 @@ public:
     }
 
 private:
-    bool isDead() {
-        const bool isDead = ++calls >= diesAtCall && diesAtCall != 0;
-        if (isDead && atDeath)
-            atDeath();
-        return isDead;
-    }
+    bool isDead() { return ++calls >= diesAtCall && diesAtCall != 0; }
 
     class File : public OpenFile {
     public:

@@ -17,70 +17,34 @@ using namespace little;
 namespace fs = std::filesystem;
 using Contents = std::map<std::string, std::string>; ///< bytes by file name
 
+std::string photo(FileFormatType format) {
+    return photoOf(format, {.original = "2024:05:06 07:08:09",
+                            .digitized = "2024:05:06 07:08:10",
+                            .modified = "2024:05:06 07:08:11"})
+        .bytes;
+}
+
 struct Case {
     const char *name;
-    Contents (*files)();
+    Contents files;
 };
-
-PhotoFields photoFields() {
-    return {.original = "2024:05:06 07:08:09",
-            .digitized = "2024:05:06 07:08:10",
-            .modified = "2024:05:06 07:08:11"};
+std::vector<Case> cases() {
+    const std::string xmp = xmpWith("xmp:CreateDate", "2024-05-06T07:08:09-03:30");
+    const std::string riffDate = "FRI APR 17 18:03:47 2020\n" + zeros(1);
+    return {
+        {"Jpeg", {{"a.jpg", photo(FileFormatJpeg)}}},
+        {"JpegXmp", {{"a.jpg", jpegPhoto({.xmp = xmp}).bytes}}},
+        {"Tiff", {{"a.tif", photo(FileFormatTiff)}}},
+        {"Dng", {{"a.dng", photo(FileFormatTiff)}}},
+        {"Cr3", {{"a.cr3", photo(FileFormatRaw)}}},
+        {"Heic", {{"a.heic", photo(FileFormatHeif)}}},
+        {"Png", {{"a.png", photo(FileFormatPng)}}},
+        {"Webp", {{"a.webp", photo(FileFormatWebp)}}},
+        {"Mov", {{"a.mov", movie({.date = "2020-04-17T10:03:47-0600"}).bytes}}},
+        {"Avi", {{"a.avi", avi({.date = riffDate}).bytes}}},
+        {"Pair", {{"a.CR2", photo(FileFormatTiff)}, {"a.JPG", photo(FileFormatJpeg)}}},
+    };
 }
-std::string photoBytes(FileFormatType format) {
-    return photoOf(format, photoFields()).bytes;
-}
-std::string xmpDate() {
-    return xmpWith("xmp:CreateDate", "2024-05-06T07:08:09-03:30");
-}
-
-const Case cases[] = {
-    {"Jpeg",
-     [] {
-         return Contents{{"a.jpg", photoBytes(FileFormatJpeg)}};
-     }},
-    {"JpegXmp",
-     [] {
-         return Contents{{"a.jpg", jpegPhoto({.xmp = xmpDate()}).bytes}};
-     }},
-    {"Tiff",
-     [] {
-         return Contents{{"a.tif", photoBytes(FileFormatTiff)}};
-     }},
-    {"Dng",
-     [] {
-         return Contents{{"a.dng", photoBytes(FileFormatTiff)}};
-     }},
-    {"Cr3",
-     [] {
-         return Contents{{"a.cr3", photoBytes(FileFormatRaw)}};
-     }},
-    {"Heic",
-     [] {
-         return Contents{{"a.heic", photoBytes(FileFormatHeif)}};
-     }},
-    {"Png",
-     [] {
-         return Contents{{"a.png", photoBytes(FileFormatPng)}};
-     }},
-    {"Webp",
-     [] {
-         return Contents{{"a.webp", photoBytes(FileFormatWebp)}};
-     }},
-    {"Mov",
-     [] {
-         return Contents{{"a.mov", movie({.date = "2020-04-17T10:03:47-0600"}).bytes}};
-     }},
-    {"Avi",
-     [] {
-         return Contents{{"a.avi", avi({.date = "FRI APR 17 18:03:47 2020\n" + zeros(1)}).bytes}};
-     }},
-    {"Pair",
-     [] {
-         return Contents{{"a.CR2", photoBytes(FileFormatTiff)},
-                         {"a.JPG", photoBytes(FileFormatJpeg)}};
-     }},
-};
 
 /// One item, imported and shifted in this process; its save is carried out by children, which are
 /// killed.
@@ -154,20 +118,6 @@ protected:
                              patch.after());
         return bytes;
     }
-    /// The second stage of the save, as a program of its own would run it.
-    void saveAsChild() {
-        RunJournal journal(support, RunJournal::Durability::Synced);
-        SaveDriver driver(session.folders, {session.files,
-                                            session.zones,
-                                            session.defaults,
-                                            session.undo,
-                                            session.cancellation,
-                                            journal,
-                                            session.tool,
-                                            [this] { return session.now; },
-                                            {}});
-        driver.continueProcessThread({}, dry);
-    }
     /// Every run of bytes that the save changes in place is old or new, and all other bytes are
     /// what they were.
     void expectWholeValues(const Contents &now) const {
@@ -218,7 +168,7 @@ protected:
     }
 
     std::string support = session.disk.path("support");
-    KilledChild child{[this] { saveAsChild(); }};
+    KilledChild child{[this] { saveSynced(session.files, dry); }};
     PreProcessResult dry;
     State before, after;
     Contents patched; ///< all values new, before the tool comes
@@ -228,7 +178,7 @@ protected:
 class KilledSave : public KilledSaveTest, public testing::WithParamInterface<Case> {};
 
 TEST_P(KilledSave, IsEntirelyOldOrEntirelyNewAfterRecovery) {
-    prepare(GetParam().files());
+    prepare(GetParam().files);
     if (!learnWhatIsSaved())
         GTEST_SKIP() << "this system permits no tracing";
     const Tally tally = killEverywhere(GetParam().name, 1);
@@ -247,38 +197,11 @@ TEST_F(KilledSaveTest, FileThatTheToolWritesIsOldOrNew) {
     killEverywhere("Tool", std::max(1, 2 * child.systemCalls() / mostKills));
 }
 
-INSTANTIATE_TEST_SUITE_P(Formats, KilledSave, testing::ValuesIn(cases),
+INSTANTIATE_TEST_SUITE_P(Formats, KilledSave, testing::ValuesIn(cases()),
                          [](const auto &each) { return each.param.name; });
 
-/// The program dies in the middle of a value, at each of the file layer's calls in turn.
-TEST_F(KilledSaveTest, TornValueIsRecovered) {
-    prepare({{"a.jpg", photoBytes(FileFormatJpeg)}});
-    if (!learnWhatIsSaved())
-        GTEST_SKIP() << "this system permits no tracing";
-    int torn = 0;
-    for (const std::size_t bytes : {9u, 10u, 12u}) {
-        session.files.tornBytes = bytes;
-        session.files.atDeath = [] { ::_exit(EXIT_FAILURE); };
-        for (int call = 1;; ++call) {
-            SCOPED_TRACE(call);
-            session.files.calls = 0;
-            session.files.diesAtCall = call;
-            const End end = child.run(0);
-            session.files.diesAtCall = 0;
-            if (end == End::Finished)
-                break;
-            const Contents left = present().bytes;
-            recovered();
-            torn += left != before.bytes && left != after.bytes;
-            restore();
-        }
-        restore();
-    }
-    EXPECT_GT(torn, 3);
-}
-
 TEST_F(KilledSaveTest, RecoveryMayBeKilledToo) {
-    prepare({{"a.CR2", photoBytes(FileFormatTiff)}, {"a.JPG", photoBytes(FileFormatJpeg)}});
+    prepare({{"a.CR2", photo(FileFormatTiff)}, {"a.JPG", photo(FileFormatJpeg)}});
     if (!learnWhatIsSaved())
         GTEST_SKIP() << "this system permits no tracing";
     // The calls that get memory differ a little from run to run.
