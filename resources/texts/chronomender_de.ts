@@ -881,6 +881,9 @@ Beispiele:
     <message id="saveObstacle_outOfRange">
         <translation>der Kopf des Films kann dieses Datum nicht aufnehmen (1904 bis 2040)</translation>
     </message>
+    <message id="saveObstacle_toolFoundTags">
+        <translation>ExifTool findet darin Datumsangaben, die sich hier nicht lesen lassen, oder hatte nichts zu schreiben</translation>
+    </message>
     <message id="saveObstacle_toolWroteOtherwise">
         <translation>ExifTool hat die Datei geschrieben, aber sie nennt nicht die gewünschten Zeiten</translation>
     </message>

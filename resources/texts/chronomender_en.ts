@@ -881,6 +881,9 @@ Examples:
     <message id="saveObstacle_outOfRange">
         <translation>the movie's header cannot hold this date (1904 to 2040)</translation>
     </message>
+    <message id="saveObstacle_toolFoundTags">
+        <translation>ExifTool finds date tags in it that cannot be read here, or had nothing to write</translation>
+    </message>
     <message id="saveObstacle_toolWroteOtherwise">
         <translation>ExifTool wrote the file, but it does not tell the wanted dates</translation>
     </message>

@@ -20,7 +20,7 @@ AppController::AppController(AppServices services, ImportQuestions &questions)
       m_systemZoneChange(*m_services.zones, *m_services.defaults, m_droppedFolders, m_services.now),
       m_importDriver({*m_services.zones, *m_services.defaults, questions, m_cancellation, m_undo,
                       m_droppedFolders}),
-      m_journal(supportFolder()),
+      m_journal(supportFolder(), m_services.durability),
       m_tool(
           {supportFolder(), [this] { return m_services.defaults->stringForKey("exifToolPath"); }}),
       m_errorLog(supportFolder()),
@@ -30,6 +30,10 @@ AppController::AppController(AppServices services, ImportQuestions &questions)
                                 [this](std::size_t done, std::size_t total) {
                                     if (m_saveProgress)
                                         m_saveProgress(done, total);
+                                },
+                                [this](std::string_view titleKey) {
+                                    if (m_saveStepBegins)
+                                        m_saveStepBegins(titleKey);
                                 }}) {
     mainThread::initialise();
 }

@@ -32,6 +32,8 @@ struct AppServices {
     std::unique_ptr<UserDefaults> defaults;
     std::unique_ptr<Zones> zones;
     std::function<Date()> now;
+    /// Whether a save waits until what it wrote is on the disk.
+    RunJournal::Durability durability = RunJournal::Durability::Synced;
     std::string runName = {}; ///< what the log of errors calls a run of this program
 };
 /// The operating system's files, zones and clock, and the user's stored preferences.
@@ -121,6 +123,10 @@ public:
     /// Stage one of a save; nothing is written.
     void startPreProcess(SaveRequest request, Progress progress,
                          std::function<void(PreProcessResult)> finished);
+    /// Told on the save's thread what stage two begins to do, by the key of its title.
+    void setSaveStepBegins(std::function<void(std::string_view titleKey)> begins) {
+        m_saveStepBegins = std::move(begins);
+    }
     /// Stage two. Problems in `preProcess` count as accepted. Errors go to the log, too.
     void startContinueProcess(SaveRequest request, PreProcessResult preProcess, Progress progress,
                               std::function<void(SaveRunResult)> finished);
@@ -138,6 +144,7 @@ private:
     SourceBuilder m_source;
     ImportDriver m_importDriver;
     Progress m_saveProgress;
+    std::function<void(std::string_view)> m_saveStepBegins;
     RunJournal m_journal;
     XtController m_tool;
     ErrorLog m_errorLog;

@@ -50,6 +50,12 @@ ProgressBar::~ProgressBar() {
         writeError(clearLine);
 }
 
+void ProgressBar::begin(std::string label) {
+    const std::lock_guard lock(m_mutex);
+    m_label = std::move(label);
+    m_start = Clock::now();
+}
+
 void ProgressBar::update(std::size_t done, std::size_t total) {
     if (!m_isTerminal)
         return;

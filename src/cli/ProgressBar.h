@@ -17,14 +17,16 @@ public:
     ProgressBar(const ProgressBar &) = delete;
     ProgressBar &operator=(const ProgressBar &) = delete;
 
+    /// Another piece of work begins. Any thread.
+    void begin(std::string label);
     /// Any thread.
     void update(std::size_t done, std::size_t total);
 
 private:
     using Clock = std::chrono::steady_clock;
-    const std::string m_label;
+    std::string m_label;
     const bool m_isTerminal;
-    const Clock::time_point m_start = Clock::now();
+    Clock::time_point m_start = Clock::now();
     std::mutex m_mutex;
     Clock::time_point m_lastDrawing;
     bool m_isDrawn = false;

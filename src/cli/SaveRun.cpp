@@ -60,10 +60,14 @@ private:
 
     SaveRunResult continueProcess() {
         ProgressBar bar(text("workPanelSave"));
-        return waitFor<SaveRunResult>([&](auto finished) {
+        m_session.controller().setSaveStepBegins(
+            [&bar](std::string_view titleKey) { bar.begin(text(titleKey)); });
+        auto result = waitFor<SaveRunResult>([&](auto finished) {
             m_session.controller().startContinueProcess(m_request, m_plan, progressTo(bar),
                                                         finished);
         });
+        m_session.controller().setSaveStepBegins({});
+        return result;
     }
 
     static AppController::Progress progressTo(ProgressBar &bar) {

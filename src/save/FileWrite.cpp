@@ -183,7 +183,9 @@ bool FileWrite::takeToolAnswer(const ToolOutcome &answer) {
     // A tool that died may have replaced the file and not have said so.
     if (!answer.didChange && there->isSameFile(m_proved))
         return takeBack(answer.isMissing ? SaveErrorId::ToolMissing : SaveErrorId::ToolFailed,
-                        answer.error);
+                        answer.isMissing || !answer.error.empty()
+                            ? answer.error
+                            : text("saveObstacle_toolFoundTags"));
     if (openReplacement())
         return true;
     // Harmless where the open file is no longer the one at the path.

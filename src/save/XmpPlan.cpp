@@ -52,13 +52,6 @@ Date wantedDate(const MySinglePic &pic, StampSlot slot) {
     return *(pic.slots.*description(slot).newDate);
 }
 
-/// The stamp's own offset as a zone; none for a stamp without one.
-std::optional<absl::TimeZone> ownZone(const XmpStamp &stamp) {
-    const auto seconds =
-        stamp.type == XmpStampType::Zoned ? secondsFromXmpStamp(&stamp) : std::nullopt;
-    return seconds ? std::optional(absl::FixedTimeZone(*seconds)) : std::nullopt;
-}
-
 /// Stamps of one packet can have offsets of their own, and each keeps its own where all are to.
 absl::TimeZone zoneFor(const MySinglePic &pic, const XmpStamp &stamp, const PlanContext &context) {
     const ZoneSides sides(context.folder);
@@ -118,12 +111,26 @@ void takeQuestions(const StampPlan &twin, StampPlan &plan) {
     plan.zoneChange += (plan.zoneChange.empty() ? "" : ", ") + twin.zoneChange;
 }
 
+/// The slot's date is in a tag of its own without a zone, and no other zone was asked for.
+bool isBesideWallClock(const MySinglePic &pic, StampSlot slot, const PlanContext &context) {
+    const ZoneChoice *target = choiceForPic(pic, ZoneSides(context.folder).target);
+    const bool isZoneAskedFor =
+        hasAssignedTargetZone(pic, context.folder) && !target->is(ZoneChoice::Kind::Own);
+    return pic.stamp(slot) && !pic.isSlotXmp(slot) && !pic.zoneStamp(slot) && !isZoneAskedFor;
+}
+
 /// A stamp that only goes along; without an obstacle its patches stand in `patches`.
 StampPlan planCompanion(const MySinglePic &pic, StampSlot slot, const XmpStamp &stamp,
                         const PlanContext &context, std::vector<ValuePatch> &patches) {
     PlanObstacle obstacle{};
-    const StampPlan plan = planXmpStampTo(stamp, wantedDate(pic, slot),
-                                          zoneFor(pic, stamp, context), patches, obstacle);
+    Date date = wantedDate(pic, slot);
+    absl::TimeZone zone = zoneFor(pic, stamp, context);
+    if (const auto own = ownZone(stamp); own && isBesideWallClock(pic, slot, context)) {
+        date = dateBesideWallClock(
+            date, targetZoneForSlot(pic, slot, context.folder, context.zones).rules, *own);
+        zone = *own;
+    }
+    const StampPlan plan = planXmpStampTo(stamp, date, zone, patches, obstacle);
     return obstacle == PlanObstacle::None ? plan : StampPlan{};
 }
 

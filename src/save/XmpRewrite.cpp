@@ -91,6 +91,16 @@ std::optional<XmpStamp> readAgain(const XmpStamp &stamp, const std::string &text
 
 } // namespace
 
+Date dateBesideWallClock(Date date, const absl::TimeZone &tagZone, const absl::TimeZone &own) {
+    return instantFromCivil(civilFromInstant(date, tagZone), own);
+}
+
+std::optional<absl::TimeZone> ownZone(const XmpStamp &stamp) {
+    const auto seconds =
+        stamp.type == XmpStampType::Zoned ? secondsFromXmpStamp(&stamp) : std::nullopt;
+    return seconds ? std::optional(absl::FixedTimeZone(*seconds)) : std::nullopt;
+}
+
 std::size_t xmpOffsetLength(const XmpStamp &stamp) {
     return stamp.type == XmpStampType::Zoned ? xmpZoneLength(stamp.subtype) : 0;
 }

@@ -28,6 +28,14 @@ struct RewrittenStamp {
 std::optional<RewrittenStamp> rewrittenStamp(const XmpStamp &stamp, Date date,
                                              const absl::TimeZone &zone, unsigned subtype);
 
+/// What a stamp with an offset of its own is to tell beside a tag that has a wall clock only: that
+/// clock, with the stamp's offset. The tag's date was read in `tagZone`, which nobody may have
+/// named.
+Date dateBesideWallClock(Date date, const absl::TimeZone &tagZone, const absl::TimeZone &own);
+
+/// The stamp's own offset as a zone; none for a stamp in UTC or without one.
+std::optional<absl::TimeZone> ownZone(const XmpStamp &stamp);
+
 /// Characters of the offset at the stamp's end; 0 for a stamp without one.
 std::size_t xmpOffsetLength(const XmpStamp &stamp);
 

@@ -5,7 +5,7 @@
 #include "MySingleFolderDataReader.h"
 #include "UnchangedProof.h"
 #include "XmpPlan.h"
-#include "XmpStampConversions.h"
+#include "XmpRewrite.h"
 #include "ZoneLookup.h"
 
 #include <algorithm>
@@ -41,15 +41,24 @@ bool hasNamedSourceZone(const MySinglePic &pic, const MySingleFolder &folder) {
     return choice && choice->zone();
 }
 
-/// The zone in which the packet is to tell a slot: that of the slot's own tag. A stamp with an
-/// offset keeps it where nobody said in which zone the item is.
-absl::TimeZone zoneOf(const XmpStamp &stamp, const std::optional<StampSlot> &slot,
-                      const MySinglePic &pic, const PlanContext &context) {
-    const auto own = secondsFromXmpStamp(&stamp);
-    if (own && !hasNamedSourceZone(pic, context.folder))
-        return absl::FixedTimeZone(*own);
-    return slot ? sourceZoneForSlot(pic, *slot, context.folder, context.zones).rules
-                : sourceTimeZoneForPic(pic, context.folder, context.zones).rules;
+/// A date as the packet is to tell it.
+struct ToldDate {
+    Date date;
+    absl::TimeZone zone;
+};
+
+/// The packet tells a slot in the zone of the slot's own tag. A stamp with an offset keeps it where
+/// nobody said in which zone the item is; a tag with a wall clock only then stands for that clock.
+ToldDate toldDate(const XmpStamp &stamp, Date date, const std::optional<StampSlot> &slot,
+                  const MySinglePic &pic, const PlanContext &context) {
+    const absl::TimeZone zone =
+        slot ? sourceZoneForSlot(pic, *slot, context.folder, context.zones).rules
+             : sourceTimeZoneForPic(pic, context.folder, context.zones).rules;
+    const auto own = ownZone(stamp);
+    if (!own || hasNamedSourceZone(pic, context.folder))
+        return {date, zone};
+    const bool isWallClock = slot && !pic.zoneStamp(*slot);
+    return {isWallClock ? dateBesideWallClock(date, zone, *own) : date, *own};
 }
 
 void planStamps(const MySinglePic &pic, const XmpDateInfos &packet, const PlanContext &context,
@@ -65,7 +74,8 @@ void planStamps(const MySinglePic &pic, const XmpDateInfos &packet, const PlanCo
             continue;
         const auto count = static_cast<std::ptrdiff_t>(patches.size());
         PlanObstacle obstacle{};
-        planXmpStampTo(stamp, *date, zoneOf(stamp, synced->slot, pic, context), patches, obstacle);
+        const ToldDate told = toldDate(stamp, *date, synced->slot, pic, context);
+        planXmpStampTo(stamp, told.date, told.zone, patches, obstacle);
         if (obstacle != PlanObstacle::None)
             patches.erase(patches.begin() + count, patches.end());
     }

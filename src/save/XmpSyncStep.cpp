@@ -16,6 +16,7 @@ namespace {
 /// One item on its way through the sync.
 struct SyncedItem {
     MySinglePicPtr pic;
+    std::size_t place = 0; ///< among the run's items
     std::optional<XmpSyncPlan> sync;
     std::optional<XmpSyncProblem> problem;
     PatchOutcome outcome;
@@ -23,9 +24,10 @@ struct SyncedItem {
 
 std::vector<SyncedItem> itemsToSync(const SaveRunResult &result) {
     std::vector<SyncedItem> items;
-    for (const ItemOutcome &item : result.items)
-        if (item.pic->save.isVerifiedDuringSave && shouldSyncXmpChangesForPic(*item.pic))
-            items.push_back({item.pic, {}, {}, {}});
+    for (std::size_t i = 0; i < result.items.size(); ++i)
+        if (const MySinglePicPtr &pic = result.items[i].pic;
+            pic->save.isVerifiedDuringSave && shouldSyncXmpChangesForPic(*pic))
+            items.push_back({pic, i, {}, {}, {}});
     return items;
 }
 
@@ -37,14 +39,20 @@ SaveErrorId idOf(const SyncedItem &item) {
                                 : SaveErrorId::SyncCannotBeOpened;
 }
 
+std::optional<SaveError> errorOf(const SyncedItem &item) {
+    if (item.problem)
+        return SaveError{item.problem->id, item.problem->path, item.problem->systemText};
+    if (item.outcome.error)
+        return SaveError{idOf(item), item.sync->path, item.outcome.systemText};
+    return std::nullopt;
+}
+
 void report(const std::vector<SyncedItem> &items, SaveRunResult &result) {
-    for (const SyncedItem &item : items) {
-        if (item.problem)
-            result.errors.push_back(
-                {item.problem->id, item.problem->path, item.problem->systemText});
-        else if (item.outcome.error)
-            result.errors.push_back({idOf(item), item.sync->path, item.outcome.systemText});
-    }
+    for (const SyncedItem &item : items)
+        if (const auto error = errorOf(item)) {
+            result.errors.push_back(*error);
+            result.items[item.place].errors.push_back(*error);
+        }
 }
 
 void applyToModel(SyncedItem &item) {

@@ -84,6 +84,19 @@ TEST_F(XmpSync, OffsetsFollowAZoneThatSomebodyAssigned) {
         EXPECT_NE(bytes.find(stamp), std::string::npos) << stamp;
 }
 
+TEST_F(XmpSync, AnOffsetBesideAWallClockStays) {
+    const std::string before = xmpWith("xmp:CreateDate", "2024-05-06T07:08:10-05:00");
+    const BuiltPhoto built = importPhoto(
+        {.original = "2024:05:06 07:08:09", .digitized = "2024:05:06 07:08:10", .xmp = before});
+    shiftAllSlotsAlike();
+    shift(absl::Hours(2));
+    saves();
+    EXPECT_EQ(content(),
+              withPacket(replaced(built, {{"ExifDateTimeOriginal", "2024:05:06 09:08:09"},
+                                          {"ExifDateTimeDigitized", "2024:05:06 09:08:10"}}),
+                         before, xmpWith("xmp:CreateDate", "2024-05-06T09:08:10-05:00")));
+}
+
 TEST_F(XmpSync, ASidecarTakesThePlaceOfThePacket) {
     const std::string sidecar = session.write("a.xmp", packet());
     const BuiltPhoto built = importWithPacket();
@@ -130,6 +143,7 @@ TEST_F(XmpSync, AFileThatCannotBeOpenedAgainIsToldUnderItsOwnId) {
     const SaveRunResult run = session.save();
     EXPECT_THAT(results(run), ElementsAre(ItemResult::Saved));
     EXPECT_THAT(ids(run), ElementsAre(SaveErrorId::SyncCannotBeOpened));
+    EXPECT_THAT(run.items.at(0).errors, testing::SizeIs(1));
     EXPECT_EQ(content(), replaced(built, dayLater()));
 }
 
