@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Limits.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <functional>
@@ -15,8 +16,10 @@ namespace chronomender::bench {
 namespace {
 
 constexpr std::size_t ReadSize = 64 * 1024, PatchReadSize = 4096, StampSize = 19;
-/// Where make_bench_files puts the three stamps.
+/// Where make_bench_files puts the three stamps of a JPEG; any place does as well.
 constexpr std::array<off_t, 3> stampPlaces{268, 826, 846};
+/// Bytes of a journal's record of one file, and files of a batch.
+constexpr std::size_t RecordSize = 400, FilesOfBatch = 480;
 constexpr std::chrono::duration<double> Failed{-1.0};
 
 bool readOne(const std::string &path) {
@@ -37,13 +40,51 @@ bool patchOne(const std::string &path, const std::array<timespec, 2> &times) {
         return false;
     bool isPatched = pread(file, buffer.data(), PatchReadSize, 0) == ssize_t{PatchReadSize};
     for (const off_t place : stampPlaces) {
-        const char *stamp = buffer.data() + place;
-        isPatched = stamp[4] == ':' && isPatched;
-        isPatched = pwrite(file, stamp, StampSize, place) == ssize_t{StampSize} && isPatched;
+        const char *present = buffer.data() + place;
+        isPatched = pwrite(file, present, StampSize, place) == ssize_t{StampSize} && isPatched;
     }
     isPatched = futimens(file, times.data()) == 0 && isPatched;
     close(file);
     return isPatched;
+}
+
+/// What a save writes down of each file before it touches the first of a batch.
+class Record {
+public:
+    explicit Record(const std::vector<std::string> &paths)
+        : m_path(paths.empty() ? "" : paths.front() + ".record"),
+          m_file(open(m_path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {}
+    ~Record() {
+        close(m_file);
+        unlink(m_path.c_str());
+    }
+    Record(const Record &) = delete;
+    Record &operator=(const Record &) = delete;
+
+    bool isOpen() const { return m_file >= 0; }
+    bool write(std::size_t files) const {
+        const std::string bytes(files * RecordSize, 'r');
+        return pwrite(m_file, bytes.data(), bytes.size(), 0) ==
+                   static_cast<ssize_t>(bytes.size()) &&
+               fdatasync(m_file) == 0;
+    }
+    bool syncFileSystem() const { return syncfs(m_file) == 0; }
+
+private:
+    std::string m_path;
+    int m_file;
+};
+
+/// The times that the files have; empty when one is missing.
+std::vector<std::array<timespec, 2>> timesOf(const std::vector<std::string> &paths) {
+    std::vector<std::array<timespec, 2>> times(paths.size());
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        struct stat status {};
+        if (stat(paths[i].c_str(), &status) != 0)
+            return {};
+        times[i] = {timespec{0, UTIME_OMIT}, status.st_mtim};
+    }
+    return times;
 }
 
 /// Runs `work` over the first and the second half of the range on a thread each.
@@ -70,14 +111,34 @@ std::chrono::duration<double> readLimit(const std::vector<std::string> &paths) {
 }
 
 std::chrono::duration<double> patchLimit(const std::vector<std::string> &paths) {
-    std::vector<std::array<timespec, 2>> times(paths.size());
-    for (std::size_t i = 0; i < paths.size(); ++i) {
-        struct stat status {};
-        if (stat(paths[i].c_str(), &status) != 0)
-            return Failed;
-        times[i] = {timespec{0, UTIME_OMIT}, status.st_mtim};
-    }
+    const auto times = timesOf(paths);
+    if (times.empty())
+        return Failed;
     return onTwoThreads(paths.size(), [&](std::size_t i) { return patchOne(paths[i], times[i]); });
+}
+
+std::chrono::duration<double> syncedPatchLimit(const std::vector<std::string> &paths) {
+    const auto times = timesOf(paths);
+    const Record record(paths);
+    if (times.empty() || !record.isOpen())
+        return Failed;
+    std::chrono::duration<double> sum{0};
+    for (std::size_t first = 0; first < paths.size(); first += FilesOfBatch) {
+        const std::size_t count = std::min(FilesOfBatch, paths.size() - first);
+        const auto begin = std::chrono::steady_clock::now();
+        bool isGood = record.write(count);
+        isGood = onTwoThreads(
+                     count,
+                     [&](std::size_t i) {
+                         return patchOne(paths[first + i], times[first + i]);
+                     }).count() >= 0 &&
+                 isGood;
+        isGood = record.syncFileSystem() && isGood;
+        if (!isGood)
+            return Failed;
+        sum += std::chrono::steady_clock::now() - begin;
+    }
+    return sum;
 }
 
 } // namespace chronomender::bench

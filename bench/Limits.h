@@ -18,4 +18,8 @@ std::chrono::duration<double> readLimit(const std::vector<std::string> &paths);
 /// futimens (setting the time that the file has already), close. The files are the same afterwards.
 std::chrono::duration<double> patchLimit(const std::vector<std::string> &paths);
 
+/// The same 480 files at a time, with the syncs of a save: before each batch a record of it is
+/// written beside the first file and synced, behind it the file system is.
+std::chrono::duration<double> syncedPatchLimit(const std::vector<std::string> &paths);
+
 } // namespace chronomender::bench

@@ -2,16 +2,32 @@
 #include "Session.h"
 
 #include "EventLoopWait.h"
+#include "PatchPlan.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <utility>
 
 namespace chronomender::bench {
+namespace {
 
-Session::Session() {
+/// The files of the benchmarks have at most one chunk with dates each.
+std::size_t bytesOf(const PatchPlan &plan, bool hasChecksum) {
+    constexpr std::size_t checksumLength = 4;
+    std::size_t bytes = hasChecksum && !plan.patches.empty() ? checksumLength : 0;
+    for (const Patch &patch : plan.patches)
+        bytes += patch.after().size();
+    return bytes;
+}
+
+} // namespace
+
+Session::Session(RunJournal::Durability durability) {
     auto services = systemServices();
+    services.durability = durability;
+    auto files = std::make_unique<little::FailingFileLayer>();
+    m_files = files.get();
+    services.files = std::move(files);
     if (const auto zone = services.zones->zoneWithName("Europe/Berlin"))
         services.zones->setSystemZone(*zone);
     m_controller = std::make_unique<AppController>(std::move(services), m_questions);
@@ -39,6 +55,9 @@ void Session::shift(absl::Duration shift) {
 std::size_t Session::preProcess() {
     m_preProcess = waitFor<PreProcessResult>(
         [&](auto finished) { m_controller->startPreProcess({}, {}, finished); });
+    m_bytesPlanned = 0;
+    for (const ItemOutcome &item : m_preProcess.items)
+        m_bytesPlanned += bytesOf(*item.plan, item.pic->fileFormatType == FileFormatPng);
     return m_preProcess.problems.empty() ? m_preProcess.items.size() : 0;
 }
 
@@ -57,14 +76,6 @@ std::vector<std::string> filesOf(const std::string &folder) {
         paths.push_back(entry.path());
     std::sort(paths.begin(), paths.end());
     return paths;
-}
-
-std::size_t bytesWritten() {
-    std::ifstream io("/proc/self/io");
-    for (std::string key, value; io >> key >> value;)
-        if (key == "wchar:")
-            return std::stoul(value);
-    return 0;
 }
 
 } // namespace chronomender::bench

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "AppController.h"
+#include "FailingFileLayer.h"
 
 #include <memory>
 #include <string>
@@ -19,7 +20,7 @@ public:
 /// A session over folders of benchmark files, in the zone that their zone stamps name.
 class Session {
 public:
-    Session();
+    explicit Session(RunJournal::Durability durability = RunJournal::Durability::Synced);
 
     /// Adds and imports one folder; the number of items with complete dates.
     std::size_t import(const std::string &path);
@@ -28,19 +29,22 @@ public:
     /// Both stages of a save; the number of items saved.
     std::size_t preProcess();
     std::size_t save();
+    /// Bytes of the values, and checksums, that the plans of the last first stage would change.
+    std::size_t bytesPlanned() const { return m_bytesPlanned; }
+    /// Bytes handed to the files so far.
+    std::size_t bytesWritten() const { return m_files->bytesWritten; }
 
     AppController &controller() { return *m_controller; }
 
 private:
     NoQuestions m_questions;
+    little::FailingFileLayer *m_files; ///< it fails at nothing, and counts; the controller's
+    std::size_t m_bytesPlanned = 0;
     std::unique_ptr<AppController> m_controller;
     PreProcessResult m_preProcess;
 };
 
 /// Paths of the files of a folder.
 std::vector<std::string> filesOf(const std::string &folder);
-
-/// Bytes that this process handed to write calls so far (/proc/self/io).
-std::size_t bytesWritten();
 
 } // namespace chronomender::bench

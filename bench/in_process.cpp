@@ -24,6 +24,7 @@ namespace chronomender::bench {
 namespace {
 
 using Clock = std::chrono::steady_clock;
+using enum RunJournal::Durability;
 
 std::string folderNamed(const std::string &name) {
     const char *root = std::getenv("CHRONOMENDER_BENCH_FILES");
@@ -61,8 +62,9 @@ void importToDates(benchmark::State &state, const std::string &folder) {
 }
 
 /// Both stages, from the first proof to the model's update; the shift goes to and fro.
-void saveStage(benchmark::State &state, const std::string &folder) {
-    Session session;
+void saveStage(benchmark::State &state, const std::string &folder,
+               RunJournal::Durability durability) {
+    Session session(durability);
     const auto count = session.import(folderNamed(folder));
     session.controller().buildNewSource(); // only what is listed is saved
     static auto shift = absl::Hours(1);
@@ -70,13 +72,14 @@ void saveStage(benchmark::State &state, const std::string &folder) {
     for (auto _ : state) {
         session.shift(shift);
         shift = -shift;
-        const auto writtenBefore = bytesWritten();
+        const auto writtenBefore = session.bytesWritten();
         const auto begin = Clock::now();
         const auto proved = session.preProcess();
         firstStage = secondsSince(begin);
         const auto saved = session.save();
         state.SetIterationTime(secondsSince(begin));
-        bytes = static_cast<double>(bytesWritten() - writtenBefore);
+        bytes = static_cast<double>(session.bytesWritten() - writtenBefore);
+        state.counters["planned"] = static_cast<double>(session.bytesPlanned());
         if (count == 0 || proved != count || saved != count)
             state.SkipWithError(("of " + std::to_string(count) + " items " +
                                  std::to_string(proved) + " were proved and " +
@@ -126,11 +129,15 @@ void registerAll() {
     add("import/many", importToDates, "many");
     add("readLimit/mixed", limit, readLimit, "mixed");
     add("import/mixed", importToDates, "mixed");
-    add("patchLimit/many", limit, patchLimit, "many");
-    add("save/many", saveStage, "many");
+    for (const std::string folder : {"many", "mixed"}) {
+        add(("patchLimit/" + folder).c_str(), limit, patchLimit, folder);
+        add(("syncedPatchLimit/" + folder).c_str(), limit, syncedPatchLimit, folder);
+        add(("save/" + folder).c_str(), saveStage, folder, Unsynced);
+        add(("syncedSave/" + folder).c_str(), saveStage, folder, Synced);
+    }
     for (const std::string folder : {"short", "long"}) {
         add(("import/" + folder).c_str(), importToDates, folder);
-        add(("save/" + folder).c_str(), saveStage, folder);
+        add(("save/" + folder).c_str(), saveStage, folder, Unsynced);
     }
     add("zones/reread", [](benchmark::State &state) { conversions(state, rereadAfterZoneChange); });
     for (const std::size_t threads : {1, 2})

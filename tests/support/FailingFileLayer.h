@@ -18,6 +18,7 @@ public:
     // ---- what passed
     std::atomic<int> opens{0}, updateOpens{0}, reads{0}, writes{0}, dateSettings{0},
         attributeReads{0};
+    std::atomic<std::size_t> bytesWritten{0};
     int touches() const { return opens + reads + writes + dateSettings + attributeReads; }
 
     // ---- what is to go wrong
@@ -82,6 +83,7 @@ private:
         }
         bool pwrite(std::string_view bytes, std::uint64_t offset) override {
             const int call = ++m_layer.writes;
+            m_layer.bytesWritten += bytes.size();
             const int from = m_layer.failingWritesFrom;
             const bool isLast = m_layer.calls + 1 == m_layer.diesAtCall;
             const bool isFailing = call == m_layer.failingWrite || (from != 0 && call >= from);
