@@ -69,6 +69,7 @@ struct Member {
     const FileIntent &intent;
     std::unique_ptr<OpenFile> file = {};
     FileAttributes present = {};
+    bool isForeign = false;    ///< somebody else has changed it: left alone
     bool hasLeftover = false;  ///< the tool's copy stands beside it
     bool hasCommitted = false; ///< the tool's copy has taken its place
     bool hasNew = false;       ///< a value is new, or torn
@@ -97,27 +98,36 @@ public:
         Obstacle obstacle = prove();
         chooseDirection();
         for (std::size_t i = 0; i < m_members.size() && !obstacle; ++i)
-            obstacle = bringTo(m_members[i]);
+            if (!m_members[i].isForeign)
+                obstacle = bringTo(m_members[i]);
         std::vector<RecoveredFile> told;
-        for (const Member &each : m_members) {
-            const Result done = !each.isWritten ? Result::Nothing
-                                : m_isForward   ? Result::Completed
-                                                : Result::TakenBack;
-            told.push_back({each.intent.path, obstacle ? obstacle->result : done,
-                            obstacle ? obstacle->systemText : std::string()});
-        }
+        for (const Member &each : m_members)
+            if (each.isForeign)
+                told.push_back({each.intent.path, Result::Changed, {}});
+            else if (obstacle)
+                told.push_back({each.intent.path, obstacle->result, obstacle->systemText});
+            else
+                told.push_back({each.intent.path, doneTo(each), {}});
         return told;
     }
 
 private:
-    /// All files before any is written.
+    Result doneTo(const Member &member) const {
+        if (!member.isWritten)
+            return Result::Nothing;
+        return m_isForward ? Result::Completed : Result::TakenBack;
+    }
+
+    /// All files before any is written. One that somebody else has changed does not keep the others
+    /// half written.
     Obstacle prove() {
-        for (Member &each : m_members)
-            if (auto obstacle = open(each))
-                return obstacle;
-        for (Member &each : m_members)
-            if (auto obstacle = judge(each))
-                return obstacle;
+        for (const auto step : {&UnitRecovery::open, &UnitRecovery::judge})
+            for (Member &each : m_members) {
+                const Obstacle obstacle = each.isForeign ? std::nullopt : (this->*step)(each);
+                if (obstacle && obstacle->result != Result::Changed)
+                    return obstacle;
+                each.isForeign = each.isForeign || obstacle;
+            }
         return std::nullopt;
     }
 
@@ -177,7 +187,8 @@ private:
     /// What the tool has not done, nobody can complete; what it has done cannot be taken back.
     void chooseDirection() {
         const auto any = [this](auto holds) {
-            return std::any_of(m_members.begin(), m_members.end(), holds);
+            return std::any_of(m_members.begin(), m_members.end(),
+                               [&](const Member &each) { return !each.isForeign && holds(each); });
         };
         const bool hasCommitted = any([](const Member &each) { return each.hasCommitted; });
         const bool awaitsTool = any(

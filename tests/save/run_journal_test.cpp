@@ -272,7 +272,7 @@ TEST_F(RunJournalTest, ObstacleStopsTheWholeUnitAndSaysWhetherItWaits) {
         leave("a", broken);
         row.make();
         const auto results = recover();
-        EXPECT_EQ(results.at(0), row.result);
+        EXPECT_EQ(results.at(0), row.result == Result::Changed ? Result::Nothing : row.result);
         EXPECT_EQ(results.at(1), row.result);
         EXPECT_EQ(fileContent(path("b")), oldFile);
         EXPECT_EQ(results.at(2),
@@ -285,6 +285,14 @@ TEST_F(RunJournalTest, ObstacleStopsTheWholeUnitAndSaysWhetherItWaits) {
         expectWhole("a", true);
         expectWhole("b", true);
     }
+}
+
+TEST_F(RunJournalTest, FileThatSomebodyChangedDoesNotKeepTheOtherHalfWritten) {
+    interrupt({{{intent("a"), intent("b")}}});
+    leave("a", fileWith("2024:05:06 09:08:09", newTime));
+    leave("b", fileWith(newText, oldTime));
+    EXPECT_THAT(recover(), ElementsAre(Result::Changed, Result::Completed));
+    expectWhole("b", true);
 }
 
 TEST_F(RunJournalTest, FileHeldByAnotherProgramWaits) {
