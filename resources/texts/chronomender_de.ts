@@ -885,7 +885,7 @@ Beispiele:
         <translation>ExifTool findet darin Datumsangaben, die sich hier nicht lesen lassen, oder hatte nichts zu schreiben</translation>
     </message>
     <message id="saveObstacle_toolWroteOtherwise">
-        <translation>ExifTool hat die Datei geschrieben, aber sie nennt nicht die gewünschten Zeiten</translation>
+        <translation>ExifTool hat die Datei geschrieben, aber nicht mit den gewünschten Zeiten</translation>
     </message>
     <message id="saveObstacle_unreadableBack">
         <translation>die neue Zeit lässt sich nicht so schreiben, dass sie wieder denselben Zeitpunkt ergibt</translation>

@@ -885,7 +885,7 @@ Examples:
         <translation>ExifTool finds date tags in it that cannot be read here, or had nothing to write</translation>
     </message>
     <message id="saveObstacle_toolWroteOtherwise">
-        <translation>ExifTool wrote the file, but it does not tell the wanted dates</translation>
+        <translation>ExifTool wrote the file, but not the wanted dates</translation>
     </message>
     <message id="saveObstacle_unreadableBack">
         <translation>the new date cannot be written so that it reads back as the same moment</translation>

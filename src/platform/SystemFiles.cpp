@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <linux/limits.h>
+#include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <sys/xattr.h>
@@ -84,6 +85,45 @@ void copyExtendedAttributes(int from, int to) {
             (void)fsetxattr(to, name, value.data(), static_cast<std::size_t>(size), 0);
         at += static_cast<ssize_t>(std::strlen(name)) + 1;
     }
+}
+
+namespace {
+
+bool copyContent(int from, int to, off_t length) {
+    off_t at = 0;
+    while (at < length) {
+        const auto left = static_cast<std::size_t>(length - at);
+        if (retryInterrupted([&] { return sendfile(to, from, &at, left); }) <= 0)
+            return false;
+    }
+    return true;
+}
+
+/// Whose file it is may only be said by the system's administrator; everything else must be kept.
+bool copyProperties(int from, int to, const struct stat &properties) {
+    (void)!fchown(to, properties.st_uid, properties.st_gid);
+    copyExtendedAttributes(from, to);
+    const timespec times[2] = {properties.st_atim, properties.st_mtim};
+    return fchmod(to, properties.st_mode) == 0 && futimens(to, times) == 0 && fsync(to) == 0;
+}
+
+} // namespace
+
+bool restoreAt(const std::string &path, int original) {
+    const std::string copy = path + "_chronomender_tmp";
+    constexpr mode_t ownerOnly = 0600;
+    const int to =
+        ::open(copy.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, ownerOnly);
+    if (to < 0)
+        return false;
+    struct stat properties;
+    const bool isRestored =
+        fstat(original, &properties) == 0 && copyContent(original, to, properties.st_size) &&
+        copyProperties(original, to, properties) && ::rename(copy.c_str(), path.c_str()) == 0;
+    close(to);
+    if (!isRestored)
+        unlink(copy.c_str());
+    return isRestored;
 }
 
 } // namespace chronomender::systemFiles

@@ -4,6 +4,7 @@
 #include "FileLayer.h"
 
 #include <cerrno>
+#include <string>
 
 namespace chronomender::systemFiles {
 
@@ -20,6 +21,11 @@ bool renameByLink(const char *from, const char *to);
 /// Gives an open file the extended attributes of another: what other programs keep of a file beside
 /// it, such as ratings, and its access list. What the file system refuses is left out.
 void copyExtendedAttributes(int from, int to);
+
+/// Puts an open file whose name was taken back under the path, by a copy with its mode, times and
+/// extended attributes, which is on disk before it takes the place of what stands there. False,
+/// with nothing changed, when that fails.
+bool restoreAt(const std::string &path, int original);
 
 /// Repeats a system call that a signal interrupted.
 template<class Call>

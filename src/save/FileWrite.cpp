@@ -188,10 +188,21 @@ bool FileWrite::takeToolAnswer(const ToolOutcome &answer) {
                             : text("saveObstacle_toolFoundTags"));
     if (openReplacement())
         return true;
-    // Harmless where the open file is no longer the one at the path.
+    return putOriginalBack();
+}
+
+/// The file that the tool has replaced is open still, though without its name.
+bool FileWrite::putOriginalBack() {
     takeBack(SaveErrorId::NotWrittenUnreadableBack, text("saveObstacle_toolWroteOtherwise"));
-    m_outcome.state = FileUnchangedState::BytesDiffer;
-    m_outcome.attributes.reset();
+    const bool isBack = !isLeftHalfWritten() &&
+                        (isAtItsPath() || systemFiles::restoreAt(m_job.path, m_file->descriptor()));
+    if (!isBack) {
+        m_outcome.systemText += "; " + text("saveObstacle_notPutBack");
+        m_outcome.state = FileUnchangedState::BytesDiffer;
+        m_outcome.attributes.reset();
+        return false;
+    }
+    m_outcome.attributes = m_files->attributes(m_job.path);
     return false;
 }
 

@@ -92,6 +92,7 @@ private:
     bool planChecksums();
     std::optional<SaveErrorId> sidecarProblem(std::string &systemText) const;
     bool openReplacement();
+    bool putOriginalBack();
     bool takeBack(SaveErrorId id, std::string systemText);
 
     PatchJob m_job;

@@ -104,13 +104,20 @@ TEST_F(TagAdding, AToolThatWritesAndDoesNotSaySoHasWritten) {
     EXPECT_FALSE(pic.isUnsavedOrGroupHarmonized());
 }
 
-TEST_F(TagAdding, AFileWithOtherDatesThanPlannedIsAnError) {
+TEST_F(TagAdding, AFileThatTheToolSpoilsIsPutBack) {
     withStandIn();
-    imported("plain.jpg", dated);
+    const std::string path = imported("plain.jpg", dated).spPath();
+    std::filesystem::permissions(path, std::filesystem::perms::owner_read |
+                                           std::filesystem::perms::owner_write);
     const SaveRunResult run = session.save();
     EXPECT_THAT(ids(run), ElementsAre(SaveErrorId::NotWrittenUnreadableBack));
     EXPECT_EQ(run.errors.at(0).systemText, text("saveObstacle_toolWroteOtherwise"));
-    EXPECT_EQ(session.item("plain.jpg").save.fileUnchangedState, FileUnchangedState::BytesDiffer);
+    EXPECT_EQ(content("plain.jpg"), dated.bytes);
+    EXPECT_EQ(attributesOf(path).modificationDate, session.fileDate);
+    EXPECT_EQ(std::filesystem::status(path).permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    session.toolProgram.clear();
+    saves();
 }
 
 TEST_F(TagAdding, WithoutToolOnlyTheItemsThatNeedItFail) {
