@@ -30,6 +30,7 @@ TEST_F(OtherFormats, ExifStampsAreWrittenInPlace) {
         {"a.heic", heifPhoto(fields)}, {"b.cr3", cr3Photo(fields)}, {"c.webp", webpPhoto(fields)}};
     EXPECT_THAT(results(saveLater(files)),
                 ElementsAre(ItemResult::Saved, ItemResult::Saved, ItemResult::Saved));
+    EXPECT_EQ(session.files.bytesWritten, 3 * 19U) << "a stamp each";
     for (const auto &[name, built] : files)
         EXPECT_EQ(content(name),
                   replaced(built, {{"ExifDateTimeOriginal", "2024:05:06 08:08:09"}}));
@@ -45,6 +46,7 @@ TEST_F(OtherFormats, PngChunksGetTheirChecksums) {
     };
     saveLater({{"a.png", png("2024:05:06 07:08:09", "2024-05-06T05:08:09Z")},
                {"b.png", xmpOnly("2024-05-06T07:08:09-03:30")}});
+    EXPECT_EQ(session.files.bytesWritten, 2 * (19U + 4)) << "a stamp and a checksum each";
     EXPECT_EQ(content("a.png"), png("2024:05:06 08:08:09", "2024-05-06T05:08:09Z").bytes);
     EXPECT_EQ(content("b.png"), xmpOnly("2024-05-06T08:08:09-03:30").bytes);
     expectModelIsWhatAFreshImportShows();
