@@ -69,14 +69,6 @@ bool isSameFile(const SinglePicAttributes &recorded, const FileAttributes &now) 
            (recorded.fileDevice == now.device && recorded.fileInode == now.inode);
 }
 
-bool areSidecarsPresent(const MySinglePic &pic, FileLayer &files) {
-    if (pic.spSidecarExtensions.empty())
-        return true;
-    const auto paths = pic.spSidecarPaths();
-    return std::all_of(paths.begin(), paths.end(),
-                       [&](const std::string &path) { return files.attributes(path).has_value(); });
-}
-
 FileUnchangedState stateOfFile(const MySinglePic &pic, const std::string &path, FileLayer &files) {
     FileError error;
     const auto file = files.open(path, OpenMode::Read, &error);
@@ -88,6 +80,14 @@ FileUnchangedState stateOfFile(const MySinglePic &pic, const std::string &path, 
 }
 
 } // namespace
+
+bool areSidecarsPresent(const MySinglePic &pic, FileLayer &files) {
+    if (pic.spSidecarExtensions.empty())
+        return true;
+    const auto paths = pic.spSidecarPaths();
+    return std::all_of(paths.begin(), paths.end(),
+                       [&](const std::string &path) { return files.attributes(path).has_value(); });
+}
 
 bool isAbsence(const FileError &error) {
     return error.code == ENOENT || error.code == ENOTDIR;

@@ -35,6 +35,9 @@ FileUnchangedState updatedUnchangedFileState(MySinglePic &pic, const MySingleFol
 FileUnchangedState updatedUnchangedFileState(MySinglePic &pic, const MySingleFolder &folder,
                                              const std::string &path, FileLayer &files);
 
+/// Every companion file of the item is there.
+bool areSidecarsPresent(const MySinglePic &pic, FileLayer &files);
+
 /// Joins the states of the two sides of a group.
 FileUnchangedState bundleUnchangedState(const MySinglePic &pic);
 

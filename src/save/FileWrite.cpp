@@ -38,12 +38,6 @@ bool putBack(OpenFile &file, const Patch &patch) {
     return isOurs(present, patch) && file.pwrite(patch.before(), patch.offset());
 }
 
-bool areSidecarsThere(const MySinglePic &pic, FileLayer &files) {
-    const auto paths = pic.spSidecarPaths();
-    return std::all_of(paths.begin(), paths.end(),
-                       [&](const std::string &path) { return files.attributes(path).has_value(); });
-}
-
 /// A place inside the chunk that holds the file's dates, where one is known.
 std::uint64_t chunkHint(const SinglePicAttributes &recorded) {
     return recorded.tiffHeaderStartOffset.value_or(recorded.xmpHeaderStartOffset.value_or(0));
@@ -108,8 +102,8 @@ std::optional<SaveErrorId> FileWrite::sidecarProblem(std::string &systemText) co
             return SaveErrorId::SidecarCannotBeOpened;
         }
     }
-    return areSidecarsThere(pic, *m_files) ? std::nullopt
-                                           : std::optional(SaveErrorId::ChangedSinceImport);
+    return areSidecarsPresent(pic, *m_files) ? std::nullopt
+                                             : std::optional(SaveErrorId::ChangedSinceImport);
 }
 
 bool FileWrite::open() {

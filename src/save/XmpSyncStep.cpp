@@ -11,16 +11,19 @@
 #include <iterator>
 
 namespace chronomender {
-namespace {
 
 /// One item on its way through the sync.
-struct SyncedItem {
+struct XmpSyncStep::SyncedItem {
     MySinglePicPtr pic;
     std::size_t place = 0; ///< among the run's items
     std::optional<XmpSyncPlan> sync;
     std::optional<XmpSyncProblem> problem;
     PatchOutcome outcome;
 };
+
+namespace {
+
+using SyncedItem = XmpSyncStep::SyncedItem;
 
 std::vector<SyncedItem> itemsToSync(const SaveRunResult &result) {
     std::vector<SyncedItem> items;
@@ -74,10 +77,8 @@ bool XmpSyncStep::isPartOf(const SaveRequest &request) const {
            m_services.defaults.boolForKey("syncXMPDataOnSave");
 }
 
-void XmpSyncStep::run(const SaveRequest &request, const PreProcessResult &, SaveRunResult &result) {
-    std::vector<SyncedItem> items = itemsToSync(result);
-    ProgressCounter progress(m_services.progress, items.size(),
-                             SaveDriver::piValueForCount(items.size()));
+/// Reads the packets side by side; items behind a cancellation have no plan.
+void XmpSyncStep::plan(std::vector<SyncedItem> &items) const {
     parallelFor(
         items.size(),
         [&](std::size_t i) {
@@ -88,12 +89,17 @@ void XmpSyncStep::run(const SaveRequest &request, const PreProcessResult &, Save
                                         m_services.files, item.problem);
         },
         [&] { return m_services.cancellation.isRequested(); });
+}
 
+void XmpSyncStep::write(std::vector<SyncedItem> &items) const {
+    ProgressCounter progress(m_services.progress, items.size(),
+                             SaveDriver::piValueForCount(items.size()));
     std::vector<WriteUnit> units;
     std::vector<SyncedItem *> itemsOfUnits;
     for (SyncedItem &item : items)
         if (item.sync && !item.sync->plan.isEmpty()) {
-            std::vector<PatchJob> jobs{{*item.sync->recorded, item.sync->path, item.sync->plan}};
+            std::vector<PatchJob> jobs{
+                {*item.sync->recorded, item.sync->path, item.sync->plan, {}}};
             units.emplace_back(std::move(jobs), m_services.files);
             itemsOfUnits.push_back(&item);
         } else {
@@ -103,8 +109,13 @@ void XmpSyncStep::run(const SaveRequest &request, const PreProcessResult &, Save
         BatchWriter(m_services, [&](const WriteUnit &) { progress.oneDone(); }).run(units);
     for (std::size_t unit = 0; unit < done; ++unit)
         itemsOfUnits[unit]->outcome = units[unit].outcome(0);
-    result.wasCancelled =
-        result.wasCancelled || done < units.size() || m_services.cancellation.isRequested();
+}
+
+void XmpSyncStep::run(const SaveRequest &request, const PreProcessResult &, SaveRunResult &result) {
+    std::vector<SyncedItem> items = itemsToSync(result);
+    plan(items);
+    write(items);
+    result.wasCancelled = result.wasCancelled || m_services.cancellation.isRequested();
     report(items, result);
     mainThread::callAndWait([&] {
         for (SyncedItem &item : items)

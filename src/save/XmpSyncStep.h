@@ -3,6 +3,8 @@
 
 #include "RunStep.h"
 
+#include <vector>
+
 namespace chronomender {
 
 /// Makes the XMP dates of every item that the run has saved tell what the file's own tags tell now,
@@ -16,7 +18,12 @@ public:
     void run(const SaveRequest &request, const PreProcessResult &preProcess,
              SaveRunResult &result) override;
 
+    struct SyncedItem;
+
 private:
+    void plan(std::vector<SyncedItem> &items) const;
+    void write(std::vector<SyncedItem> &items) const;
+
     const SaveServices &m_services;
 };
 
