@@ -214,6 +214,7 @@ TEST_F(Save, HardLinksAreSaidInTheDryRun) {
 TEST_F(Save, WriteProtectedFileFailsAloneWithItsText) {
     const std::string locked = writePhoto("canon/a.jpg", "2024:05:06 07:08:09");
     writePhoto("canon/b.jpg", "2024:05:06 07:08:09");
+    disk().write("canon/notes.txt", "no picture");
     const RunResult run =
         mendAsNobody({"save", "--json", "--folder", path("canon"), "--shift", "60"}, {locked},
                      std::filesystem::perms::owner_read);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SaveTest.h"
 
+#include <fstream>
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -27,11 +29,11 @@ public:
 /// Three photos, to be saved an hour later, and a system that comes in between.
 class DisturbedSave : public SaveTest {
 protected:
-    void prepare() {
+    void prepare(const std::vector<std::string> &names = {"a.jpg", "b.jpg", "c.jpg"}) {
         fs::remove_all(support);
         shiftAllSlotsAlike();
         session.folder().sfEditMode = EditMode::Together;
-        for (const char *name : {"a.jpg", "b.jpg", "c.jpg"})
+        for (const std::string &name : names)
             photo = session.photo(
                 name, {.original = "2024:05:06 07:08:09", .modified = "2024:05:06 07:08:10"});
         session.import();
@@ -40,6 +42,15 @@ protected:
         dry = session.preProcess();
         later = replaced(photo, {{"ExifDateTimeOriginal", "2024:05:07 08:08:09"},
                                  {"TIFFDateTime", "2024:05:07 08:08:10"}});
+    }
+    /// Another second in the stamp, with the same size and file date.
+    std::string withByteChanged(const std::string &name, const BuiltPhoto &built) {
+        std::string bytes = built.bytes;
+        bytes[built.offsets.at("ExifDateTimeOriginal") + 18] = '7';
+        const Date date = dateOf(name);
+        std::ofstream(session.path(name), std::ios::binary | std::ios::in) << bytes;
+        setFileDate(session.path(name), date);
+        return bytes;
     }
     SaveRunResult saveDisturbed() { return saveSynced(files, dry); }
     Date dateOf(const std::string &name) {
@@ -100,6 +111,30 @@ TEST_F(DisturbedSave, TheOtherFilesAreSaved) {
         }
         EXPECT_FALSE(RunJournal::hasUnfinished(support));
     }
+}
+
+TEST_F(DisturbedSave, OfAMixedFolderTheGoodAreSavedAndEachOtherIsToldWithItsText) {
+    session.write("notes.txt", "no picture");
+    session.write("undated.gif", "GIF89a");
+    prepare({"good.jpg", "changed.jpg", "missing.jpg", "locked.jpg", "fine.jpg"});
+    const std::string changed = withByteChanged("changed.jpg", photo);
+    fs::remove(session.path("missing.jpg"));
+    files.beforeUpdateOpen = [this](const std::string &path) {
+        files.updateOpenError = path.ends_with("locked.jpg") ? EACCES : 0;
+    };
+    const SaveRunResult run = saveDisturbed();
+    EXPECT_THAT(ids(run), testing::UnorderedElementsAre(SaveErrorId::ChangedSinceImport,
+                                                        SaveErrorId::NotReachable,
+                                                        SaveErrorId::CannotBeOpened));
+    const std::string words = actionErrorText(run.errors);
+    for (const char *name : {"changed.jpg", "missing.jpg", "locked.jpg (Permission denied)"})
+        EXPECT_THAT(words, testing::HasSubstr(session.path(name))) << name;
+    for (const int id : {2, 3, 4})
+        EXPECT_THAT(words,
+                    testing::HasSubstr(text("errorPanelDescriptionText_ID" + std::to_string(id))));
+    EXPECT_TRUE(content("good.jpg") == later && content("fine.jpg") == later);
+    EXPECT_TRUE(content("changed.jpg") == changed && content("locked.jpg") == photo.bytes);
+    EXPECT_TRUE(content("notes.txt") == "no picture" && content("undated.gif") == "GIF89a");
 }
 
 /// Nothing can be written, read or asked any more, from some call on, and the program goes on.
