@@ -81,7 +81,7 @@ std::string frameOf(FrameKind kind, PutRest putRest) {
 /// cursor bad, and everything behind it empty.
 class Cursor {
 public:
-    explicit Cursor(QCborArray array) : m_array(std::move(array)) {}
+    explicit Cursor(const QCborArray &array) : m_array(array) {}
 
     bool isGood() const { return m_isGood; }
     bool isAtEnd() const { return !m_isGood || m_at >= m_array.size(); }

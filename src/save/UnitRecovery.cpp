@@ -123,7 +123,7 @@ private:
     Obstacle prove() {
         for (const auto step : {&UnitRecovery::open, &UnitRecovery::judge})
             for (Member &each : m_members) {
-                const Obstacle obstacle = each.isForeign ? std::nullopt : (this->*step)(each);
+                Obstacle obstacle = each.isForeign ? std::nullopt : (this->*step)(each);
                 if (obstacle && obstacle->result != Result::Changed)
                     return obstacle;
                 each.isForeign = each.isForeign || obstacle;
