@@ -45,22 +45,16 @@ bool isToBeAdded(const MySinglePic &pic, StampSlot slot) {
     return (isAsked || isFromPacket) && isCleanDate(pic.slots.*description(slot).newDate);
 }
 
-/// The file's own words, where our reader does not see them, are never overwritten: the tool leaves
-/// the whole file alone then. Older PNG files, for example, keep Exif in chunks of text.
-void appendCondition(const std::vector<std::string_view> &absentTags,
-                     std::vector<std::string> &lines) {
-    if (absentTags.empty())
-        return;
-    std::string anyOfThem;
-    for (const std::string_view tag : absentTags)
-        anyOfThem.append(anyOfThem.empty() ? "$" : " or $").append(tag);
-    lines.insert(lines.begin(), {"-if", "not (" + anyOfThem + ')'});
-}
-
 std::string argument(std::string_view tag, std::string_view value) {
     std::string line("-");
     line.append(tag).append(1, '=').append(value);
     return line;
+}
+
+/// "Unless there is one": a tag that our reader does not see is never overwritten. Older PNG files,
+/// for example, keep Exif in chunks of text. The file then does not read back as planned.
+std::string unlessPresent(std::string_view tag) {
+    return '-' + std::string(tag) + "-=";
 }
 
 } // namespace
@@ -68,7 +62,6 @@ std::string argument(std::string_view tag, std::string_view value) {
 std::optional<ToolAction> completeFullExifDateTags(const MySinglePic &pic,
                                                    const PlanContext &context) {
     ToolAction action{ToolErrorType::CompleteDateTags, {}};
-    std::vector<std::string_view> absentTags;
     for (const TagNames &names : kTagNames) {
         if (!isToBeAdded(pic, names.slot))
             continue;
@@ -78,12 +71,11 @@ std::optional<ToolAction> completeFullExifDateTags(const MySinglePic &pic,
         if (!texts)
             return std::nullopt;
         if (!pic.stamp(names.slot))
-            absentTags.push_back(names.date);
+            action.lines.push_back(unlessPresent(names.date));
         action.lines.push_back(
             argument(names.date, '"' + texts->stamp.substr(0, kStampLength) + '"'));
         action.lines.push_back(argument(names.offset, texts->offset.c_str()));
     }
-    appendCondition(absentTags, action.lines);
     return action.lines.empty() ? std::nullopt : std::optional(action);
 }
 

@@ -104,6 +104,13 @@ TEST_F(TagAdding, AToolThatWritesAndDoesNotSaySoHasWritten) {
     EXPECT_FALSE(pic.isUnsavedOrGroupHarmonized());
 }
 
+TEST_F(TagAdding, ATagThatOnlyTheToolCanReadIsNeverOverwritten) {
+    const BuiltPhoto unread = jpegPhoto({.original = original, .modified = "2024-05-06T07:08:09"});
+    imported("a.jpg", unread);
+    EXPECT_THAT(ids(session.save()), ElementsAre(SaveErrorId::NotWrittenUnreadableBack));
+    EXPECT_EQ(content(), unread.bytes);
+}
+
 TEST_F(TagAdding, AFileThatTheToolSpoilsIsPutBack) {
     withStandIn();
     const std::string path = imported("plain.jpg", dated).spPath();
