@@ -54,8 +54,8 @@ public:
     virtual bool setModificationDate(Date date) = 0;
     /// Waits until data and times have reached the disk.
     virtual bool sync() = 0;
-    /// The same for everything that waits on the file's file system: far cheaper than one file after
-    /// the other.
+    /// The same for everything that waits on the file's file system: far cheaper than one file
+    /// after the other.
     virtual bool syncFileSystem() = 0;
     /// Keeps other programs that ask the same away from the file, as long as this object lives. The
     /// lock is advisory and never waited for.
