@@ -18,6 +18,7 @@ AppServices systemServices() {
 AppController::AppController(AppServices services, ImportQuestions &questions)
     : m_services(std::move(services)),
       m_systemZoneChange(*m_services.zones, *m_services.defaults, m_droppedFolders, m_services.now),
+      m_timelines(m_undo, [this] { buildNewSource(); }),
       m_importDriver({*m_services.zones, *m_services.defaults, questions, m_cancellation, m_undo,
                       m_droppedFolders}),
       m_journal(supportFolder(), m_services.durability),
@@ -36,6 +37,7 @@ AppController::AppController(AppServices services, ImportQuestions &questions)
                                         m_saveStepBegins(titleKey);
                                 }}) {
     mainThread::initialise();
+    setSourceViews(nullptr);
 }
 
 AppController::~AppController() {
@@ -66,8 +68,33 @@ void AppController::startImport(ImportRequest request,
                              ImportOutcome outcome) { finished(std::move(outcome)); });
 }
 
+void AppController::setSourceViews(SourceViews *views) {
+    m_views = views ? views : &m_noViews;
+    m_filters = std::make_unique<FilterSourceController>(
+        *m_services.defaults, *m_services.zones, *m_views,
+        [this](NewSelection selection, Refilter refilter) {
+            m_source->buildNewSourceWithNewSelectionOption(selection, refilter);
+        });
+    m_source = std::make_unique<SourceBuilder>(m_droppedFolders, m_timelines, *m_views, [this] {
+        return SourceRestrictions{m_filters->compiled(), nullptr, std::nullopt};
+    });
+}
+
 void AppController::buildNewSource() {
-    m_source.buildNewSource(m_droppedFolders.droppedFolders());
+    m_source->buildNewSource();
+}
+
+std::unique_ptr<DateDrag> AppController::beginDateDrag(const MySinglePicPtr &dragged,
+                                                       TimelineStrip &strip) {
+    return DateDrag::begin(dragged, m_timelines, strip,
+                           absl::Seconds(m_services.defaults->integerForKey("dragGapOuterEdges")));
+}
+
+DateChangeOutcome AppController::commitDateDrag(DateDrag &drag) {
+    const DateChangeOutcome outcome = drag.commit(m_undo);
+    if (outcome == DateChangeOutcome::Done)
+        m_source->buildNewSourceWithNewSelectionOption(NewSelection::Keep, Refilter::FullBuild);
+    return outcome;
 }
 
 DateChangeOutcome AppController::shiftFolder(MySingleFolder &folder, absl::Duration totalShift) {

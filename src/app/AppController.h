@@ -4,11 +4,14 @@
 #include "Alignment.h"
 #include "AlternativeReading.h"
 #include "Cancellation.h"
+#include "DateDrag.h"
 #include "ErrorLog.h"
 #include "FileLayer.h"
+#include "FilterSourceController.h"
 #include "FolderDrag.h"
 #include "ImportDriver.h"
 #include "MyDroppedFolders.h"
+#include "MyTimelinesController.h"
 #include "SaveDriver.h"
 #include "SourceBuilder.h"
 #include "SupportFolders.h"
@@ -57,7 +60,7 @@ public:
     AppController &operator=(const AppController &) = delete;
 
     MyDroppedFolders &droppedFolders() { return m_droppedFolders; }
-    const std::vector<MySinglePicPtr> &source_full() const { return m_source.source_full(); }
+    const std::vector<MySinglePicPtr> &source_full() const { return m_source->source_full(); }
     const Zones &zones() const { return *m_services.zones; }
     UserDefaults &defaults() { return *m_services.defaults; }
     UndoManager &undoManager() { return m_undo; }
@@ -85,8 +88,18 @@ public:
     /// is told as skipped. Folders found inside become folders of the session behind their parent
     /// and are imported with the same choices; `finished` tells of all of them together.
     void startImport(ImportRequest request, std::function<void(ImportOutcome)> finished);
-    /// Sorts the visible list again.
+    /// Sorts the visible list again, and filters it.
     void buildNewSource();
+    /// The views that show the visible list; without them the session has none. They outlive the
+    /// controller.
+    void setSourceViews(SourceViews *views);
+    SourceBuilder &sourceBuilder() { return *m_source; }
+    MyTimelinesController &timelines() { return m_timelines; }
+    FilterSourceController &filters() { return *m_filters; }
+    /// Starts the drag of a thumbnail; see DateDrag.
+    std::unique_ptr<DateDrag> beginDateDrag(const MySinglePicPtr &dragged, TimelineStrip &strip);
+    /// Ends it, with its dates, and builds the list again.
+    DateChangeOutcome commitDateDrag(DateDrag &drag);
 
     DateChangeOutcome shiftFolder(MySingleFolder &folder, absl::Duration totalShift);
     DateChangeOutcome shiftItems(const std::vector<MySinglePicPtr> &items,
@@ -141,7 +154,11 @@ private:
     MyDroppedFolders m_droppedFolders;
     SystemZoneChange m_systemZoneChange;
     std::optional<SystemZoneWatch> m_systemZoneWatch;
-    SourceBuilder m_source;
+    SourceViews m_noViews;
+    SourceViews *m_views = &m_noViews;
+    MyTimelinesController m_timelines;
+    std::unique_ptr<FilterSourceController> m_filters;
+    std::unique_ptr<SourceBuilder> m_source;
     ImportDriver m_importDriver;
     Progress m_saveProgress;
     std::function<void(std::string_view)> m_saveStepBegins;

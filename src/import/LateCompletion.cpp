@@ -143,6 +143,7 @@ void completeItem(MySinglePic &pic, const PropertyDictionary &properties) {
     completeSize(pic.camera, properties);
     completeCamera(pic.camera, properties.make, properties.model);
     pic.camera.lens = properties.lens;
+    pic.camera.serialNumber = properties.serialNumber;
     if (!pic.hasLocation() && properties.gps) {
         pic.location.gpsLat = properties.gps->latitude;
         pic.location.gpsLong = properties.gps->longitude;

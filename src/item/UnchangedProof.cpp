@@ -154,12 +154,4 @@ FileUnchangedState updatedUnchangedFileState(MySinglePic &pic, const MySingleFol
     return stateOfFile(pic, path, files);
 }
 
-FileUnchangedState bundleUnchangedState(const MySinglePic &pic) {
-    const FileUnchangedState own = pic.save.fileUnchangedState;
-    const MySinglePicPtr &dependent = pic.group.bundleDependentImage;
-    // Where both sides have something to say, the item itself speaks first.
-    return !dependent || own != FileUnchangedState::Unchanged ? own
-                                                              : dependent->save.fileUnchangedState;
-}
-
 } // namespace chronomender

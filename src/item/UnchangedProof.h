@@ -38,9 +38,6 @@ FileUnchangedState updatedUnchangedFileState(MySinglePic &pic, const MySingleFol
 /// Every companion file of the item is there.
 bool areSidecarsPresent(const MySinglePic &pic, FileLayer &files);
 
-/// Joins the states of the two sides of a group.
-FileUnchangedState bundleUnchangedState(const MySinglePic &pic);
-
 /// The error says that there is no such file, as opposed to one that cannot be opened.
 bool isAbsence(const FileError &error);
 

@@ -51,6 +51,14 @@ std::vector<std::string>::const_iterator xmpSidecarOf(const MySinglePic &pic) {
 
 } // namespace
 
+FileUnchangedState MySinglePic::bundleUnchangedState() const {
+    const FileUnchangedState own = save.fileUnchangedState;
+    const MySinglePicPtr &dependent = group.bundleDependentImage;
+    // Where both sides have something to say, the item itself speaks first.
+    return !dependent || own != FileUnchangedState::Unchanged ? own
+                                                              : dependent->save.fileUnchangedState;
+}
+
 MySinglePicPtr MySinglePic::create(std::string name, const MySingleFolderPtr &folder, SpType type,
                                    Date date) {
     MySinglePicPtr pic(new MySinglePic);

@@ -109,6 +109,10 @@ struct SaveState {
     unsigned normalizationType = 0; ///< bit 1: stamps out of order; bit 4: file dates out of order
 };
 
+struct RenameState {
+    int hasRenameError = 0; ///< what a rename could not do with the file; 0 for nothing
+};
+
 struct ImportState {
     int importedState = 8;
     bool isPossibleBundlePic = false;     ///< raw files and QuickTime movies not yet in a group
@@ -134,6 +138,7 @@ struct CameraInfo {
     std::string make, model;
     std::string pivMakeModel; ///< make and model for display; "" when unknown
     std::string lens;         ///< read late, where a display asks for it; "" when unknown
+    std::string serialNumber; ///< of the body; read late with the lens
     std::int32_t pivImageWidth = 0, pivImageHeight = 0;
 };
 
@@ -167,6 +172,7 @@ public:
     SinglePicAttributes singlePicAttributes;
     std::vector<Finding> findings; ///< what the reader refused or tolerated
     SaveState save;
+    RenameState rename;
     ImportState importState;
     ListPositions positions;
     Marks marks;
@@ -200,6 +206,8 @@ public:
     bool hasSaveErrorLocation() const { return save.saveErrorType & 1U; }
     bool hasSaveErrorTagAdd() const { return save.saveErrorType & 2U; }
     bool hasSaveErrorTime() const { return save.saveErrorType & 6U; }
+    /// The states of the two sides of a group joined.
+    FileUnchangedState bundleUnchangedState() const;
     bool needsNormalization() const { return save.normalizationType & 5U; }
 
     /// The master of a dependent; none for every other item.

@@ -39,6 +39,7 @@ constexpr DefaultEntry entries[] = {
     {"dateCorrectionEXIFFinderModDateEXIFModDateUnchangedOption", "1", Choice, {0, 1}},
     {"dateCorrectionEXIFFinderModDateUnchangedOption", "1", Choice, {0, 1}},
     {"displayTimelineLabels", "1", Choice, {0, 1}},
+    {"dragGapOuterEdges", "60", Choice, {1, 10, 60, 600, 3600, 86400}},
     {"exifToolPath", "", Text},
     {"fixFinderDateOnImport", "0", Choice, {0, 1}},
     {"folderColors_7",

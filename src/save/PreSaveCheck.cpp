@@ -34,7 +34,7 @@ Bytes bytesAfter(const LocatedBytes &value, const PatchPlan &plan) {
 
 std::optional<PreSaveProblem> checkFileUnchangedStateForSaveRenameErrors(const MySinglePic &pic) {
     const bool isGroup = pic.group.bundleDependentImage != nullptr;
-    switch (bundleUnchangedState(pic)) {
+    switch (pic.bundleUnchangedState()) {
     case FileUnchangedState::Unchanged:
         return std::nullopt;
     case FileUnchangedState::NotFound:

@@ -1,89 +1,58 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SourceBuilder.h"
 
-#include "NaturalCompare.h"
+#include "DisplayOrder.h"
 
-#include <QCollator>
-
-#include <algorithm>
 #include <iterator>
-#include <span>
-#include <tuple>
+#include <unordered_map>
 
 namespace chronomender {
 
-namespace {
+struct SourceBuilder::Memory {};
 
-/// One item with its sort keys. The date is asked once per item and not once per comparison.
-struct Entry {
-    Date date;
-    std::int64_t category = 0;
-    std::size_t folder = 0; ///< index among the folders given
-    const MySinglePicPtr *pic = nullptr;
-};
+SourceBuilder::SourceBuilder(const MyDroppedFolders &folders, MyTimelinesController &timelines,
+                             SourceViews &views, AskRestrictions restrictions)
+    : m_folders(folders),
+      m_timelines(timelines),
+      m_views(views),
+      m_restrictions(std::move(restrictions)) {}
 
-std::vector<Entry> gathered(const std::vector<MySingleFolderPtr> &folders) {
-    std::size_t count = 0;
-    for (const MySingleFolderPtr &folder : folders)
-        count += folder->sfPicDetails_fullArray.size();
-    std::vector<Entry> entries;
-    entries.reserve(count);
-    for (std::size_t index = 0; index < folders.size(); ++index)
-        for (const MySinglePicPtr &pic : folders[index]->sfPicDetails_fullArray)
-            entries.push_back(
-                {pic->spDateTimeModified_sort(), folders[index]->folderSortGeneral, index, &pic});
-    return entries;
+SourceBuilder::~SourceBuilder() = default;
+
+void SourceBuilder::buildNewSource(const MySingleFolder *) {
+    buildNewSourceUsingOptimizedRefilterOnly(Refilter::FullBuild);
 }
 
-/// Display order but for the names.
-bool isBefore(const Entry &a, const Entry &b) {
-    return std::tuple(a.date, a.category, (*a.pic)->sessionUniqueId) <
-           std::tuple(b.date, b.category, (*b.pic)->sessionUniqueId);
+void SourceBuilder::buildNewSourceWithNewSelectionOption(NewSelection, Refilter refilter) {
+    buildNewSourceUsingOptimizedRefilterOnly(refilter);
 }
 
-/// Puts items of one date in the natural order of their names; alike names keep their order.
-void sortByName(std::span<Entry> tied, const NaturalCompare &order) {
-    struct Keyed {
-        QCollatorSortKey key;
-        Entry entry;
-    };
-    std::vector<Keyed> keyed;
-    keyed.reserve(tied.size());
-    for (const Entry &entry : tied)
-        keyed.push_back({order.sortKey((*entry.pic)->spSortNameCachedErrorOrReal()), entry});
-    std::ranges::stable_sort(
-        keyed, [](const Keyed &a, const Keyed &b) { return a.key.compare(b.key) < 0; });
-    std::ranges::transform(keyed, tied.begin(), &Keyed::entry);
-}
-
-/// Natural order is by far the most expensive of the keys, so it is asked only where dates tie.
-void sortForDisplay(std::vector<Entry> &entries) {
-    std::ranges::sort(entries, isBefore);
-    const NaturalCompare order;
-    for (auto begin = entries.begin(); begin != entries.end();) {
-        const auto end = std::find_if(
-            begin, entries.end(), [&](const Entry &entry) { return entry.date != begin->date; });
-        if (end - begin > 1)
-            sortByName({begin, end}, order);
-        begin = end;
+void SourceBuilder::buildNewSourceUsingOptimizedRefilterOnly(Refilter) {
+    m_sourceFull = sortedForDisplay(m_folders.droppedFolders());
+    std::unordered_map<const MySingleFolder *, std::int64_t> nextInFolder;
+    std::int64_t next = 0;
+    for (const MySinglePicPtr &pic : m_sourceFull) {
+        pic->positions.indexInSource_full = pic->positions.indexInSource_filtered = next++;
+        pic->positions.indexInFolder_full = nextInFolder[pic->spSingleRealFolder().get()]++;
     }
+    m_timelines.setSource_filtered(m_sourceFull, false);
+    m_views.sourceChanged();
 }
 
-} // namespace
-
-void SourceBuilder::buildNewSource(const std::vector<MySingleFolderPtr> &folders) {
-    std::vector<Entry> entries = gathered(folders);
-    sortForDisplay(entries);
-    m_sourceFull.clear();
-    m_sourceFull.reserve(entries.size());
-    std::vector<std::int64_t> nextInFolder(folders.size(), 0);
-    for (const Entry &entry : entries) {
-        ListPositions &positions = (*entry.pic)->positions;
-        positions.indexInSource_full = std::ssize(m_sourceFull);
-        positions.indexInSource_filtered = std::ssize(m_sourceFull);
-        positions.indexInFolder_full = nextInFolder[entry.folder]++;
-        m_sourceFull.push_back(*entry.pic);
-    }
+std::vector<MySinglePicPtr> SourceBuilder::allFilteredImages() const {
+    return {};
+}
+bool SourceBuilder::isHiddenByFilter(const MySinglePic &) const {
+    return false;
+}
+bool SourceBuilder::isVisible(const MySinglePic &) const {
+    return true;
+}
+MySinglePicPtr SourceBuilder::nearestVisibleTo(const MySinglePicPtr &, const PicSet &) const {
+    return nullptr;
+}
+MySinglePicPtr SourceBuilder::nextVisibleAfter(const MySinglePicPtr &, bool) const {
+    return nullptr;
 }
 
 } // namespace chronomender

@@ -126,13 +126,13 @@ TEST_F(UnchangedProof, IsFreeWithinTheSameLocalChange) {
 
 TEST(BundleUnchangedState, LetsTheSideThatChangedDecide) {
     const auto master = MySinglePic::create("a.cr2", nullptr, SpTypeExifOriginal, {});
-    EXPECT_EQ(bundleUnchangedState(*master), Unchanged);
+    EXPECT_EQ(master->bundleUnchangedState(), Unchanged);
     const auto dependent = MySinglePic::create("a.jpg", nullptr, SpTypeExifOriginal, {});
     master->group.bundleDependentImage = dependent;
     dependent->save.fileUnchangedState = NotFound;
-    EXPECT_EQ(bundleUnchangedState(*master), NotFound);
+    EXPECT_EQ(master->bundleUnchangedState(), NotFound);
     master->save.fileUnchangedState = BytesDiffer;
-    EXPECT_EQ(bundleUnchangedState(*master), BytesDiffer);
+    EXPECT_EQ(master->bundleUnchangedState(), BytesDiffer);
 }
 
 } // namespace

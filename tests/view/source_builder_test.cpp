@@ -16,19 +16,26 @@ const absl::Duration second = absl::Seconds(1);
 
 class SourceBuilderTest : public testing::Test {
 protected:
-    SourceBuilderTest() { nikon->folderSortGeneral = 1; }
+    SourceBuilderTest() {
+        m_folders.append(canon);
+        m_folders.append(nikon);
+    }
 
     static MySinglePicPtr add(const MySingleFolderPtr &folder, const char *name, Date date) {
         return addItem(folder, SpTypeExifOriginal, date, name);
     }
     const std::vector<MySinglePicPtr> &build() {
-        m_builder.buildNewSource({nikon, canon});
+        m_builder.buildNewSource();
         return m_builder.source_full();
     }
     const MySingleFolderPtr canon = makeFolder(), nikon = makeFolder();
 
 private:
-    SourceBuilder m_builder;
+    UndoManager m_undo;
+    SourceViews m_views;
+    MyDroppedFolders m_folders;
+    MyTimelinesController m_timelines{m_undo, [] {}};
+    SourceBuilder m_builder{m_folders, m_timelines, m_views, [] { return SourceRestrictions(); }};
 };
 
 TEST_F(SourceBuilderTest, CorrectedDatesOfAllFoldersComeFirstAndItemsKnowTheirPlaces) {
