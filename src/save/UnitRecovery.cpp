@@ -168,14 +168,22 @@ private:
         return isKnownFile && isSameSize ? judgeValues(member) : Failure{Result::Changed};
     }
 
+    /// What stands at the place of one value, as long as it is ours.
+    static Obstacle look(const Patch &patch, const Member &member, ValueState &state) {
+        state = stateOf(patch, *member.file);
+        if (state == ValueState::Unreadable)
+            return refused(member);
+        if (state == ValueState::Foreign)
+            return Failure{Result::Changed};
+        return std::nullopt;
+    }
+
     Obstacle judgeValues(Member &member) {
         bool isToldByValues = false;
         for (const Patch &patch : member.intent.patches) {
-            const ValueState state = stateOf(patch, *member.file);
-            if (state == ValueState::Unreadable)
-                return refused(member);
-            if (state == ValueState::Foreign)
-                return Failure{Result::Changed};
+            ValueState state{};
+            if (auto obstacle = look(patch, member, state))
+                return obstacle;
             member.hasNew |= state == ValueState::New || state == ValueState::Torn;
             isToldByValues |= state != ValueState::Same;
         }
@@ -210,11 +218,9 @@ private:
 
     Obstacle writeValues(Member &member) {
         for (const Patch &patch : member.intent.patches) {
-            const ValueState state = stateOf(patch, *member.file);
-            if (state == ValueState::Unreadable)
-                return refused(member);
-            if (state == ValueState::Foreign)
-                return Failure{Result::Changed};
+            ValueState state{};
+            if (auto obstacle = look(patch, member, state))
+                return obstacle;
             const ValueState wanted = m_isForward ? ValueState::New : ValueState::Old;
             if (state == wanted || state == ValueState::Same)
                 continue;
