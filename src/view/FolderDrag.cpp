@@ -34,19 +34,33 @@ DateChangeOutcome dragMovesValuesBy(absl::Duration difference,
                                     const std::vector<MySinglePicPtr> &items, UndoManager &undo) {
     std::vector<ShiftRecord> records;
     for (const MySinglePicPtr &pic : items)
-        if (isMovable(*pic))
-            records.push_back({pic, difference});
-    if (records.empty() || difference == absl::ZeroDuration())
+        records.push_back({pic, difference});
+    return dragMovesValuesBy(std::move(records), undo);
+}
+
+DateChangeOutcome dragMovesValuesBy(std::vector<ShiftRecord> records, UndoManager &undo,
+                                    const MySinglePicPtr &selection) {
+    std::erase_if(records, [](const ShiftRecord &record) {
+        return record.dateDifference == absl::ZeroDuration() || !isMovable(*record.thumb);
+    });
+    if (records.empty())
         return DateChangeOutcome::NothingChanged;
-    for (const ShiftRecord &record : records) {
-        const MySinglePic &pic = *record.thumb;
-        if (!staysInsideBounds(pic, pic.shift.singlePicModification + difference))
+    for (const auto &[pic, difference] : records)
+        if (!staysInsideBounds(*pic, pic->shift.singlePicModification + difference))
             return DateChangeOutcome::RefusedOutOfBounds;
-    }
     const UndoGroup group(undo);
-    updateThumbValues(records, undo);
+    updateThumbValues(records, undo, selection);
     undo.setActionName(itemChangeName);
     return DateChangeOutcome::Done;
+}
+
+bool followsShift(const MySinglePic &pic) {
+    const MySinglePic &sortPic = pic.sortPic();
+    return sortPic.hasCorrectableDate() && !isMarker(sortPic.spDateTimeOriginal);
+}
+
+absl::Duration differenceToDate(const MySinglePic &pic, Date date) {
+    return date - pic.sortPic().spDateTimeOriginal - pic.presentShift();
 }
 
 } // namespace chronomender
