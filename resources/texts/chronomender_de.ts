@@ -680,6 +680,15 @@ Beispiele:
     <message id="errorPanelMessageText">
         <translation>Es konnte nicht alles ausgeführt werden.</translation>
     </message>
+    <message id="mark_keeper">
+        <translation>Als Behalten markieren</translation>
+    </message>
+    <message id="mark_none">
+        <translation>Markierung entfernen</translation>
+    </message>
+    <message id="mark_rejected">
+        <translation>Als Abgelehnt markieren</translation>
+    </message>
     <message id="menu_copyOtherFileDate_selection">
         <translation>Anderes Datum jeder Datei übernehmen</translation>
     </message>
@@ -892,6 +901,21 @@ Beispiele:
     </message>
     <message id="saveObstacle_valuesCollide">
         <translation>zwei Werte der Datei teilen sich dieselben Bytes</translation>
+    </message>
+    <message id="shelfMove_closeShelf">
+        <translation>Ablage schließen</translation>
+    </message>
+    <message id="shelfMove_folderFromShelf">
+        <translation>Ordner zurück auf die Zeitleiste verschieben</translation>
+    </message>
+    <message id="shelfMove_folderToShelf">
+        <translation>Ordner in die Ablage verschieben</translation>
+    </message>
+    <message id="shelfMove_fromShelf">
+        <translation>Zurück auf die Zeitleiste verschieben</translation>
+    </message>
+    <message id="shelfMove_toShelf">
+        <translation>In die Ablage verschieben</translation>
     </message>
     <message id="skipReason_cancelled">
         <translation>Der Import wurde vor dieser Datei angehalten.</translation>

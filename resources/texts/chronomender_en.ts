@@ -680,6 +680,15 @@ Examples:
     <message id="errorPanelMessageText">
         <translation>Not everything could be done.</translation>
     </message>
+    <message id="mark_keeper">
+        <translation>Mark as Keeper</translation>
+    </message>
+    <message id="mark_none">
+        <translation>Remove Mark</translation>
+    </message>
+    <message id="mark_rejected">
+        <translation>Mark as Rejected</translation>
+    </message>
     <message id="menu_copyOtherFileDate_selection">
         <translation>Take Over Another Date of Each File</translation>
     </message>
@@ -892,6 +901,21 @@ Examples:
     </message>
     <message id="saveObstacle_valuesCollide">
         <translation>two values of the file share the same bytes</translation>
+    </message>
+    <message id="shelfMove_closeShelf">
+        <translation>Close Shelf</translation>
+    </message>
+    <message id="shelfMove_folderFromShelf">
+        <translation>Move Folder Back to Timeline</translation>
+    </message>
+    <message id="shelfMove_folderToShelf">
+        <translation>Move Folder to Shelf</translation>
+    </message>
+    <message id="shelfMove_fromShelf">
+        <translation>Move Back to Timeline</translation>
+    </message>
+    <message id="shelfMove_toShelf">
+        <translation>Move to Shelf</translation>
     </message>
     <message id="skipReason_cancelled">
         <translation>The import was stopped before this file.</translation>
