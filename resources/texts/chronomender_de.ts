@@ -1010,5 +1010,53 @@ Beispiele:
     <message id="workPanelSyncXMP">
         <translation>XMP-Daten werden angeglichen</translation>
     </message>
+    <message id="predicate_error_badDate">
+        <translation>das ist kein Datum; ein Datum wird etwa so geschrieben: "2024-05-06 07:08"</translation>
+    </message>
+    <message id="predicate_error_expectedJoin">
+        <translation>vor „%1“ wird AND, OR oder das Ende erwartet</translation>
+    </message>
+    <message id="predicate_error_expectedKey">
+        <translation>hier wird ein Schlüssel erwartet</translation>
+    </message>
+    <message id="predicate_error_expectedOperator">
+        <translation>„%1“ ist kein Operator; es gibt ==, !=, &lt;, &lt;=, >, >=, CONTAINS, BEGINSWITH, ENDSWITH</translation>
+    </message>
+    <message id="predicate_error_expectedValue">
+        <translation>hier wird ein Wert erwartet: ein Text in Anführungszeichen, eine Zahl oder ein Datum</translation>
+    </message>
+    <message id="predicate_error_missingParenthesis">
+        <translation>eine schließende Klammer fehlt</translation>
+    </message>
+    <message id="predicate_error_notUtf8">
+        <translation>die Bedingung ist nicht in UTF-8</translation>
+    </message>
+    <message id="predicate_error_openText">
+        <translation>das schließende Anführungszeichen fehlt</translation>
+    </message>
+    <message id="predicate_error_operatorNotForKey">
+        <translation>„%1“ passt nicht zum Schlüssel</translation>
+    </message>
+    <message id="predicate_error_tooDeep">
+        <translation>die Bedingung ist zu tief geschachtelt</translation>
+    </message>
+    <message id="predicate_error_tooLong">
+        <translation>die Bedingung ist zu lang</translation>
+    </message>
+    <message id="predicate_error_unknownEscape">
+        <translation>„%1“ hat in einem Text keine Bedeutung</translation>
+    </message>
+    <message id="predicate_error_unknownFlags">
+        <translation>„%1“ ist unbekannt; es gibt [c], [d], [cd]</translation>
+    </message>
+    <message id="predicate_error_unknownKey">
+        <translation>„%1“ ist kein Schlüssel</translation>
+    </message>
+    <message id="predicate_error_valueNotForKey">
+        <translation>der Wert passt nicht zum Schlüssel</translation>
+    </message>
+    <message id="renameModTemplate_unnamed">
+        <translation>Unbenannt</translation>
+    </message>
 </context>
 </TS>

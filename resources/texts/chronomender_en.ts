@@ -1010,5 +1010,53 @@ Examples:
     <message id="workPanelSyncXMP">
         <translation>Bringing XMP dates into line</translation>
     </message>
+    <message id="predicate_error_badDate">
+        <translation>this is no date; a date is written such as "2024-05-06 07:08"</translation>
+    </message>
+    <message id="predicate_error_expectedJoin">
+        <translation>AND, OR or the end is expected before “%1”</translation>
+    </message>
+    <message id="predicate_error_expectedKey">
+        <translation>a key is expected</translation>
+    </message>
+    <message id="predicate_error_expectedOperator">
+        <translation>“%1” is no operator; there are ==, !=, &lt;, &lt;=, >, >=, CONTAINS, BEGINSWITH, ENDSWITH</translation>
+    </message>
+    <message id="predicate_error_expectedValue">
+        <translation>a value is expected: a text in quotes, a number or a date</translation>
+    </message>
+    <message id="predicate_error_missingParenthesis">
+        <translation>a closing parenthesis is missing</translation>
+    </message>
+    <message id="predicate_error_notUtf8">
+        <translation>the condition is not UTF-8</translation>
+    </message>
+    <message id="predicate_error_openText">
+        <translation>the closing quote is missing</translation>
+    </message>
+    <message id="predicate_error_operatorNotForKey">
+        <translation>“%1” does not suit the key</translation>
+    </message>
+    <message id="predicate_error_tooDeep">
+        <translation>the condition is nested too deep</translation>
+    </message>
+    <message id="predicate_error_tooLong">
+        <translation>the condition is too long</translation>
+    </message>
+    <message id="predicate_error_unknownEscape">
+        <translation>“%1” has no meaning in a text</translation>
+    </message>
+    <message id="predicate_error_unknownFlags">
+        <translation>“%1” is unknown; there are [c], [d], [cd]</translation>
+    </message>
+    <message id="predicate_error_unknownKey">
+        <translation>“%1” is no key</translation>
+    </message>
+    <message id="predicate_error_valueNotForKey">
+        <translation>the value does not suit the key</translation>
+    </message>
+    <message id="renameModTemplate_unnamed">
+        <translation>Unnamed</translation>
+    </message>
 </context>
 </TS>
