@@ -120,9 +120,11 @@ void MyTimelinesController::perform(const ShelfMove &move) {
         std::erase_if(m_shelf, [&](const auto &pic) { return moving.contains(pic); });
     setSecondKind(m_shelf.empty() ? move.second : TimelineKind::Shelf);
     m_mirrorFirstRespState = move.mirrorFirstRespState;
-    if (!move.selected.empty())
-        (hasShelf() && move.toShelf ? *m_second : m_main).selection =
-            selectionOfArriving(alive(move.selected), move.picSelection.lock());
+    PicSet selected = alive(move.selected);
+    std::erase_if(selected, [&](const auto &pic) { return !moving.contains(pic); });
+    if (!selected.empty())
+        (move.toShelf ? *m_second : m_main).selection =
+            selectionOfArriving(std::move(selected), move.picSelection.lock());
     if (hasShelf() && m_shelf.empty())
         m_second->theSource.clear();
     m_rebuild();
@@ -178,14 +180,15 @@ void MyTimelinesController::closeShelf(std::optional<TimelineKind> second) {
 void MyTimelinesController::addTimelineOfMode(TimelineKind kind, bool movingSelection) {
     if (kind == TimelineKind::Main)
         return;
-    if (kind == TimelineKind::Mirror && hasShelf())
+    const bool isMoving = movingSelection && m_main.selection.picSelection;
+    if (isMoving && kind == TimelineKind::Shelf)
+        return addSelectionFromToShelf(m_main, true); // brings the shelf, as one step
+    if (hasShelf() && kind == TimelineKind::Mirror)
         closeShelf(kind);
     else
         setSecondKind(kind);
-    if (!movingSelection)
-        return;
-    m_mirrorFirstRespState = false;
-    moveSelectionFromOrigin();
+    if (isMoving)
+        setSelection(std::exchange(m_main.selection, {}), *m_second);
 }
 
 void MyTimelinesController::removeSecondTimeline() {
