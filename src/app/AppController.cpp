@@ -76,7 +76,9 @@ void AppController::setSourceViews(SourceViews *views) {
             m_source->buildNewSourceWithNewSelectionOption(selection, refilter);
         });
     m_source = std::make_unique<SourceBuilder>(m_droppedFolders, m_timelines, *m_views, [this] {
-        return SourceRestrictions{m_filters->compiled(), nullptr, std::nullopt};
+        const std::optional<Predicate> &filter = m_filters->filter_finalPredicate();
+        return SourceRestrictions{.predicate = m_filters->compiled(),
+                                  .filter_finalPredicate = filter ? &*filter : nullptr};
     });
 }
 

@@ -1,84 +1,144 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DisplayOrder.h"
 
-#include "NaturalCompare.h"
-
 #include <QCollator>
 
 #include <algorithm>
-#include <iterator>
-#include <span>
-#include <tuple>
+#include <functional>
+#include <utility>
 
 namespace chronomender {
 
-namespace {
-
-/// One item with its sort keys. The date is asked once per item and not once per comparison.
-struct Entry {
-    Date date;
-    std::int64_t category = 0;
-    std::size_t folder = 0; ///< index among the folders given
-    const MySinglePicPtr *pic = nullptr;
+/// A name and what it sorts by. Making the key takes longer than all other sorting of an item.
+struct DisplayOrder::NameKey {
+    NameKey(std::string of, QCollatorSortKey sortKey)
+        : name(std::move(of)), key(std::move(sortKey)) {}
+    std::string name;
+    QCollatorSortKey key;
 };
 
-std::vector<Entry> gathered(const std::vector<MySingleFolderPtr> &folders) {
+/// An item to be sorted.
+struct DisplayOrder::Candidate {
+    const MySinglePicPtr *pic;
+    std::uint32_t folderIndex;
+    std::int64_t formerPosition;
+    NameKeyPtr nameKey;
+};
+
+/// The sort keys but for the name, small enough to be moved about.
+struct DisplayOrder::Entry {
+    Date date;
+    std::int64_t category = 0; ///< rank of the folder
+    std::uint32_t sessionUniqueId = 0;
+    std::uint32_t candidate = 0;
+
+    bool operator<(const Entry &other) const {
+        if (date != other.date)
+            return date < other.date;
+        if (category != other.category)
+            return category < other.category;
+        return sessionUniqueId < other.sessionUniqueId;
+    }
+};
+
+DisplayOrder::DisplayOrder() = default;
+DisplayOrder::~DisplayOrder() = default;
+
+std::optional<std::size_t> DisplayOrder::positionOf(const MySinglePic &pic) const {
+    const auto position = static_cast<std::size_t>(pic.positions.indexInSource_full);
+    if (position < m_pics.size() && m_pics[position].get() == &pic)
+        return position;
+    return std::nullopt;
+}
+
+std::vector<DisplayOrder::Candidate> DisplayOrder::gathered() {
+    std::vector<Candidate> candidates;
     std::size_t count = 0;
-    for (const MySingleFolderPtr &folder : folders)
+    for (const MySingleFolderPtr &folder : m_folders)
         count += folder->sfPicDetails_fullArray.size();
-    std::vector<Entry> entries;
-    entries.reserve(count);
-    for (std::size_t index = 0; index < folders.size(); ++index)
-        for (const MySinglePicPtr &pic : folders[index]->sfPicDetails_fullArray)
-            entries.push_back(
-                {pic->spDateTimeModified_sort(), folders[index]->folderSortGeneral, index, &pic});
-    return entries;
+    candidates.reserve(count);
+    for (std::size_t index = 0; index < m_folders.size(); ++index)
+        for (const MySinglePicPtr &pic : m_folders[index]->sfPicDetails_fullArray) {
+            const auto position = positionOf(*pic);
+            candidates.push_back({&pic, static_cast<std::uint32_t>(index),
+                                  position ? static_cast<std::int64_t>(*position) : -1,
+                                  position ? std::move(m_nameKeys[*position]) : NameKeyPtr()});
+        }
+    return candidates;
 }
 
-/// Display order but for the names.
-bool isBefore(const Entry &a, const Entry &b) {
-    return std::tuple(a.date, a.category, (*a.pic)->sessionUniqueId) <
-           std::tuple(b.date, b.category, (*b.pic)->sessionUniqueId);
-}
-
-/// Puts items of one date in the natural order of their names; alike names keep their order.
-void sortByName(std::span<Entry> tied, const NaturalCompare &order) {
-    struct Keyed {
-        QCollatorSortKey key;
-        Entry entry;
-    };
-    std::vector<Keyed> keyed;
-    keyed.reserve(tied.size());
-    for (const Entry &entry : tied)
-        keyed.push_back({order.sortKey((*entry.pic)->spSortNameCachedErrorOrReal()), entry});
-    std::ranges::stable_sort(
-        keyed, [](const Keyed &a, const Keyed &b) { return a.key.compare(b.key) < 0; });
-    std::ranges::transform(keyed, tied.begin(), &Keyed::entry);
+const DisplayOrder::NameKey &DisplayOrder::nameKeyOf(Candidate &candidate) const {
+    const std::string &name = (*candidate.pic)->spSortNameCachedErrorOrReal();
+    if (!candidate.nameKey || candidate.nameKey->name != name)
+        candidate.nameKey = std::make_unique<NameKey>(name, m_naturalOrder.sortKey(name));
+    return *candidate.nameKey;
 }
 
 /// Natural order is by far the most expensive of the keys, so it is asked only where dates tie.
-void sortForDisplay(std::vector<Entry> &entries) {
-    std::ranges::sort(entries, isBefore);
-    const NaturalCompare order;
+void DisplayOrder::sortTiesByName(std::vector<Entry> &entries,
+                                  std::vector<Candidate> &candidates) const {
+    std::vector<std::pair<const QCollatorSortKey *, Entry>> tied;
     for (auto begin = entries.begin(); begin != entries.end();) {
-        const auto end = std::find_if(
-            begin, entries.end(), [&](const Entry &entry) { return entry.date != begin->date; });
-        if (end - begin > 1)
-            sortByName({begin, end}, order);
+        const auto end = std::find_if(begin + 1, entries.end(), [&](const Entry &entry) {
+            return entry.date != begin->date;
+        });
+        if (end - begin > 1) {
+            tied.clear();
+            for (auto entry = begin; entry != end; ++entry)
+                tied.emplace_back(&nameKeyOf(candidates[entry->candidate]).key, *entry);
+            std::ranges::sort(tied, [](const auto &a, const auto &b) {
+                const int order = a.first->compare(*b.first);
+                return order != 0 ? order < 0 : a.second < b.second;
+            });
+            std::ranges::transform(tied, begin, [](const auto &pair) { return pair.second; });
+        }
         begin = end;
     }
 }
 
-} // namespace
+/// Makes the sorted items the list, and numbers them.
+void DisplayOrder::takeOver(const std::vector<Entry> &entries, std::vector<Candidate> &candidates) {
+    std::vector<MySinglePicPtr> former = std::exchange(m_pics, {});
+    m_pics.reserve(entries.size());
+    m_folderIndices.clear();
+    m_nameKeys.clear();
+    std::vector<std::int64_t> nextInFolder(m_folders.size());
+    for (const Entry &entry : entries) {
+        Candidate &candidate = candidates[entry.candidate];
+        m_pics.push_back(takenFrom(former, candidate.formerPosition, *candidate.pic));
+        m_folderIndices.push_back(candidate.folderIndex);
+        m_nameKeys.push_back(std::move(candidate.nameKey));
+        ListPositions &positions = m_pics.back()->positions;
+        positions.indexInSource_full = static_cast<std::int64_t>(m_pics.size()) - 1;
+        positions.indexInFolder_full = nextInFolder[candidate.folderIndex]++;
+    }
+    for (const MySinglePicPtr &gone : former)
+        if (gone)
+            gone->positions = {};
+}
 
-std::vector<MySinglePicPtr> sortedForDisplay(const std::vector<MySingleFolderPtr> &folders) {
-    std::vector<Entry> entries = gathered(folders);
-    sortForDisplay(entries);
-    std::vector<MySinglePicPtr> sorted;
-    sorted.reserve(entries.size());
-    std::ranges::transform(entries, std::back_inserter(sorted),
-                           [](const Entry &entry) { return *entry.pic; });
-    return sorted;
+void DisplayOrder::sort(const std::vector<MySingleFolderPtr> &folders) {
+    m_folders = folders;
+    std::vector<Candidate> candidates = gathered();
+    std::vector<Entry> entries;
+    entries.reserve(candidates.size());
+    for (const Candidate &candidate : candidates) {
+        const MySinglePic &pic = **candidate.pic;
+        entries.push_back({pic.spDateTimeModified_sort(),
+                           m_folders[candidate.folderIndex]->folderSortGeneral, pic.sessionUniqueId,
+                           static_cast<std::uint32_t>(entries.size())});
+    }
+    std::ranges::sort(entries, std::less<>());
+    sortTiesByName(entries, candidates);
+    takeOver(entries, candidates);
+}
+
+MySinglePicPtr takenFrom(std::vector<MySinglePicPtr> &givenUp, std::int64_t index,
+                         const MySinglePicPtr &pic) {
+    const auto position = static_cast<std::size_t>(index);
+    if (position < givenUp.size() && givenUp[position] == pic)
+        return std::move(givenUp[position]);
+    return pic;
 }
 
 } // namespace chronomender

@@ -21,6 +21,8 @@ public:
 
     /// Where the item is shown now; none when no view shows it.
     virtual std::optional<FocusPlace> focusPlace(const MySinglePic &) const { return std::nullopt; }
+    /// The item that stays in place while nothing is selected; null when no view shows one.
+    virtual MySinglePicPtr picToKeepFocusedDuringFilterAction() const { return nullptr; }
     /// The list or the shelf was replaced or renumbered: draw again.
     virtual void sourceChanged() {}
     /// The list is the same: only what stands beside the thumbnails is out of date.
