@@ -2,21 +2,14 @@
 #include "PredicateRewriting.h"
 
 #include "FilterKeys.h"
+#include "FilterRows.h"
 
 #include <algorithm>
-#include <array>
 
 namespace chronomender {
 namespace {
 
 constexpr ComparisonFlags kOfRows{.ignoresCase = true, .ignoresDiacritics = true};
-
-/// A row's key as it is shown, and the one that it runs by.
-struct RowKeys {
-    std::string_view shown, running;
-};
-constexpr std::array<RowKeys, 2> kRowKeys{
-    {{"spName", "spDisplayName"}, {"pivMakeModel", "filter_pivMakeModel"}}};
 
 template<class Rewrite>
 void rewriteEach(Predicate &predicate, Rewrite rewrite) {
@@ -55,9 +48,10 @@ void optimize(Comparison &comparison) {
             ask(comparison, "filter_miscState_" + std::to_string(static_cast<int>(*number)));
         return;
     }
-    const auto found = std::ranges::find(kRowKeys, comparison.key, &RowKeys::shown);
-    if (found != kRowKeys.end() && comparison.flags == kOfRows)
-        comparison.key = found->running;
+    const auto found =
+        std::ranges::find(kFilterRowTemplates, comparison.key, &FilterRowTemplate::shownKey);
+    if (found != kFilterRowTemplates.end() && comparison.flags == kOfRows)
+        comparison.key = found->runningKey;
 }
 
 void complete(Comparison &comparison) {
@@ -84,20 +78,15 @@ Predicate completeFilterPredicate(Predicate predicate) {
 }
 
 Predicate emptyPredicate() {
-    Predicate row{Predicate::Kind::Comparison,
-                  {"spName", PredicateOperator::Contains, kOfRows, std::string()},
-                  {}};
-    return {Predicate::Kind::And, {}, {std::move(row)}};
+    return {Predicate::Kind::And, {}, {rowPredicate(FilterRowKind::Filename, {std::string()})}};
 }
 
 Predicate ratingPredicate(RatingFilter filter) {
     const bool isKeepers = filter == RatingFilter::Keepers;
-    return {Predicate::Kind::Comparison,
-            {"filter_rating",
-             isKeepers ? PredicateOperator::Equal : PredicateOperator::NotEqual,
-             {},
-             isKeepers ? 1.0 : -1.0},
-            {}};
+    Comparison comparison{"filter_rating", PredicateOperator::Equal, {}, isKeepers ? 1.0 : -1.0};
+    if (!isKeepers)
+        comparison.comparison = PredicateOperator::NotEqual;
+    return {Predicate::Kind::Comparison, std::move(comparison), {}};
 }
 
 Predicate combined(RatingFilter filter, std::optional<Predicate> predicate) {
@@ -105,6 +94,10 @@ Predicate combined(RatingFilter filter, std::optional<Predicate> predicate) {
     if (!predicate)
         return rating;
     return {Predicate::Kind::And, {}, {std::move(rating), *std::move(predicate)}};
+}
+
+bool hasKey(const Predicate &predicate, std::string_view key) {
+    return isTrueOfAny(predicate, [&](const std::string &each) { return each == key; });
 }
 
 bool mentions(const Predicate &predicate, std::string_view key) {

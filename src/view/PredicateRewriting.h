@@ -34,6 +34,8 @@ Predicate ratingPredicate(RatingFilter filter);
 /// The rating filter in front of a predicate, or alone.
 Predicate combined(RatingFilter filter, std::optional<Predicate> predicate);
 
+/// Some comparison is of this key.
+bool hasKey(const Predicate &predicate, std::string_view key);
 /// Some key of the predicate has this text in its name.
 bool mentions(const Predicate &predicate, std::string_view key);
 /// Some row is about the rating.
