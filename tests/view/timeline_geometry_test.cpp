@@ -9,9 +9,6 @@
 
 namespace chronomender {
 
-void PrintTo(const DragTarget &target, std::ostream *out) {
-    *out << "type " << static_cast<int>(target.dragType) << " at " << target.index;
-}
 void PrintTo(const IndexRange &range, std::ostream *out) {
     *out << range.begin << ".." << range.end;
 }
@@ -30,13 +27,11 @@ TEST(TimelineGeometry, RectanglesStandWhereTheFormulaPutsThem) {
         std::int64_t index;
         float offset;
         StripRect expected;
-    } rows[] = {
-        {geometry, 0, 0, {20, 20, 136, 136}},
-        {geometry, 2, 40, {308, 60, 136, 136}},
-        {other, 1, 0, {123.5F, 23.5F, 113, 113}},
-        {geometry, -1, 0, nothing},
-        {geometry, 3, 0, nothing},
-    };
+    } rows[] = {{geometry, 0, 0, {20, 20, 136, 136}},
+                {geometry, 2, 40, {308, 60, 136, 136}},
+                {other, 1, 0, {123.5F, 23.5F, 113, 113}},
+                {geometry, -1, 0, nothing},
+                {geometry, 3, 0, nothing}};
     for (const auto &row : rows) {
         const StripRect rect = row.strip.thumbRectCalculatedAtIndex(row.index, 3, row.offset);
         EXPECT_EQ(rect, row.expected) << rect.x << ' ' << rect.y << ' ' << rect.width;
@@ -83,21 +78,20 @@ TEST(TimelineGeometry, OnAVeryLongStripEveryPlaceOnAThumbnailStillFindsIt) {
         }
 }
 
+// The frame of a thumbnail shows 4 pixels before it does.
 TEST(TimelineGeometry, TheVisibleRangeIsWhatTouchesTheView) {
     const struct {
         double extended, moved, scrollX, width;
         IndexRange expected, trueRange;
-    } rows[] = {
-        {0, 0, 0, 24, {0, 1}, {0, 0}}, // only the frame of the first
-        {0, 0, 0, 25, {0, 1}, {0, 1}},
-        {0, 0, 152, 16, {0, 2}, {1, 1}},
-        {0, 0, 151, 18, {0, 2}, {0, 2}},
-        {144, 0, 144 * 5 + 24, 128, {4, 7}, {5, 6}},
-        {0, 288, 144 * 5, 144, {6, 8}, {4, 6}},
-        {0, 0, 144 * 98, 9999, {97, 100}, {97, 100}},
-        {0, 0, 99999, 50, {100, 100}, {100, 100}},
-        {0, -99999, 0, 50, {0, 0}, {0, 1}},
-    };
+    } rows[] = {{0, 0, 0, 24, {0, 1}, {0, 0}},
+                {0, 0, 0, 25, {0, 1}, {0, 1}},
+                {0, 0, 152, 16, {0, 2}, {1, 1}},
+                {0, 0, 151, 18, {0, 2}, {0, 2}},
+                {144, 0, 144 * 5 + 24, 128, {4, 7}, {5, 6}},
+                {0, 288, 144 * 5, 144, {6, 8}, {4, 6}},
+                {0, 0, 144 * 98, 9999, {97, 100}, {97, 100}},
+                {0, 0, 99999, 50, {100, 100}, {100, 100}},
+                {0, -99999, 0, 50, {0, 0}, {0, 1}}};
     for (const auto &row : rows) {
         EXPECT_EQ(geometry.visibleThumbsRangeExtendedBy(row.extended, row.moved, row.scrollX,
                                                         row.width, 100),
@@ -119,38 +113,26 @@ TEST(TimelineGeometry, ScrollsToAPlaceWithinTheStrip) {
 }
 
 TEST(DragZones, EachPartOfACellIsATargetOfItsOwn) {
-    using enum DragType;
-    const TimelineGeometry small{.thumbSize = 48, .borderMarginHorizontal = 8};
-    const struct {
-        const TimelineGeometry &strip;
-        float percent; // of the whole row of cells, 100 for each
-        DragTarget expected;
-    } rows[] = {
-        {geometry, -500, {OuterEdge, 0}},
-        {geometry, 14, {OuterEdge, 0}},
-        {geometry, 16, {SecondBefore, 0}},
-        {geometry, 29, {SecondBefore, 0}},
-        {geometry, 31, {Onto, 0}},
-        {geometry, 69, {Onto, 0}},
-        {geometry, 71, {SecondAfter, 0}},
-        {geometry, 84, {SecondAfter, 0}},
-        {geometry, 86, {Between, 1}},
-        {geometry, 114, {Between, 1}},
-        {geometry, 116, {SecondBefore, 1}},
-        {geometry, 284, {SecondAfter, 2}},
-        {geometry, 286, {OuterEdge, 3}},
-        {geometry, 9999, {OuterEdge, 3}},
-        {small, 119, {Between, 1}},
-        {small, 121, {SecondBefore, 1}},
-        {small, 131, {Onto, 1}},
-        {small, 179, {SecondAfter, 1}},
+    // The targets of three cells and of the places beside them, looked at every 5 percent.
+    const auto targets = [](const TimelineGeometry &strip) {
+        std::string types, last;
+        for (float percent = -97.5F; percent < 400; percent += 5) {
+            const float x =
+                strip.borderMarginHorizontal - 0.5F * strip.gap + percent / 100 * strip.cellWidth();
+            const DragTarget target = dragTargetAtHorizontalMouseLocation(strip, x, 3);
+            const std::string name = std::to_string(static_cast<int>(target.dragType)) + '@' +
+                                     std::to_string(target.index);
+            types += name == last ? "." : (types.empty() ? "" : " ") + name;
+            last = name;
+        }
+        return types;
     };
-    for (const auto &row : rows) {
-        const float x = row.strip.borderMarginHorizontal - 0.5F * row.strip.gap +
-                        row.percent / 100 * row.strip.cellWidth();
-        EXPECT_EQ(dragTargetAtHorizontalMouseLocation(row.strip, x, 3), row.expected)
-            << row.percent;
-    }
+    EXPECT_EQ(targets(geometry), "1@0...................... 2@0.. 5@0....... 3@0.. 4@1..... "
+                                 "2@1.. 5@1....... 3@1.. 4@2..... 2@2.. 5@2....... 3@2.. "
+                                 "1@3......................");
+    EXPECT_EQ(targets({.thumbSize = 48, .borderMarginHorizontal = 8}),
+              "1@0....................... 2@0. 5@0....... 3@0. 4@1....... 2@1. 5@1....... 3@1. "
+              "4@2....... 2@2. 5@2....... 3@2. 1@3.......................");
     EXPECT_EQ(dragTargetAtHorizontalMouseLocation(geometry, 50, 0), DragTarget{});
 }
 

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "LittleItem.h"
+#include "LittleTimelines.h"
 #include "Marking.h"
-#include "MyTimelinesController.h"
 #include "RectangleSelection.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <sstream>
 
 namespace chronomender {
@@ -14,129 +12,19 @@ namespace {
 
 using namespace little;
 
-/// Ten items "a" to "j" in this order, in two folders by turns, and a list that is built of them in
-/// the plainest way.
-class Timelines : public testing::Test {
-protected:
-    Timelines() {
-        for (std::int64_t index = 0; index < 10; ++index) {
-            const std::string name(1, static_cast<char>('a' + index));
-            all.push_back(addItem(index % 2 ? nikon : canon, SpTypeExifOriginal,
-                                  utc(2024, 5, 1) + absl::Hours(index), name));
-            all.back()->positions.indexInSource_full = index;
-        }
-        rebuild();
-    }
-    void rebuild() {
-        std::vector<MySinglePicPtr> list, shelf;
-        for (const MySinglePicPtr &pic : all)
-            if (hidden.find(pic->spName) == std::string::npos)
-                (timelines.source_allShelfs().contains(pic) ? shelf : list).push_back(pic);
-        timelines.refreshShelfsAfterSourceUpdate(shelf, [this](const MySinglePic &pic) {
-            return std::ranges::any_of(all, [&](const auto &each) { return each.get() == &pic; });
-        });
-        timelines.setSource_filtered(list, false);
-    }
-    MySinglePicPtr pic(char name) const {
-        const auto found = std::ranges::find(all, std::string(1, name), &MySinglePic::spName);
-        return found == all.end() ? nullptr : *found;
-    }
-    /// Each word is a sign and a name: "c" clicks, "+c" adds, "-c" removes, ">c" selects the run
-    /// to it, "=c" makes it the main item. A sign alone: "!" inverts, "*" all, "0" none, "h" hides.
-    void act(const std::string &words, TimelineStrip &strip) {
-        std::istringstream stream(words);
-        for (std::string word; stream >> word;)
-            act(word.front(), pic(word.back()), strip);
-    }
-    void act(const std::string &words) { act(words, timelines.mainTimeline()); }
+class TimelineSelection : public testing::Test, protected Timelines {};
 
-    /// The selected items in order, the main one in upper case.
-    static std::string selected(const TimelineStrip &strip) {
-        std::string names;
-        for (const MySinglePicPtr &each : sortedThumbsArray(strip.selection.pics()))
-            names += each == strip.selection.picSelection
-                         ? static_cast<char>(std::toupper(each->spName[0]))
-                         : each->spName[0];
-        return names;
-    }
-    std::string selected() { return selected(timelines.mainTimeline()); }
-    static std::string names(const std::vector<MySinglePicPtr> &list) {
-        std::string names;
-        for (const MySinglePicPtr &each : list)
-            names += each->spName;
-        return names;
-    }
-    /// "main list selection|second list selection", the strip with the focus in brackets.
-    std::string state() {
-        std::string text;
-        for (TimelineStrip *strip : timelines.visibleTimelines()) {
-            const bool hasFocus = strip == &timelines.focusedTimeline();
-            const std::string kind = strip->kind == TimelineKind::Mirror ? "mirror " : "";
-            text += (text.empty() ? "" : "|") + kind + names(strip->theSource) + ' ' +
-                    (hasFocus ? '[' + selected(*strip) + ']' : selected(*strip));
-        }
-        return text;
-    }
-
-    const MySingleFolderPtr canon = makeFolder(), nikon = makeFolder();
-    std::vector<MySinglePicPtr> all;
-    std::string hidden;
-    UndoManager undo;
-    MyTimelinesController timelines{undo, [this] { rebuild(); }};
-
-private:
-    void act(char sign, const MySinglePicPtr &pic, TimelineStrip &strip) {
-        switch (sign) {
-        case '+':
-            return timelines.multiSelectionAdd(pic, strip);
-        case '-':
-            return timelines.multiSelectionRemove(pic, strip);
-        case '>':
-            return timelines.multiSelectAllFrom(pic, strip);
-        case '=':
-            return timelines.changeMainSelectionTo(pic, strip);
-        case '!':
-            return timelines.invertSelection(strip);
-        case '*':
-            return timelines.selectAll(strip);
-        case '0':
-            return timelines.deselectAll(strip);
-        default:
-            timelines.simpleSelectThumb(pic, strip);
-        }
-    }
-};
-
-TEST_F(Timelines, EachWayOfSelectingBuildsOnTheLast) {
-    const struct {
-        const char *actions, *expected;
-    } rows[] = {
-        {"c", "C"},
-        {"c z", ""}, // a place without an item
-        {"c +f +d", "cDf"},
-        {"+f", "F"},
-        {"c >f", "cdeF"},
-        {"f >c", "Cdef"},
-        {"c >e >c", "Cde"},
-        {"b +e >g", "befG"}, // a run joins what is selected, from the main item
-        {">d", "D"},
-        {"b >h =d -d", "bcEfgh"}, // of two neighbours the later one is next
-        {"b +c +h =h -h", "bC"},
-        {"b +c -c", "B"},
-        {"b +c -b", "C"},
-        {"b -b", ""},
-        {"b -c", "B"},
-        {"b +d =e", "E"},
-        {"b >d !", "aEfghij"},
-        {"* !", ""},
-        {"0 !", "Abcdefghij"},
-        {"d * >b", "aBcdefghij"},
-        {"d * 0", ""},
-    };
-    for (const auto &row : rows) {
-        act("0");
-        act(row.actions);
-        EXPECT_EQ(selected(), row.expected) << row.actions;
+// A run joins what is selected; of two neighbours of a main item that goes the later one is next.
+TEST_F(TimelineSelection, EachWayOfSelectingBuildsOnTheLast) {
+    std::istringstream rows(
+        "c: C;c z: ;c +f +d: cDf;+f: F;c >f: cdeF;f >c: Cdef;c >e >c: Cde;"
+        "b +e >g: befG;>d: D;b >h =d -d: bcEfgh;b +c +h =h -h: bC;b +c -c: B;"
+        "b +c -b: C;b -b: ;b -c: B;b +d =e: E;b >d !: aEfghij;* !: ;0 !: Abcdefghij;"
+        "d * >b: aBcdefghij;d * 0: ;");
+    for (std::string row; std::getline(rows, row, ';');) {
+        const std::size_t colon = row.find(':');
+        act("0 " + row.substr(0, colon));
+        EXPECT_EQ(selected(), row.substr(colon + 2)) << row;
         EXPECT_NE(timelines.mainTimeline().selection.multiSelectionNEW.size(), 1U);
     }
     act("c");
@@ -144,7 +32,7 @@ TEST_F(Timelines, EachWayOfSelectingBuildsOnTheLast) {
     EXPECT_EQ(selected(), "aCegi");
 }
 
-TEST_F(Timelines, AHiddenSelectionComesBackWithoutWhatLeftUnlessSomethingElseIsSelected) {
+TEST_F(TimelineSelection, AHiddenSelectionComesBackWithoutWhatLeftUnlessSomethingElseIsSelected) {
     TimelineStrip &strip = timelines.mainTimeline();
     act("b >e");
     timelines.hideSelection(strip);
@@ -159,7 +47,7 @@ TEST_F(Timelines, AHiddenSelectionComesBackWithoutWhatLeftUnlessSomethingElseIsS
     EXPECT_EQ(selected(), "I");
 }
 
-TEST_F(Timelines, RunsNeighboursAndMarkedItemsAreFoundOnTheStripAsItIs) {
+TEST_F(TimelineSelection, RunsNeighboursAndMarkedItemsAreFoundOnTheStripAsItIs) {
     TimelineStrip &strip = timelines.mainTimeline();
     hidden = "d";
     rebuild();
@@ -193,7 +81,7 @@ TEST_F(Timelines, RunsNeighboursAndMarkedItemsAreFoundOnTheStripAsItIs) {
     EXPECT_EQ(selectNextMarked(strip, Mark::Rejected, WalkDirection::Forward), nullptr);
 }
 
-TEST_F(Timelines, ARectangleIsHeldAgainstTheSelectionOfItsStart) {
+TEST_F(TimelineSelection, ARectangleIsHeldAgainstTheSelectionOfItsStart) {
     using enum RectangleMode;
     TimelineStrip &strip = timelines.mainTimeline(); // frames from 20 to 156, every 144
     const struct {
@@ -201,17 +89,15 @@ TEST_F(Timelines, ARectangleIsHeldAgainstTheSelectionOfItsStart) {
         StripPoint start;
         std::vector<StripPoint> moves;
         const char *expected;
-    } rows[] = {
-        {Replace, {500, 100}, {{700, 100}}, "dE"},
-        {Replace, {500, 100}, {{10, 10}}, "abCd"}, // the old main item stays it
-        {Replace, {500, 100}, {{1400, 100}, {500, 100}}, "D"},
-        {Replace, {0, 0}, {{1400, 19}}, ""},     // above the thumbnails
-        {Replace, {160, 100}, {{162, 150}}, ""}, // in a gap
-        {Extend, {10, 10}, {{1400, 100}, {30, 30}}, "aCf"},
-        {Extend, {10, 10}, {{15, 15}}, "Cf"},
-        {Toggle, {10, 10}, {{500, 100}}, "abDf"},
-        {Toggle, {10, 10}, {{500, 100}, {11, 11}}, "Cf"},
-    };
+    } rows[] = {{Replace, {500, 100}, {{700, 100}}, "dE"},
+                {Replace, {500, 100}, {{10, 10}}, "abCd"},
+                {Replace, {500, 100}, {{1400, 100}, {500, 100}}, "D"},
+                {Replace, {0, 0}, {{1400, 19}}, ""},
+                {Replace, {160, 100}, {{162, 150}}, ""},
+                {Extend, {10, 10}, {{1400, 100}, {30, 30}}, "aCf"},
+                {Extend, {10, 10}, {{15, 15}}, "Cf"},
+                {Toggle, {10, 10}, {{500, 100}}, "abDf"},
+                {Toggle, {10, 10}, {{500, 100}, {11, 11}}, "Cf"}};
     for (const auto &row : rows) {
         act("f +c");
         RectangleSelection rectangle(strip, row.start, row.mode);
@@ -228,7 +114,7 @@ TEST_F(Timelines, ARectangleIsHeldAgainstTheSelectionOfItsStart) {
     EXPECT_EQ(high.updateSelectionInRect(strip).count(), 0U) << "all are of the enlarged category";
 }
 
-TEST_F(Timelines, AMirrorShowsTheSameListAndNeverSelectsTheSameItem) {
+TEST_F(TimelineSelection, AMirrorShowsTheSameListAndNeverSelectsTheSameItem) {
     act("b >d");
     timelines.addTimelineOfMode(TimelineKind::Mirror, true);
     EXPECT_EQ(state(), "abcdefghij |mirror abcdefghij [bcD]");
@@ -244,7 +130,7 @@ TEST_F(Timelines, AMirrorShowsTheSameListAndNeverSelectsTheSameItem) {
     EXPECT_FALSE(undo.canUndo());
 }
 
-TEST_F(Timelines, ItemsMoveToTheShelfAndBackAndEveryStepIsTakenBackInTurn) {
+TEST_F(TimelineSelection, ItemsMoveToTheShelfAndBackAndEveryStepIsTakenBackInTurn) {
     std::vector<std::string> states;
     const auto expectState = [&](const std::string &expected, const char *actionName) {
         EXPECT_EQ(state(), expected);
@@ -283,7 +169,7 @@ TEST_F(Timelines, ItemsMoveToTheShelfAndBackAndEveryStepIsTakenBackInTurn) {
     }
 }
 
-TEST_F(Timelines, AShelfThatWasEmptiedClosedOrBecameAMirrorComesBackByUndo) {
+TEST_F(TimelineSelection, AShelfThatWasEmptiedClosedOrBecameAMirrorComesBackByUndo) {
     timelines.addTimelineOfMode(TimelineKind::Shelf, false);
     EXPECT_EQ(state(), "abcdefghij []| ");
     timelines.addSelectionFromToShelf(timelines.mainTimeline(), true);
@@ -306,7 +192,7 @@ TEST_F(Timelines, AShelfThatWasEmptiedClosedOrBecameAMirrorComesBackByUndo) {
     EXPECT_EQ(state(), "abcdefgij |h [H]");
 }
 
-TEST_F(Timelines, WhatLeavesTheSessionLeavesTheShelfAndNoUndoBringsItBack) {
+TEST_F(TimelineSelection, WhatLeavesTheSessionLeavesTheShelfAndNoUndoBringsItBack) {
     act("b >d");
     timelines.addTimelineOfMode(TimelineKind::Shelf, true);
     EXPECT_EQ(state(), "aefghij |bcd [bcD]");
@@ -327,7 +213,7 @@ TEST_F(Timelines, WhatLeavesTheSessionLeavesTheShelfAndNoUndoBringsItBack) {
     EXPECT_FALSE(timelines.hasShelf());
 }
 
-TEST_F(Timelines, AMarkExcludesTheOtherAndOneUndoGivesEveryItemItsOwnBack) {
+TEST_F(TimelineSelection, AMarkExcludesTheOtherAndOneUndoGivesEveryItemItsOwnBack) {
     int changes = 0;
     Marking marking(undo, [&](std::string_view key) { changes += key == "filter_rating"; });
     const auto marks = [&] {
