@@ -6,13 +6,13 @@ namespace {
 
 constexpr std::string_view ratingKey = "filter_rating";
 
-constexpr const char *actionName(Mark mark) {
-    switch (mark) {
-    case Mark::Keeper:
+constexpr const char *actionName(Rating rating) {
+    switch (rating) {
+    case Rating::Keeper:
         return "mark_keeper";
-    case Mark::Rejected:
+    case Rating::Rejected:
         return "mark_rejected";
-    case Mark::None:
+    case Rating::None:
         break;
     }
     return "mark_none";
@@ -24,8 +24,8 @@ Marking::Marking(UndoManager &undo,
                  std::function<void(std::string_view)> filterRelevantChangeWasMade)
     : m_undo(undo), m_filterRelevantChangeWasMade(std::move(filterRelevantChangeWasMade)) {}
 
-std::size_t Marking::setMark(const std::vector<MySinglePicPtr> &pics, Mark mark) {
-    const bool isKeeper = mark == Mark::Keeper, isRejected = mark == Mark::Rejected;
+std::size_t Marking::setRating(const std::vector<MySinglePicPtr> &pics, Rating rating) {
+    const bool isKeeper = rating == Rating::Keeper, isRejected = rating == Rating::Rejected;
     PicSet seen;
     std::vector<MarkedPic> changing;
     for (const MySinglePicPtr &pic : pics) {
@@ -40,7 +40,7 @@ std::size_t Marking::setMark(const std::vector<MySinglePicPtr> &pics, Mark mark)
         return 0;
     const UndoGroup group(m_undo);
     apply(changing);
-    m_undo.setActionName(actionName(mark));
+    m_undo.setActionName(actionName(rating));
     return changing.size();
 }
 

@@ -23,7 +23,7 @@ public:
     Marking &operator=(const Marking &) = delete;
 
     /// One undoable step for all of them; none where nothing changes. Returns how many changed.
-    std::size_t setMark(const std::vector<MySinglePicPtr> &pics, Mark mark);
+    std::size_t setRating(const std::vector<MySinglePicPtr> &pics, Rating rating);
 
 private:
     struct MarkedPic {

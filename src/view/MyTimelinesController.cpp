@@ -45,17 +45,14 @@ void MyTimelinesController::setSource_filtered(std::vector<MySinglePicPtr> list,
         m_second->theSource = m_main.theSource;
     else if (m_shelf.empty())
         m_second->theSource.clear();
-    m_second->selection = remainingSelection(*m_second, m_second->selection);
     settleScroll(*m_second, withFullRefresh);
 }
 
 void MyTimelinesController::refreshShelfsAfterSourceUpdate(
     std::vector<MySinglePicPtr> visible, const std::function<bool(const MySinglePic &)> &isListed) {
     std::erase_if(m_shelf, [&](const MySinglePicPtr &pic) { return !isListed(*pic); });
-    if (!hasShelf())
-        return;
-    m_second->theSource = std::move(visible);
-    m_second->selection = remainingSelection(*m_second, m_second->selection);
+    if (hasShelf())
+        m_second->theSource = std::move(visible);
 }
 
 void MyTimelinesController::setSelection(PicSelection selection, TimelineStrip &from) {

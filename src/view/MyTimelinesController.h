@@ -43,9 +43,9 @@ public:
     const std::vector<MySinglePicPtr> &source_filtered() const { return m_main.theSource; }
     /// All items on shelves, be they hidden by a filter or not.
     const PicSet &source_allShelfs() const { return m_shelf; }
-    /// The new list of the main strip and its mirror, after the items were numbered. The main
-    /// strip's selection is left to the caller. With a full refresh a live list is dropped and the
-    /// strips start at their left edge.
+    /// The new list of the main strip and its mirror, after the items were numbered. Selections are
+    /// left to the caller. With a full refresh a live list is dropped and the strips start at their
+    /// left edge.
     void setSource_filtered(std::vector<MySinglePicPtr> list, bool withFullRefresh);
     /// The shelf shows `visible`, its items in order without those that filters hide. Items that
     /// left the session (`isListed` says no) leave the shelf.

@@ -159,14 +159,17 @@ bool isDragAdjacentInMulti(const TimelineStrip &strip) {
            populateStartRangesFor(strip, strip.selection.multiSelectionNEW).size() == 1;
 }
 
-Mark markOf(const MySinglePic &pic) {
-    return pic.marks.isRejected ? Mark::Rejected : pic.marks.isKeeper ? Mark::Keeper : Mark::None;
+Rating ratingOf(const MySinglePic &pic) {
+    return pic.marks.isRejected ? Rating::Rejected
+           : pic.marks.isKeeper ? Rating::Keeper
+                                : Rating::None;
 }
 
-MySinglePicPtr selectNextMarked(const TimelineStrip &strip, Mark mark, WalkDirection direction) {
+MySinglePicPtr selectNextMarked(const TimelineStrip &strip, Rating rating,
+                                WalkDirection direction) {
     std::vector<MySinglePicPtr> marked;
     std::ranges::copy_if(strip.theSource, std::back_inserter(marked),
-                         [mark](const MySinglePicPtr &pic) { return markOf(*pic) == mark; });
+                         [rating](const MySinglePicPtr &pic) { return ratingOf(*pic) == rating; });
     return selectNextThumbFromSortedTargetArray(strip, marked, direction);
 }
 

@@ -48,12 +48,12 @@ std::vector<IndexRange> populateStartRangesFor(const TimelineStrip &strip, const
 /// Several items are selected and stand side by side, so that they are dragged as one.
 bool isDragAdjacentInMulti(const TimelineStrip &strip);
 
-enum class Mark : std::uint8_t { None, Keeper, Rejected };
+enum class Rating : std::uint8_t { None, Keeper, Rejected };
 enum class WalkDirection : bool { Forward, Backward };
-Mark markOf(const MySinglePic &pic);
+Rating ratingOf(const MySinglePic &pic);
 /// The next item with this mark from the main item on, over the end to the start again; null
 /// without another one.
-MySinglePicPtr selectNextMarked(const TimelineStrip &strip, Mark mark, WalkDirection direction);
+MySinglePicPtr selectNextMarked(const TimelineStrip &strip, Rating rating, WalkDirection direction);
 /// The same among targets, which are sorted in source order.
 MySinglePicPtr selectNextThumbFromSortedTargetArray(const TimelineStrip &strip,
                                                     const std::vector<MySinglePicPtr> &targets,

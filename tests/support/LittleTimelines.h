@@ -2,7 +2,7 @@
 #pragma once
 
 #include "LittleItem.h"
-#include "MyTimelinesController.h"
+#include "SourceBuilder.h"
 
 #include <algorithm>
 #include <map>
@@ -10,28 +10,33 @@
 
 namespace chronomender::little {
 
-/// Ten items "a" to "j" in this order, in two folders by turns, and a list that is built of them in
-/// the plainest way.
+/// Ten items "a" to "j" in this order, in two folders by turns, and the visible list of them.
 class Timelines {
 public:
     Timelines() {
-        for (std::int64_t index = 0; index < 10; ++index) {
-            const std::string name(1, static_cast<char>('a' + index));
+        for (const MySingleFolderPtr &folder : {canon, nikon})
+            folders.append(folder);
+        for (int index = 0; index < 10; ++index)
             all.push_back(addItem(index % 2 ? nikon : canon, SpTypeExifOriginal,
-                                  utc(2024, 5, 1) + absl::Hours(index), name));
-            all.back()->positions.indexInSource_full = index;
-        }
+                                  utc(2024, 5, 1, index),
+                                  std::string(1, static_cast<char>('a' + index))));
         rebuild();
     }
     void rebuild() {
-        std::vector<MySinglePicPtr> list, shelf;
-        for (const MySinglePicPtr &pic : all)
-            if (hidden.find(pic->spName) == std::string::npos)
-                (timelines.source_allShelfs().contains(pic) ? shelf : list).push_back(pic);
-        timelines.refreshShelfsAfterSourceUpdate(shelf, [this](const MySinglePic &pic) {
-            return std::ranges::any_of(all, [&](const auto &each) { return each.get() == &pic; });
-        });
-        timelines.setSource_filtered(list, false);
+        builder.buildNewSourceWithNewSelectionOption(NewSelection::Choose, Refilter::FullBuild);
+    }
+    /// A filter hides the items of these names; "" for no filter.
+    void hide(const std::string &names) {
+        shown = names.empty() ? PicSet() : PicSet(all.begin(), all.end());
+        for (const char name : names)
+            shown.erase(pic(name));
+        rebuild();
+    }
+    /// The item leaves the session.
+    void remove(char name) {
+        for (const MySingleFolderPtr &folder : {canon, nikon})
+            std::erase(folder->sfPicDetails_fullArray, pic(name));
+        rebuild();
     }
     MySinglePicPtr pic(char name) const {
         const auto found = std::ranges::find(all, std::string(1, name), &MySinglePic::spName);
@@ -76,11 +81,17 @@ public:
 
     const MySingleFolderPtr canon = makeFolder(), nikon = makeFolder();
     std::vector<MySinglePicPtr> all;
-    std::string hidden;
     UndoManager undo;
     MyTimelinesController timelines{undo, [this] { rebuild(); }};
 
 private:
+    MyDroppedFolders folders;
+    PicSet shown;
+    SourceViews views;
+    SourceBuilder builder{folders, timelines, views, [this] {
+                              return SourceRestrictions{nullptr, &shown, {}, nullptr};
+                          }};
+
     void act(char sign, const MySinglePicPtr &pic, TimelineStrip &strip) {
         using Controller = MyTimelinesController;
         static const std::map<char, void (Controller::*)(TimelineStrip &)> ofAll{
