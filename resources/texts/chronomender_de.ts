@@ -72,6 +72,9 @@
     <message id="cli_align_nothingWritten">
         <translation>Es wurde nichts geschrieben. --save schreibt dies.</translation>
     </message>
+    <message id="cli_drag_standsAlready">
+        <translation>Die Aufnahme steht schon dort; es bewegt sich nichts.</translation>
+    </message>
     <message id="cli_emptyTagsLeftAlone">
         <translation>%1 Dateien haben leere Zeitfelder und bleiben, wie sie sind. --empty-tags sagt, was sie bedeuten sollen.</translation>
     </message>
@@ -105,6 +108,24 @@
     <message id="cli_error_badSlot">
         <translation>%1 ist keine Zeit zum Übernehmen. Möglich sind %2.</translation>
     </message>
+    <message id="cli_error_betweenNeedsTwo">
+        <translation>--between braucht zwei Aufnahmen: --between NAME NAME.</translation>
+    </message>
+    <message id="cli_error_dragNoDate">
+        <translation>%1 hat keine Zeit, nach der sich eine andere richten könnte.</translation>
+    </message>
+    <message id="cli_error_dragNotMovable">
+        <translation>%1 hat keine Zeit, die korrigiert werden könnte.</translation>
+    </message>
+    <message id="cli_error_dragOutOfBounds">
+        <translation>Das Ziehen würde eine Zeit aus den Jahren 1 bis 4999 schieben. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message id="cli_error_dragTwice">
+        <translation>%1 meint eine schon genannte Aufnahme: Was gezogen wird und seine Ziele sind verschiedene Aufnahmen.</translation>
+    </message>
+    <message id="cli_error_dragWithoutPic">
+        <translation>Geben Sie an, was gezogen wird: --pic NAME.</translation>
+    </message>
     <message id="cli_error_emptyPath">
         <translation>Ein leerer Text ist kein Pfad.</translation>
     </message>
@@ -131,6 +152,9 @@
     </message>
     <message id="cli_error_noAlignment">
         <translation>Geben Sie an, wie ausgerichtet wird: --gaps, --pack, --by-name, --reverse, --mirror oder --copy SLOT.</translation>
+    </message>
+    <message id="cli_error_noDragTarget">
+        <translation>Geben Sie an, wohin: --between NAME NAME, --before NAME, --after NAME oder --onto NAME.</translation>
     </message>
     <message id="cli_error_noPaths">
         <translation>Mindestens ein Ordner oder eine Datei muss angegeben sein.</translation>
@@ -171,6 +195,9 @@
     <message id="cli_error_settingNotAllowed">
         <translation>Die Einstellung %1 kann nicht %2 sein; möglich ist %3.</translation>
     </message>
+    <message id="cli_error_severalDragged">
+        <translation>Mehrere Aufnahmen lassen sich nur zwischen zwei andere ziehen: --between NAME NAME.</translation>
+    </message>
     <message id="cli_error_severalPics">
         <translation>%1 steht in mehreren Ordnern. Schreiben Sie %2.</translation>
     </message>
@@ -179,6 +206,9 @@
     </message>
     <message id="cli_error_twoAlignments">
         <translation>Nur eine Ausrichtung auf einmal: eins von --gaps, --pack, --by-name, --reverse, --mirror und --copy.</translation>
+    </message>
+    <message id="cli_error_twoDragTargets">
+        <translation>Nur ein Ziel auf einmal: eins von --between, --before, --after und --onto.</translation>
     </message>
     <message id="cli_error_twoFilters">
         <translation>%1 hat --filter-ext und --filter-ext-not. Nur eines davon kann angegeben werden.</translation>
@@ -198,6 +228,9 @@
     <message id="cli_help_accept">
         <translation>Speichern, obwohl es dieses Bedenken gibt</translation>
     </message>
+    <message id="cli_help_after">
+        <translation>Eine Sekunde hinter diese Aufnahme</translation>
+    </message>
     <message id="cli_help_align">
         <translation>Bringt eine Auswahl in Ordnung und zeigt, was gespeichert würde</translation>
     </message>
@@ -208,13 +241,19 @@ Beispiele:
   mend align --copy file-modification --pics all --folder scans --save</translation>
     </message>
     <message id="cli_help_alignSave">
-        <translation>Speichert die Ausrichtung mit allen anderen Korrekturen; sonst wird nichts geschrieben</translation>
+        <translation>Speichert dies mit allen anderen Korrekturen; sonst wird nichts geschrieben</translation>
     </message>
     <message id="cli_help_all">
         <translation>Auch Dateien ohne Korrektur schreiben</translation>
     </message>
     <message id="cli_help_alternative">
         <translation>Eine Datei des Ordners, deren Zeit zweimal vorkommt: Sie gilt als die frühere von beiden</translation>
+    </message>
+    <message id="cli_help_before">
+        <translation>Eine Sekunde vor diese Aufnahme</translation>
+    </message>
+    <message id="cli_help_between">
+        <translation>In die Mitte zweier Zeiten; mehrere Aufnahmen werden in gleichen Schritten dazwischen verteilt</translation>
     </message>
     <message id="cli_help_byName">
         <translation>Vergibt die Zeiten der Auswahl in der Folge der Namen</translation>
@@ -224,6 +263,18 @@ Beispiele:
     </message>
     <message id="cli_help_dateSequence">
         <translation>Gibt den Bildern aller Ordner ein Datum nach dem anderen, in der Folge ihrer Namen: das erste Datum und den Schritt STEP (Sekunden oder H:MM:SS) zum nächsten</translation>
+    </message>
+    <message id="cli_help_drag">
+        <translation>Einer Aufnahme eine Zeit nach ihrem Platz zwischen anderen geben und zeigen, was ein Speichern schreiben würde</translation>
+    </message>
+    <message id="cli_help_drag_footer">
+        <translation>Genau eins von --between, --before, --after und --onto wird angegeben.
+Beispiele:
+  mend drag canon nikon --pic DSC_0007.JPG --between IMG_0010.JPG IMG_0011.JPG
+  mend drag canon scans --pic scans/01.tif --after canon/IMG_0010.JPG --save</translation>
+    </message>
+    <message id="cli_help_dragPic">
+        <translation>Die Aufnahme, die gezogen wird: ein Name, oder ORDNER/NAME oder ein Pfad, wo ein Name in mehreren Ordnern steht; mit --between mehrmals möglich</translation>
     </message>
     <message id="cli_help_dryRun">
         <translation>Jede Zeit alt und neu zeigen und nichts schreiben</translation>
@@ -292,6 +343,9 @@ Beispiele:
     </message>
     <message id="cli_help_movieDate">
         <translation>Welches Datum eines Films zählt: mdta, das seiner Metadaten, wo es eines gibt (Voreinstellung), oder mvhd, das seines Kopfs</translation>
+    </message>
+    <message id="cli_help_onto">
+        <translation>Auf die Zeit dieser Aufnahme</translation>
     </message>
     <message id="cli_help_pack">
         <translation>Rückt die Auswahl um ihre Hauptaufnahme zusammen, je eine Sekunde auseinander</translation>

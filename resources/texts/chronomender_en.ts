@@ -72,6 +72,9 @@
     <message id="cli_align_nothingWritten">
         <translation>Nothing was written. --save writes this.</translation>
     </message>
+    <message id="cli_drag_standsAlready">
+        <translation>The item stands there already; nothing moves.</translation>
+    </message>
     <message id="cli_emptyTagsLeftAlone">
         <translation>%1 files have empty date tags and are left alone. --empty-tags says what they are to mean.</translation>
     </message>
@@ -105,6 +108,24 @@
     <message id="cli_error_badSlot">
         <translation>%1 is no date to copy. Give one of %2.</translation>
     </message>
+    <message id="cli_error_betweenNeedsTwo">
+        <translation>--between needs two items: --between NAME NAME.</translation>
+    </message>
+    <message id="cli_error_dragNoDate">
+        <translation>%1 has no date that another could be given by.</translation>
+    </message>
+    <message id="cli_error_dragNotMovable">
+        <translation>%1 has no date that could be corrected.</translation>
+    </message>
+    <message id="cli_error_dragOutOfBounds">
+        <translation>The drag would move a date out of the years 1 to 4999. Nothing was written.</translation>
+    </message>
+    <message id="cli_error_dragTwice">
+        <translation>%1 means an item that is named already: what is dragged and its targets are different items.</translation>
+    </message>
+    <message id="cli_error_dragWithoutPic">
+        <translation>Say what to drag: --pic NAME.</translation>
+    </message>
     <message id="cli_error_emptyPath">
         <translation>An empty text is no path.</translation>
     </message>
@@ -131,6 +152,9 @@
     </message>
     <message id="cli_error_noAlignment">
         <translation>Say how to align: --gaps, --pack, --by-name, --reverse, --mirror or --copy SLOT.</translation>
+    </message>
+    <message id="cli_error_noDragTarget">
+        <translation>Say where to drag it: --between NAME NAME, --before NAME, --after NAME or --onto NAME.</translation>
     </message>
     <message id="cli_error_noPaths">
         <translation>Name at least one folder or file.</translation>
@@ -171,6 +195,9 @@
     <message id="cli_error_settingNotAllowed">
         <translation>The preference %1 cannot be %2; it accepts %3.</translation>
     </message>
+    <message id="cli_error_severalDragged">
+        <translation>Several items can only be dragged between two others: --between NAME NAME.</translation>
+    </message>
     <message id="cli_error_severalPics">
         <translation>%1 stands in several folders. Write one of %2.</translation>
     </message>
@@ -179,6 +206,9 @@
     </message>
     <message id="cli_error_twoAlignments">
         <translation>Only one alignment at a time: one of --gaps, --pack, --by-name, --reverse, --mirror and --copy.</translation>
+    </message>
+    <message id="cli_error_twoDragTargets">
+        <translation>Only one target at a time: one of --between, --before, --after and --onto.</translation>
     </message>
     <message id="cli_error_twoFilters">
         <translation>%1 has --filter-ext and --filter-ext-not. Give one of them.</translation>
@@ -198,6 +228,9 @@
     <message id="cli_help_accept">
         <translation>Save although this problem was found</translation>
     </message>
+    <message id="cli_help_after">
+        <translation>One second after this item</translation>
+    </message>
     <message id="cli_help_align">
         <translation>Put a selection in order and show what a save would write</translation>
     </message>
@@ -208,13 +241,19 @@ Examples:
   mend align --copy file-modification --pics all --folder scans --save</translation>
     </message>
     <message id="cli_help_alignSave">
-        <translation>Save the alignment with all other corrections; without it nothing is written</translation>
+        <translation>Save this with all other corrections; without it nothing is written</translation>
     </message>
     <message id="cli_help_all">
         <translation>Write files without a correction as well</translation>
     </message>
     <message id="cli_help_alternative">
         <translation>A file of the folder whose date happens twice: it is read as the earlier of the two</translation>
+    </message>
+    <message id="cli_help_before">
+        <translation>One second before this item</translation>
+    </message>
+    <message id="cli_help_between">
+        <translation>To the middle of two dates; several items are spread between them in equal steps</translation>
     </message>
     <message id="cli_help_byName">
         <translation>Give the dates of the selection out in the order of the names</translation>
@@ -224,6 +263,18 @@ Examples:
     </message>
     <message id="cli_help_dateSequence">
         <translation>Gives the items of all folders one date after the other, in the order of their names: the first date, and the STEP (seconds or H:MM:SS) to the next</translation>
+    </message>
+    <message id="cli_help_drag">
+        <translation>Give an item a date by its place between others and show what a save would write</translation>
+    </message>
+    <message id="cli_help_drag_footer">
+        <translation>Exactly one of --between, --before, --after and --onto is given.
+Examples:
+  mend drag canon nikon --pic DSC_0007.JPG --between IMG_0010.JPG IMG_0011.JPG
+  mend drag canon scans --pic scans/01.tif --after canon/IMG_0010.JPG --save</translation>
+    </message>
+    <message id="cli_help_dragPic">
+        <translation>The item to be dragged: a name, or FOLDER/NAME or a path where a name stands in several folders; with --between it may be repeated</translation>
     </message>
     <message id="cli_help_dryRun">
         <translation>Show every date old and new, and write nothing</translation>
@@ -292,6 +343,9 @@ Examples:
     </message>
     <message id="cli_help_movieDate">
         <translation>Which of a movie’s dates counts: mdta, that of its metadata where there is one (default), or mvhd, that of its header</translation>
+    </message>
+    <message id="cli_help_onto">
+        <translation>To the very date of this item</translation>
     </message>
     <message id="cli_help_pack">
         <translation>Pack the selection around its main item, one second apart</translation>

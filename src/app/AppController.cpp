@@ -99,6 +99,10 @@ DateChangeOutcome AppController::commitDateDrag(DateDrag &drag) {
     return outcome;
 }
 
+DateChangeOutcome AppController::dropByOrder(const DropByOrder &drop) {
+    return chronomender::dropByOrder(drop, m_undo);
+}
+
 DateChangeOutcome AppController::shiftFolder(MySingleFolder &folder, absl::Duration totalShift) {
     return dragChangedDates(totalShift, folder, m_undo);
 }

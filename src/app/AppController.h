@@ -5,6 +5,7 @@
 #include "AlternativeReading.h"
 #include "Cancellation.h"
 #include "DateDrag.h"
+#include "DropByOrder.h"
 #include "ErrorLog.h"
 #include "FileLayer.h"
 #include "FilterSourceController.h"
@@ -100,6 +101,10 @@ public:
     std::unique_ptr<DateDrag> beginDateDrag(const MySinglePicPtr &dragged, TimelineStrip &strip);
     /// Ends it, with its dates, and builds the list again.
     DateChangeOutcome commitDateDrag(DateDrag &drag);
+
+    /// Gives items dates by those of others; see chronomender::dropByOrder. The list is to be built
+    /// again.
+    DateChangeOutcome dropByOrder(const DropByOrder &drop);
 
     DateChangeOutcome shiftFolder(MySingleFolder &folder, absl::Duration totalShift);
     DateChangeOutcome shiftItems(const std::vector<MySinglePicPtr> &items,

@@ -131,6 +131,18 @@ const BlockCollector::RunHandler BlockCollector::runHandlers[] = {
      [](BlockCollector &c, const std::string &value) { c.m_line.align.pics.push_back(value); }},
     {OptionId::Main,
      [](BlockCollector &c, const std::string &value) { c.m_line.align.mainPic = value; }},
+    {OptionId::Dragged, [](BlockCollector &c, const std::string &value) { c.addDragged(value); }},
+    {OptionId::Between,
+     [](BlockCollector &c,
+        const std::string &value) { c.addDragTarget(DragType::Between, value); }},
+    {OptionId::Before,
+     [](BlockCollector &c,
+        const std::string &value) { c.addDragTarget(DragType::SecondBefore, value); }},
+    {OptionId::After,
+     [](BlockCollector &c,
+        const std::string &value) { c.addDragTarget(DragType::SecondAfter, value); }},
+    {OptionId::Onto,
+     [](BlockCollector &c, const std::string &value) { c.addDragTarget(DragType::Onto, value); }},
     {OptionId::SyncXmp,
      [](BlockCollector &c,
         const std::string &) { c.m_line.settings.emplace_back("syncXMPDataOnSave", "1"); }},
@@ -139,10 +151,10 @@ const BlockCollector::RunHandler BlockCollector::runHandlers[] = {
     {OptionId::Save, [](BlockCollector &c, const std::string &) { c.m_line.isDryRun = false; }},
 };
 
-/// An alignment is only shown until it is to be saved.
+/// An alignment or a drag is only shown until it is to be saved.
 BlockCollector::BlockCollector(Command command) {
     m_line.command = command;
-    m_line.isDryRun = command == Command::Align;
+    m_line.isDryRun = command == Command::Align || command == Command::Drag;
 }
 
 void BlockCollector::fail(std::string message) {
@@ -172,6 +184,7 @@ void BlockCollector::openBlock(const std::string &path, bool isPlain) {
     m_line.blocks.push_back({});
     m_line.blocks.back().path = path;
     m_line.blocks.back().isPlain = isPlain;
+    m_takesFolderOptions = !isPlain;
     if (path.empty())
         fail(text("cli_error_emptyPath"));
 }
@@ -182,6 +195,8 @@ void BlockCollector::finish() {
         fail(text("cli_error_noPaths"));
     if (m_line.command == Command::Align)
         checkAlignment();
+    if (m_line.command == Command::Drag)
+        checkDrag();
 }
 
 void BlockCollector::checkAlignment() {
@@ -192,6 +207,34 @@ void BlockCollector::checkAlignment() {
         fail(text("cli_error_alignWithoutPics"));
     else if (wish.mainPic && wish.command != AlignCommand::MinimizingGaps)
         fail(text("cli_error_mainWithoutPack"));
+}
+
+/// A correction behind it could be meant for the item alone, and must not move its whole folder.
+void BlockCollector::addDragged(const std::string &name) {
+    m_line.drag.pics.push_back(name);
+    m_takesFolderOptions = false;
+}
+
+void BlockCollector::addDragTarget(DragType dragType, const std::string &name) {
+    DragWish &wish = m_line.drag;
+    const std::size_t most = dragType == DragType::Between ? 2 : 1;
+    const bool isSame = wish.dragType == DragType::None || wish.dragType == dragType;
+    if (!isSame || wish.targets.size() == most)
+        fail(text("cli_error_twoDragTargets"));
+    wish.dragType = dragType;
+    wish.targets.push_back(name);
+}
+
+void BlockCollector::checkDrag() {
+    const DragWish &wish = m_line.drag;
+    if (wish.pics.empty())
+        fail(text("cli_error_dragWithoutPic"));
+    else if (wish.dragType == DragType::None)
+        fail(text("cli_error_noDragTarget"));
+    else if (wish.dragType == DragType::Between && wish.targets.size() != 2)
+        fail(text("cli_error_betweenNeedsTwo"));
+    else if (wish.pics.size() > 1 && wish.dragType != DragType::Between)
+        fail(text("cli_error_severalDragged"));
 }
 
 void BlockCollector::addAlignment(AlignCommand command) {
@@ -258,7 +301,7 @@ void BlockCollector::addAccepted(const std::string &value) {
 }
 
 void BlockCollector::addToBlock(const BlockHandler &handler, const Typed &typed) {
-    if (m_line.blocks.empty() || m_line.blocks.back().isPlain)
+    if (!m_takesFolderOptions)
         fail(text("cli_error_optionWithoutFolder", {typed.name}));
     else
         handler.take(*this, m_line.blocks.back(), typed);

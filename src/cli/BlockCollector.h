@@ -54,6 +54,9 @@ private:
     void addAlignment(AlignCommand command);
     void addCopy(const std::string &slot);
     void checkAlignment();
+    void addDragTarget(DragType dragType, const std::string &name);
+    void addDragged(const std::string &name);
+    void checkDrag();
     template<class Value>
     void setOnce(const std::string &owner, std::optional<Value> &place, const Typed &typed,
                  std::optional<Value> value, const char *complaintKey);
@@ -62,6 +65,7 @@ private:
     void closePic();
 
     CommandLine m_line;
+    bool m_takesFolderOptions = false; ///< of the block that was opened last
     std::optional<std::string> m_error;
 };
 

@@ -28,6 +28,7 @@ constexpr CommandDescription commandTable[]{
     {Command::Info, "info", "cli_help_info", "cli_help_info_footer"},
     {Command::Save, "save", "cli_help_save", "cli_help_save_footer"},
     {Command::Align, "align", "cli_help_align", "cli_help_align_footer"},
+    {Command::Drag, "drag", "cli_help_drag", "cli_help_drag_footer"},
     {Command::Resume, "resume", "cli_help_resume", "cli_help_resume_footer"},
 };
 
@@ -38,14 +39,16 @@ const OptionDescription *findOption(const std::string &name) {
     return nullptr;
 }
 
-bool takesNextArgument(const std::string &argument) {
+/// Arguments that belong to an option whatever they look like.
+std::size_t argumentsTaken(const std::string &argument) {
     const OptionDescription *option = findOption(argument);
-    return argument == "--language" || (option && *option->valueName);
+    const bool takesOne = argument == "--language" || (option && *option->valueName);
+    return option && option->values == Values::Two ? 2 : takesOne ? 1 : 0;
 }
 
 bool takesAllNextArguments(const std::string &argument) {
     const OptionDescription *option = findOption(argument);
-    return option && option->takesSeveral;
+    return option && option->values == Values::Several;
 }
 
 /// The library reads a plain argument in brackets as a list of values; "./[a]" names the same file.
@@ -54,8 +57,8 @@ void shieldBrackets(std::vector<std::string> &arguments) {
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (arguments[i].starts_with('-'))
             isPlain = !takesAllNextArguments(arguments[i]);
-        if (takesNextArgument(arguments[i]))
-            ++i;
+        if (const std::size_t taken = argumentsTaken(arguments[i]))
+            i += taken;
         else if (isPlain && arguments[i].starts_with('['))
             arguments[i].insert(0, "./");
     }
@@ -115,10 +118,12 @@ private:
         if (*description.valueName) {
             option = m_app->add_option(description.name, m_values[&description],
                                        text(description.textKey));
-            option->expected(1, description.takesSeveral ? -1 : 1);
+            const bool takesSeveral = description.values == Values::Several;
+            const int fewest = description.values == Values::Two ? 2 : 1;
+            option->expected(fewest, takesSeveral ? -1 : fewest);
             option->type_name(description.valueName);
             option->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-                ->allow_extra_args(description.takesSeveral);
+                ->allow_extra_args(takesSeveral);
         } else {
             const std::string help = text(description.textKey);
             option = m_app->add_flag(description.name, help);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Alignment.h"
+#include "DragDates.h"
 #include "SaveErrors.h"
 #include "ShiftSpec.h"
 
@@ -56,7 +57,14 @@ struct AlignWish {
     std::optional<std::string> mainPic; ///< likewise; none: the first of the selection
 };
 
-enum class Command : std::uint8_t { List, Info, Save, Align, Resume };
+/// What `mend drag` is to do. Names are names, FOLDER/NAME or paths.
+struct DragWish {
+    std::vector<std::string> pics;
+    DragType dragType = DragType::None;
+    std::vector<std::string> targets; ///< two with Between, else one
+};
+
+enum class Command : std::uint8_t { List, Info, Save, Align, Drag, Resume };
 
 /// What the user asked for, checked as far as that goes without looking at the disk.
 struct CommandLine {
@@ -67,6 +75,7 @@ struct CommandLine {
     /// Dates that all items of all folders get, one after the other in the order of their names.
     std::optional<EmptyTagsSpec> dateSequence;
     AlignWish align;
+    DragWish drag;
     bool isJson = false, isDryRun = false, savesAll = false;
     bool acceptsAll = false;
     bool isForgetting = false; ///< (resume) files that cannot be put right are given up

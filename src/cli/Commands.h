@@ -19,6 +19,7 @@ int runList(const CommandLine &line);
 int runInfo(const CommandLine &line);
 int runSave(const CommandLine &line);
 int runAlign(const CommandLine &line);
+int runDrag(const CommandLine &line);
 int runResume(const CommandLine &line);
 
 } // namespace chronomender

@@ -38,10 +38,18 @@ enum class OptionId : std::uint8_t {
     Copy,
     Pics,
     Main,
+    Dragged,
+    Between,
+    Before,
+    After,
+    Onto,
     Save,
     SyncXmp,
     Forget,
 };
+
+/// How many values follow an option: several are all up to the next option.
+enum class Values : std::uint8_t { One, Two, Several };
 
 /// One option of a command: which commands have it, and what it belongs to.
 struct OptionDescription {
@@ -51,7 +59,7 @@ struct OptionDescription {
     const char *textKey;
     bool isOfFolder; ///< belongs to the block that is open, not to the run
     unsigned commands;
-    bool takesSeveral = false; ///< all values up to the next option
+    Values values = Values::One; ///< of an option that is no flag
 };
 
 constexpr unsigned commandBit(Command command) {
@@ -60,13 +68,15 @@ constexpr unsigned commandBit(Command command) {
 inline constexpr unsigned ofInfo = commandBit(Command::Info);
 inline constexpr unsigned ofSave = commandBit(Command::Save);
 inline constexpr unsigned ofAlign = commandBit(Command::Align);
+inline constexpr unsigned ofDrag = commandBit(Command::Drag);
 inline constexpr unsigned ofResume = commandBit(Command::Resume);
-inline constexpr unsigned ofFolders = commandBit(Command::List) | ofInfo | ofSave | ofAlign;
+inline constexpr unsigned ofFolders =
+    commandBit(Command::List) | ofInfo | ofSave | ofAlign | ofDrag;
 
-inline constexpr std::array<OptionDescription, 31> optionTable{{
+inline constexpr std::array<OptionDescription, 36> optionTable{{
     {OptionId::Folder, "--folder", "PATH", "cli_help_folder", true, ofFolders},
     {OptionId::Shift, "--shift", "SPEC", "cli_help_shift", true, ofFolders},
-    {OptionId::Pic, "--pic", "NAME", "cli_help_pic", true, ofFolders},
+    {OptionId::Pic, "--pic", "NAME", "cli_help_pic", true, ofFolders & ~ofDrag},
     {OptionId::SourceZone, "--source-zone", "NAME", "cli_help_sourceZone", true, ofFolders},
     {OptionId::TargetZone, "--target-zone", "NAME|own", "cli_help_targetZone", true, ofFolders},
     {OptionId::Alternative, "--alternative", "NAME", "cli_help_alternative", true, ofFolders},
@@ -84,15 +94,20 @@ inline constexpr std::array<OptionDescription, 31> optionTable{{
     {OptionId::Reverse, "--reverse", "", "cli_help_reverse", false, ofAlign},
     {OptionId::Mirror, "--mirror", "", "cli_help_mirror", false, ofAlign},
     {OptionId::Copy, "--copy", "SLOT", "cli_help_copy", false, ofAlign},
-    {OptionId::Pics, "--pics", "NAME|all", "cli_help_pics", false, ofAlign, true},
+    {OptionId::Pics, "--pics", "NAME|all", "cli_help_pics", false, ofAlign, Values::Several},
     {OptionId::Main, "--main", "NAME", "cli_help_main", false, ofAlign},
-    {OptionId::Save, "--save", "", "cli_help_alignSave", false, ofAlign},
+    {OptionId::Dragged, "--pic", "NAME", "cli_help_dragPic", false, ofDrag},
+    {OptionId::Between, "--between", "NAME", "cli_help_between", false, ofDrag, Values::Two},
+    {OptionId::Before, "--before", "NAME", "cli_help_before", false, ofDrag},
+    {OptionId::After, "--after", "NAME", "cli_help_after", false, ofDrag},
+    {OptionId::Onto, "--onto", "NAME", "cli_help_onto", false, ofDrag},
+    {OptionId::Save, "--save", "", "cli_help_alignSave", false, ofAlign | ofDrag},
     {OptionId::DateSequence, "--date-sequence", "DATE[+STEP]", "cli_help_dateSequence", false,
      ofFolders},
     {OptionId::DryRun, "--dry-run", "", "cli_help_dryRun", false, ofSave},
-    {OptionId::Accept, "--accept", "KEY|all", "cli_help_accept", false, ofSave | ofAlign},
+    {OptionId::Accept, "--accept", "KEY|all", "cli_help_accept", false, ofSave | ofAlign | ofDrag},
     {OptionId::All, "--all", "", "cli_help_all", false, ofSave},
-    {OptionId::SyncXmp, "--sync-xmp", "", "cli_help_syncXmp", false, ofSave | ofAlign},
+    {OptionId::SyncXmp, "--sync-xmp", "", "cli_help_syncXmp", false, ofSave | ofAlign | ofDrag},
     {OptionId::Forget, "--forget", "", "cli_help_forget", false, ofResume},
     {OptionId::Json, "--json", "", "cli_help_json", false, ofFolders | ofResume},
     {OptionId::Set, "--set", "KEY=VALUE", "cli_help_set", false, ofFolders},

@@ -134,8 +134,8 @@ private:
     const char *planEndingKey(int exitCode) const {
         if (exitCode == exitProblems)
             return "cli_save_problemsNothingWritten";
-        return m_session.line().command == Command::Align ? "cli_align_nothingWritten"
-                                                          : "cli_save_dryRunNothingWritten";
+        return m_session.line().command == Command::Save ? "cli_save_dryRunNothingWritten"
+                                                         : "cli_align_nothingWritten";
     }
 
     std::vector<std::string> reportText(const SaveReport &report, Stage stage, int exitCode) const {

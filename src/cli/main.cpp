@@ -21,6 +21,8 @@ int run(const CommandLine &line) {
         return runInfo(line);
     case Command::Align:
         return runAlign(line);
+    case Command::Drag:
+        return runDrag(line);
     case Command::Resume:
         return runResume(line);
     case Command::Save:
