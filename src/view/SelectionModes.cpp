@@ -25,17 +25,6 @@ std::vector<std::int64_t> placesOf(const TimelineStrip &strip, const PicSet &pic
     return places;
 }
 
-/// The nearest of the ascending places, of two the later one; none without a place.
-std::optional<std::int64_t> nearest(const std::vector<std::int64_t> &places, std::int64_t from) {
-    if (places.empty())
-        return std::nullopt;
-    const auto later = std::ranges::lower_bound(places, from);
-    if (later == places.begin())
-        return *later;
-    const std::int64_t earlier = *std::prev(later);
-    return later != places.end() && *later - from <= from - earlier ? *later : earlier;
-}
-
 /// Where the item stands, or would stand by its place in `source_full`.
 std::int64_t placeNear(const TimelineStrip &strip, const MySinglePicPtr &pic) {
     if (!pic)
@@ -46,6 +35,23 @@ std::int64_t placeNear(const TimelineStrip &strip, const MySinglePicPtr &pic) {
            strip.theSource.begin();
 }
 
+/// The wanted item nearest to this place, of two the later one; null without one on the strip.
+/// The unwanted item stands there, or would stand between this place and the one before.
+MySinglePicPtr nearest(const TimelineStrip &strip, std::int64_t from, const PicSet &wanted,
+                       const MySinglePicPtr &unwanted) {
+    const std::int64_t count = std::ssize(strip.theSource);
+    const std::int64_t before = from < count && at(strip, from) == unwanted ? from : from - 1;
+    for (std::int64_t step = 0; step < count; ++step)
+        for (const std::int64_t place : {from + step, before - step}) {
+            if (place < 0 || place >= count)
+                continue;
+            const MySinglePicPtr &pic = at(strip, place);
+            if (pic != unwanted && wanted.contains(pic))
+                return pic;
+        }
+    return nullptr;
+}
+
 } // namespace
 
 PicSelection selectionOf(const TimelineStrip &strip, PicSet pics, const MySinglePicPtr &main) {
@@ -53,7 +59,7 @@ PicSelection selectionOf(const TimelineStrip &strip, PicSet pics, const MySingle
     if (pics.empty())
         return {};
     const bool hasMain = pics.contains(main);
-    PicSelection selection{hasMain ? main : at(strip, placesOf(strip, pics).front()), {}};
+    PicSelection selection{hasMain ? main : nearest(strip, 0, pics, nullptr), {}};
     if (pics.size() > 1)
         selection.multiSelectionNEW = std::move(pics);
     return selection;
@@ -75,11 +81,7 @@ PicSelection remainingSelection(const TimelineStrip &strip, const PicSelection &
 MySinglePicPtr nextMainAfterMultiDeselecting(const TimelineStrip &strip,
                                              const MySinglePicPtr &deselected,
                                              const PicSet &inSelection) {
-    std::vector<std::int64_t> places = placesOf(strip, inSelection);
-    if (const auto own = indexOf(strip, deselected))
-        std::erase(places, *own);
-    const auto next = nearest(places, placeNear(strip, deselected));
-    return next ? at(strip, *next) : nullptr;
+    return nearest(strip, placeNear(strip, deselected), inSelection, deselected);
 }
 
 MySinglePicPtr nextNotSelectedVisibleAfter(const TimelineStrip &strip, const MySinglePicPtr &pic) {

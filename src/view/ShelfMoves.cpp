@@ -154,7 +154,9 @@ MyTimelinesController::ShelfMove MyTimelinesController::shelfMove(PicSet pics, b
 }
 
 void MyTimelinesController::addSelectionFromToShelf(TimelineStrip &from, bool toShelf) {
-    const ShelfMove move = shelfMove(from.selection.pics(), toShelf);
+    PicSet pics = from.selection.pics();
+    std::erase_if(pics, [&](const auto &pic) { return !from.indexOf(*pic); }); // hidden meanwhile
+    const ShelfMove move = shelfMove(std::move(pics), toShelf);
     if (!move.pics.empty())
         addUndoForPicShelfMove(move, toShelf ? toShelfName : fromShelfName);
 }

@@ -6,6 +6,10 @@
 namespace chronomender {
 
 std::optional<std::int64_t> TimelineStrip::indexOf(const MySinglePic &pic) const {
+    const auto index = static_cast<std::size_t>(pic.positions.indexInSource_filtered);
+    if (index < theSource.size() && theSource[index].get() == &pic)
+        return pic.positions.indexInSource_filtered;
+    // On a shelf, and while a build is still to come.
     const auto found = std::ranges::lower_bound(
         theSource, pic.positions.indexInSource_full, {},
         [](const MySinglePicPtr &each) { return each->positions.indexInSource_full; });

@@ -56,6 +56,8 @@ TEST_F(TimelineSelection, RunsNeighboursAndMarkedItemsAreFoundOnTheStripAsItIs) 
     EXPECT_FALSE(isPicAdjacentToPic(strip, *pic('c'), *pic('f')));
     EXPECT_EQ(nextNotSelectedVisibleAfter(strip, pic('c')), pic('g'));
     EXPECT_EQ(nextNotSelectedVisibleAfter(strip, pic('j')), nullptr);
+    EXPECT_EQ(nextMainAfterMultiDeselecting(strip, pic('d'), {pic('c'), pic('f')}), pic('c'));
+    EXPECT_EQ(nextMainAfterMultiDeselecting(strip, pic('d'), {pic('b'), pic('f')}), pic('f'));
     act("+j +i +a");
     EXPECT_FALSE(isDragAdjacentInMulti(strip));
     const PicSet chosen = strip.selection.pics();
