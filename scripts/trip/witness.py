@@ -3,7 +3,8 @@
 
 TRIP holds photos/ (with plan.json, the truth), untouched/ (a copy from before), info.jsonl (where
 the program said that values stand), before.jsonl and after.jsonl (its lists), and the same two of
-the night at home, whose clocks were right. Exit code 1 when anything is not as it should be."""
+the night at home, whose clocks were right; before-drag/ is photos/ as it was before one picture was
+dragged between two others. Exit code 1 when anything is not as it should be."""
 import datetime
 import json
 import pathlib
@@ -91,15 +92,21 @@ def picture_of(path):
     return done.stdout
 
 
-def judge_bytes(trip, files):
-    """Counts files changed in place, bytes changed, bytes changed outside of the recorded values,
-    files that changed in size though they need not, files that ExifTool had to write, and pictures
-    among those that are others now."""
+def value_ranges(trip):
+    """Begin and end of each value of each file, as the program said that they stand."""
     ranges = {}
     for entry in json_lines(trip / "info.jsonl"):
         key = "/".join(pathlib.PurePath(entry["path"]).parts[-2:])
         ranges[key] = [(value["offset"], value["offset"] + value["room"])
                        for value in entry["values"]]
+    return ranges
+
+
+def judge_bytes(trip, files):
+    """Counts files changed in place, bytes changed, bytes changed outside of the recorded values,
+    files that changed in size though they need not, files that ExifTool had to write, and pictures
+    among those that are others now."""
+    ranges = value_ranges(trip)
     changed_files = changed_bytes = strays = resized = rewritten = spoilt = 0
     for file in files:
         old_path, new_path = (trip / state / file["path"] for state in ("untouched", "photos"))
@@ -116,13 +123,30 @@ def judge_bytes(trip, files):
     return changed_files, changed_bytes, strays, resized, rewritten, spoilt
 
 
+def is_same_file(path, other):
+    return (path.stat().st_mtime_ns == other.stat().st_mtime_ns
+            and path.read_bytes() == other.read_bytes())
+
+
 def right_ones_are_untouched(trip, files):
     """Files whose clock was right all the time: the phone's, and those of the night at home."""
-    def seen(path):
-        state = path.stat()
-        return path.read_bytes(), state.st_mtime_ns
     paths = [file["path"] for file in files if file["isAtHome"] or file["path"].startswith("phone/")]
-    return all(seen(trip / "photos" / path) == seen(trip / "untouched" / path) for path in paths)
+    return all(is_same_file(trip / "photos" / path, trip / "untouched" / path) for path in paths)
+
+
+def judge_drag(trip, first, dragged, last):
+    """The dates of three files as ExifTool reads them, in their order; bytes changed in the dragged
+    one outside of its date values; and how many other files are not as they were, times included."""
+    read = read_with_exiftool(trip / "photos", [first, dragged, last])
+    dates = [read[path]["EXIF:DateTimeOriginal"] for path in (first, dragged, last)]
+    old, new = ((trip / state / dragged).read_bytes() for state in ("before-drag", "photos"))
+    places = [at for at, (a, b) in enumerate(zip(old, new)) if a != b]
+    strays = len(stray_places(places, value_ranges(trip)[dragged], new)) + abs(len(old) - len(new))
+    others = [path.relative_to(trip / "photos") for path in (trip / "photos").rglob("*")
+              if path.is_file() and path != trip / "photos" / dragged]
+    changed = sum(not is_same_file(trip / "photos" / path, trip / "before-drag" / path)
+                  for path in others)
+    return dates, strays, changed
 
 
 def main():
@@ -137,6 +161,8 @@ def main():
     night_before = order_faults(night_files, json_lines(trip / "night-before.jsonl"))
     night_after = order_faults(night_files, json_lines(trip / "night-after.jsonl"))
     changed_files, changed_bytes, strays, resized, rewritten, spoilt = judge_bytes(trip, files)
+    dates, drag_strays, drag_changed = judge_drag(trip, "nikon/DSC_0240.JPG", "lent/P0007.JPG",
+                                                  "nikon/DSC_0241.JPG")
     verdicts = [
         (date_faults == 0, f"dates: {len(files) - date_faults} of {len(files)} files hold the true "
                            "time in every stamp and zone stamp that they have"),
@@ -145,6 +171,9 @@ def main():
         (night_before > 0 and night_after == 0,
          f"night: {night_before} of {len(night_files)} shots stood out of place when both times "
          f"were read as the later, {night_after} with the other reading of one"),
+        (dates[0] < dates[1] < dates[2] and drag_strays == 0 and drag_changed == 0,
+         f"drag: {dates[1][11:]} stands between {dates[0][11:]} and {dates[2][11:]}; {drag_strays} "
+         f"bytes differ outside its dates, {drag_changed} other files changed"),
         (changed_files > 0 and strays == 0 and resized == 0,
          f"bytes: {changed_bytes} bytes differ in {changed_files} files, {strays} of them outside "
          f"the date values (and PNG checksums); {resized} files changed in size"),
