@@ -35,19 +35,19 @@ void SelectionMemory::remember(const TimelineStrip &strip, const SourceViews &vi
     const PicSelection &selection = strip.selection;
     if (m_hidden && !areSame(selection, m_standIn))
         m_hidden.reset();
+    m_oldSelection = selection;
     m_oldCurrentIndex = indexOf(selection.picSelection);
     m_focused = selection.picSelection ? selection.picSelection
                                        : views.picToKeepFocusedDuringFilterAction();
     m_place = m_focused ? views.focusPlace(*m_focused) : std::nullopt;
 }
 
-void SelectionMemory::dropWhatIsGone(TimelineStrip &strip,
-                                     const std::vector<MySinglePicPtr> &source_full) {
-    PicSelection &selection = strip.selection;
+void SelectionMemory::dropWhatIsGone(PicSelection &selection,
+                                     const std::vector<MySinglePicPtr> &source_full, Shown where) {
     std::erase_if(selection.multiSelectionNEW, isGone);
     if (isGone(selection.picSelection))
-        selection.picSelection = nearestShownTo(source_full, selection.picSelection,
-                                                selection.multiSelectionNEW, shownOn(strip));
+        selection.picSelection =
+            nearestShownTo(source_full, selection.picSelection, selection.multiSelectionNEW, where);
     if (!selection.picSelection || selection.multiSelectionNEW.size() == 1)
         selection.multiSelectionNEW.clear();
     if (!m_hidden)
@@ -55,15 +55,23 @@ void SelectionMemory::dropWhatIsGone(TimelineStrip &strip,
     std::erase_if(m_hidden->preFilter_multiSelection, isGone);
     if (isGone(m_hidden->preFilter_selection))
         m_hidden.reset();
-    m_standIn = selection;
+}
+
+void SelectionMemory::dropWhatIsGone(TimelineStrip &strip,
+                                     const std::vector<MySinglePicPtr> &source_full) {
+    dropWhatIsGone(strip.selection, source_full, shownOn(strip));
+    m_standIn = strip.selection;
+    m_oldSelection = {};
+    m_focused.reset();
 }
 
 void SelectionMemory::bringThrough(TimelineStrip &strip,
                                    const std::vector<MySinglePicPtr> &source_full,
                                    SourceViews &views) {
-    dropWhatIsGone(strip, source_full);
-    PicSelection &selection = strip.selection;
+    // The strip itself may have let go of what it does not show any more.
+    PicSelection &selection = strip.selection = std::move(m_oldSelection);
     const Shown where = shownOn(strip);
+    dropWhatIsGone(selection, source_full, where);
     if (m_hidden && isShown(*m_hidden->preFilter_selection, where))
         return comeBack(selection, where, views);
     if (isGone(m_focused)) {
@@ -72,14 +80,16 @@ void SelectionMemory::bringThrough(TimelineStrip &strip,
                 static_cast<std::size_t>(m_oldCurrentIndex), strip.theSource.size() - 1)];
         m_focused = selection.picSelection;
     }
-    if (m_focused && isShown(*m_focused, where)) {
+    const bool lacksStandIn = m_hidden && !m_hidden->preFilter_justFocus && !selection.picSelection;
+    if (lacksStandIn || (m_focused && !isShown(*m_focused, where))) {
+        handOver(selection, source_full, where, views);
+    } else if (m_focused) {
         selection.multiSelectionNEW = shownOf(std::move(selection.multiSelectionNEW), where);
         views.focusPic(m_focused, m_place);
-    } else if (m_focused) {
-        handOver(selection, source_full, where, views);
     }
     if (m_hidden)
         m_standIn = selection;
+    m_focused.reset();
 }
 
 void SelectionMemory::comeBack(PicSelection &selection, Shown where, SourceViews &views) {
@@ -99,7 +109,7 @@ void SelectionMemory::handOver(PicSelection &selection,
     MySinglePicPtr next = nearestShownTo(source_full, hidden, selection.multiSelectionNEW, where);
     if (!next || !isShown(*next, where))
         next = nextShownAfter(source_full, hidden, true, where);
-    if (selection.picSelection)
+    if (!m_hidden->preFilter_justFocus)
         selection = {next, std::move(rest)};
     if (next)
         views.focusPic(next, m_place);

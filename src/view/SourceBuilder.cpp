@@ -54,7 +54,7 @@ void SourceBuilder::buildNewSourceWithNewSelectionOption(NewSelection selection,
 
     bool hasIndexChanged = false;
     const std::vector<TimelineStrip *> present = selectableTimelines();
-    for (std::size_t i = 0; i < present.size(); ++i) {
+    for (std::size_t i = 0; i < std::min(strips.size(), present.size()); ++i) {
         SelectionMemory &memory = m_selectionMemory[i];
         if (selection == NewSelection::Choose)
             memory.bringThrough(*present[i], source_full(), m_views);
@@ -64,6 +64,8 @@ void SourceBuilder::buildNewSourceWithNewSelectionOption(NewSelection selection,
     }
     if (present.size() == 1)
         m_selectionMemory[1] = {};
+    else if (selection == NewSelection::Choose)
+        m_timelines.enforceSelectionExclusivityFor(m_timelines.focusedTimeline(), false);
     if (selection == NewSelection::Keep)
         m_views.restoreScrollPosition();
     if (hasIndexChanged)

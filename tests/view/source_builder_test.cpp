@@ -83,7 +83,7 @@ protected:
     UndoManager undo;
     NotingViews views;
     MyDroppedFolders folders;
-    MyTimelinesController timelines{undo, [] {}};
+    MyTimelinesController timelines{undo, [this] { build(); }};
     PicSet shownByMap;
     std::optional<std::vector<MySingleFolderPtr>> openFolders;
     SourceBuilder builder{folders, timelines, views, [this] {
@@ -167,6 +167,33 @@ TEST_F(SourceBuilderTest, WhatARestrictionHidesHasNoPlaceAmongTheVisible) {
     EXPECT_EQ(builder.filteredImagesCount(), 0U);
 }
 
+TEST_F(SourceBuilderTest, AShelfTakesItemsOutOfTheListAndNotOutOfTheFilter) {
+    const auto shot = fiveShots();
+    selection() = {shot[0], {shot[0], shot[2]}};
+    timelines.addTimelineOfMode(TimelineKind::Shelf, false);
+    timelines.addSelectionFromToShelf(timelines.mainTimeline(), true);
+    const auto &shelf = timelines.secondTimeline()->theSource;
+    EXPECT_THAT(shown(), ElementsAre(shot[1], shot[3], shot[4]));
+    EXPECT_THAT(shelf, ElementsAre(shot[0], shot[2]));
+    EXPECT_EQ(builder.filteredImagesCount(), 0U);
+    EXPECT_THAT(placesOf(shot[2]), ElementsAre(2, -1, 1, 1));
+    EXPECT_THAT(placesOf(shot[4]), ElementsAre(4, 2, 2, 2));
+
+    timelines.secondTimeline()->selection = {shot[0], {}};
+    hide({shot[0], shot[1]});
+    EXPECT_THAT(shelf, ElementsAre(shot[2]));
+    EXPECT_THAT(builder.allFilteredImages(), ElementsAre(shot[0], shot[1]));
+    EXPECT_THAT(placesOf(shot[2]), ElementsAre(2, -1, 1, 0));
+    EXPECT_EQ(timelines.secondTimeline()->selection.picSelection, shot[2]);
+    views.changes = 0;
+    hide({shot[1]}); // of the shelf alone
+    EXPECT_EQ(views.changes, 1);
+    EXPECT_EQ(timelines.secondTimeline()->selection.picSelection, shot[0]);
+    std::erase(canon->sfPicDetails_fullArray, shot[0]);
+    build();
+    EXPECT_THAT(timelines.source_allShelfs(), UnorderedElementsAre(shot[2]));
+}
+
 TEST_F(SourceBuilderTest, ArrowKeysKeepTheMembersWhileTheOrderChanges) {
     const auto shot = fiveShots();
     hide({shot[0], shot[3]});
@@ -225,6 +252,8 @@ TEST_F(SourceBuilderTest, AHiddenSelectionReturnsWithItsPlace) {
     EXPECT_EQ(views.indexChanges, 1);
     hide(shot); // an empty list
     EXPECT_EQ(selection().picSelection, nullptr);
+    hide({shot[1]});
+    EXPECT_EQ(selection().picSelection, shot[2]);
     hide({shot[2]});
     EXPECT_EQ(selection().picSelection, shot[1]);
     EXPECT_THAT(selection().multiSelectionNEW, UnorderedElementsAre(shot[0], shot[1]));
