@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DisplayOrder.h"
 
+#include "ItemPrefetch.h"
+
 #include <QCollator>
 
 #include <algorithm>
@@ -51,20 +53,26 @@ std::optional<std::size_t> DisplayOrder::positionOf(const MySinglePic &pic) cons
     return std::nullopt;
 }
 
-std::vector<DisplayOrder::Candidate> DisplayOrder::gathered() {
-    std::vector<Candidate> candidates;
+void DisplayOrder::gather(std::vector<Candidate> &candidates, std::vector<Entry> &entries) {
     std::size_t count = 0;
     for (const MySingleFolderPtr &folder : m_folders)
         count += folder->sfPicDetails_fullArray.size();
     candidates.reserve(count);
-    for (std::size_t index = 0; index < m_folders.size(); ++index)
-        for (const MySinglePicPtr &pic : m_folders[index]->sfPicDetails_fullArray) {
+    entries.reserve(count);
+    for (std::size_t index = 0; index < m_folders.size(); ++index) {
+        const std::vector<MySinglePicPtr> &pics = m_folders[index]->sfPicDetails_fullArray;
+        for (std::size_t i = 0; i < pics.size(); ++i) {
+            prefetchAhead(pics, i);
+            const MySinglePicPtr &pic = pics[i];
+            entries.push_back({pic->spDateTimeModified_sort(), m_folders[index]->folderSortGeneral,
+                               pic->sessionUniqueId,
+                               static_cast<std::uint32_t>(candidates.size())});
             const auto position = positionOf(*pic);
             candidates.push_back({&pic, static_cast<std::uint32_t>(index),
                                   position ? static_cast<std::int64_t>(*position) : -1,
                                   position ? std::move(m_nameKeys[*position]) : NameKeyPtr()});
         }
-    return candidates;
+    }
 }
 
 const DisplayOrder::NameKey &DisplayOrder::nameKeyOf(Candidate &candidate) const {
@@ -79,6 +87,10 @@ void DisplayOrder::sortTiesByName(std::vector<Entry> &entries,
                                   std::vector<Candidate> &candidates) const {
     std::vector<std::pair<const QCollatorSortKey *, Entry>> tied;
     for (auto begin = entries.begin(); begin != entries.end();) {
+        if (entries.end() - begin > std::ptrdiff_t{kPrefetchDistance}) {
+            const Candidate &ahead = candidates[(begin + kPrefetchDistance)->candidate];
+            prefetch(&(*ahead.pic)->spName, ahead.nameKey.get());
+        }
         const auto end = std::find_if(begin + 1, entries.end(), [&](const Entry &entry) {
             return entry.date != begin->date;
         });
@@ -103,13 +115,15 @@ void DisplayOrder::takeOver(const std::vector<Entry> &entries, std::vector<Candi
     m_folderIndices.clear();
     m_nameKeys.clear();
     std::vector<std::int64_t> nextInFolder(m_folders.size());
-    for (const Entry &entry : entries) {
-        Candidate &candidate = candidates[entry.candidate];
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (i + kPrefetchDistance < entries.size())
+            prefetch(&(*candidates[entries[i + kPrefetchDistance].candidate].pic)->positions);
+        Candidate &candidate = candidates[entries[i].candidate];
         m_pics.push_back(takenFrom(former, candidate.formerPosition, *candidate.pic));
         m_folderIndices.push_back(candidate.folderIndex);
         m_nameKeys.push_back(std::move(candidate.nameKey));
         ListPositions &positions = m_pics.back()->positions;
-        positions.indexInSource_full = static_cast<std::int64_t>(m_pics.size()) - 1;
+        positions.indexInSource_full = static_cast<std::int64_t>(i);
         positions.indexInFolder_full = nextInFolder[candidate.folderIndex]++;
     }
     for (const MySinglePicPtr &gone : former)
@@ -119,15 +133,9 @@ void DisplayOrder::takeOver(const std::vector<Entry> &entries, std::vector<Candi
 
 void DisplayOrder::sort(const std::vector<MySingleFolderPtr> &folders) {
     m_folders = folders;
-    std::vector<Candidate> candidates = gathered();
+    std::vector<Candidate> candidates;
     std::vector<Entry> entries;
-    entries.reserve(candidates.size());
-    for (const Candidate &candidate : candidates) {
-        const MySinglePic &pic = **candidate.pic;
-        entries.push_back({pic.spDateTimeModified_sort(),
-                           m_folders[candidate.folderIndex]->folderSortGeneral, pic.sessionUniqueId,
-                           static_cast<std::uint32_t>(entries.size())});
-    }
+    gather(candidates, entries);
     std::ranges::sort(entries, std::less<>());
     sortTiesByName(entries, candidates);
     takeOver(entries, candidates);

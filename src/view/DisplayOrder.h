@@ -36,7 +36,7 @@ private:
     struct Candidate;
     using NameKeyPtr = std::unique_ptr<NameKey>;
 
-    std::vector<Candidate> gathered();
+    void gather(std::vector<Candidate> &candidates, std::vector<Entry> &entries);
     void sortTiesByName(std::vector<Entry> &entries, std::vector<Candidate> &candidates) const;
     const NameKey &nameKeyOf(Candidate &candidate) const;
     void takeOver(const std::vector<Entry> &entries, std::vector<Candidate> &candidates);

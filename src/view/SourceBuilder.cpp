@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SourceBuilder.h"
 
+#include "ItemPrefetch.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -110,6 +112,7 @@ void SourceBuilder::markItems(const SourceRestrictions &restrictions) {
     // Items that move by arrow keys would leave the list under the user's hands.
     const bool keepsMembers = m_views.isArrowsLiveMoveEnabled();
     for (std::size_t i = 0; i < m_marks.size(); ++i) {
+        prefetchAhead(source_full(), i);
         const MySinglePic &pic = *source_full()[i];
         const bool isLetThrough = keepsMembers ? isVisible(pic)
                                                : isOpen[m_order.folderIndexAt(i)] &&
@@ -146,6 +149,8 @@ std::vector<MySinglePicPtr> SourceBuilder::numbered(std::vector<MySinglePicPtr> 
     list.reserve(static_cast<std::size_t>(std::ranges::count_if(m_marks, isOnMainStrip)));
     std::vector<std::int64_t> nextInFolder(m_order.folders().size());
     for (std::size_t i = 0; i < m_marks.size(); ++i) {
+        if (i + kPrefetchDistance < m_marks.size())
+            prefetch(&source_full()[i + kPrefetchDistance]->positions);
         const MySinglePicPtr &pic = source_full()[i];
         ListPositions &positions = pic->positions;
         positions.indexInFolder_filtered =

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "MySinglePic.h"
+
+#include <cstddef>
+#include <span>
+
+namespace chronomender {
+
+// Walking all items is waiting for memory: they are large, and what is asked of each is a few words
+// here and there. So the words of an item are asked for while those before it are at work. What is
+// asked for needlessly costs next to nothing.
+
+/// How far ahead of the item at hand.
+inline constexpr std::size_t kPrefetchDistance = 8;
+
+template<class... Parts>
+void prefetch(const Parts *...parts) {
+    (__builtin_prefetch(parts), ...);
+}
+
+/// What a date, a state or a name is told from, of the item behind the one at `index`.
+inline void prefetchAhead(std::span<const MySinglePicPtr> pics, std::size_t index) {
+    if (pics.size() - index <= kPrefetchDistance)
+        return;
+    const MySinglePic &pic = *pics[index + kPrefetchDistance];
+    // The folder is the item's last member.
+    const std::byte *folder = reinterpret_cast<const std::byte *>(&pic + 1) - 1;
+    prefetch(&pic.spName, &pic.spDateTimeOriginal, &pic.shift, &pic.group, &pic.save,
+             &pic.positions, folder);
+}
+
+} // namespace chronomender
