@@ -66,32 +66,33 @@ struct DateDrag::State {
         return start;
     }
 
-    void moveTo(const DragAim &aim, TimelineStrip &shown) {
+    void moveTo(const DragAim &aim, const TimelineStrip &shown) {
         const std::vector<Date> start = datesAtStart();
         dates = dragDates(aim, start, mainIndex, folder ? DragUnit::WholeFolder : DragUnit::Items);
         mainMove = dates[mainIndex] - start[mainIndex];
-        if (!shown.tempSource)
-            shown.tempSource.emplace();
-        order->arrange(dates, *shown.tempSource);
+        order->arrange(dates);
+        for (TimelineStrip *each : timelines.visibleTimelinesOfSameTypeLike(shown)) {
+            if (!each->tempSource)
+                each->tempSource.emplace();
+            order->copyTo(*each->tempSource);
+        }
     }
 
     void putBack() {
         dates.clear();
         mainMove = absl::ZeroDuration();
-        if (TimelineStrip *shown = shownStrip())
-            shown->tempSource.reset();
+        for (TimelineStrip *each : timelines.visibleTimelines())
+            each->tempSource.reset();
     }
 
-    /// Place in the list without the drag.
+    /// Place in the list without the drag. None as well while a list built anew waits to be taken.
     std::optional<std::size_t> position(const MySinglePic &pic) const {
-        const auto &list = order->list();
-        const auto known = static_cast<std::size_t>(pic.positions.indexInSource_filtered);
-        if (known < list.size() && list[known].get() == &pic)
-            return known;
-        const auto found = std::ranges::find(list, &pic, &MySinglePicPtr::get);
-        if (found == list.end())
+        const TimelineStrip *shown = shownStrip();
+        const auto index = shown ? shown->indexOf(pic) : std::nullopt;
+        const auto position = static_cast<std::size_t>(index.value_or(-1));
+        if (position >= order->list().size() || order->list()[position].get() != &pic)
             return std::nullopt;
-        return static_cast<std::size_t>(found - list.begin());
+        return position;
     }
 
     Date date(const MySinglePic &pic) const {

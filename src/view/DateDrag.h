@@ -11,7 +11,8 @@
 namespace chronomender {
 
 /// A drag under way: where the dragged items would come to stand in time, and the list as it would
-/// be then. Nothing is changed before `commit`; until then the strip shows `tempSource`.
+/// be then. Nothing is changed before `commit`; until then the strip, and one that shows the same
+/// list, show it as `tempSource`.
 ///
 /// The main item's folder says what moves. In together mode it is the whole folder, by one shift,
 /// be its items on the strip or not. In single mode it is the selected items by themselves: those

@@ -12,14 +12,14 @@ constexpr const char *itemChangeName = "dragInSingleMode";
 
 DateChangeOutcome dragChangedDates(absl::Duration totalShift, MySingleFolder &folder,
                                    UndoManager &undo) {
-    if (totalShift == absl::ZeroDuration())
-        folder.tempHasChangedDirection = false;
     const absl::Duration oldShift = folder.sfDateModificationsTimeInterval;
     const bool oldDirection = folder.hasChangedDirection;
+    if (totalShift != oldShift && !staysInsideBounds(folder, totalShift))
+        return DateChangeOutcome::RefusedOutOfBounds;
+    if (totalShift == absl::ZeroDuration())
+        folder.tempHasChangedDirection = false;
     if (totalShift == oldShift && folder.tempHasChangedDirection == oldDirection)
         return DateChangeOutcome::NothingChanged;
-    if (!staysInsideBounds(folder, totalShift))
-        return DateChangeOutcome::RefusedOutOfBounds;
 
     setSfDateModificationsFromTimeInterval(folder, totalShift, folder.tempHasChangedDirection);
     const UndoGroup group(undo);

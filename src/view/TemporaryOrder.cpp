@@ -67,17 +67,12 @@ std::vector<TemporaryOrder::Moved> TemporaryOrder::inOrder(const std::vector<Dat
     return moved;
 }
 
-void TemporaryOrder::arrange(const std::vector<Date> &dates,
-                             std::vector<MySinglePicPtr> &arranged) {
-    if (arranged.size() != m_list.size())
-        arranged = m_list;
+void TemporaryOrder::arrange(const std::vector<Date> &dates) {
+    m_arranged.clear();
     m_arrangedIndex.resize(m_list.size());
-    std::size_t next = 0;
     const auto put = [&](std::size_t position) {
-        // Counting references of items that stay in their place would cost more than the merge.
-        if (arranged[next] != m_list[position])
-            arranged[next] = m_list[position];
-        m_arrangedIndex[position] = static_cast<std::int64_t>(next++);
+        m_arrangedIndex[position] = static_cast<std::int64_t>(m_arranged.size());
+        m_arranged.push_back(position);
     };
     auto staying = m_staying.begin();
     for (const Moved &each : inOrder(dates)) {
@@ -86,6 +81,15 @@ void TemporaryOrder::arrange(const std::vector<Date> &dates,
         put(each.position);
     }
     std::for_each(staying, m_staying.end(), put);
+}
+
+void TemporaryOrder::copyTo(std::vector<MySinglePicPtr> &list) const {
+    if (list.size() != m_list.size())
+        list = m_list;
+    // Counting references of items that stay in their place would cost more than the merge.
+    for (std::size_t i = 0; i < m_arranged.size(); ++i)
+        if (list[i] != m_list[m_arranged[i]])
+            list[i] = m_list[m_arranged[i]];
 }
 
 std::int64_t TemporaryOrder::arrangedIndex(std::size_t position) const {

@@ -30,10 +30,11 @@ public:
     /// The date that the item of this position has, by which it stands in the list.
     Date date(std::size_t position) const { return m_dates[position]; }
 
-    /// The list with the moving items at `dates`, one for each of `moving`. `arranged` is the last
-    /// list told, or empty; only what differs in it is written.
-    void arrange(const std::vector<Date> &dates, std::vector<MySinglePicPtr> &arranged);
-    /// Where the item of this position of the list stands in what `arrange` told last.
+    /// Puts the moving items at `dates`, one for each of `moving`.
+    void arrange(const std::vector<Date> &dates);
+    /// Makes `list` the one arranged last. Of what it holds, only what differs is written.
+    void copyTo(std::vector<MySinglePicPtr> &list) const;
+    /// Where the item of this position of the list stands in what was arranged last.
     std::int64_t arrangedIndex(std::size_t position) const;
 
 private:
@@ -50,7 +51,8 @@ private:
     std::vector<MySinglePicPtr> m_list;
     std::vector<Date> m_dates;                    ///< by position in the list
     std::vector<std::size_t> m_moving, m_staying; ///< positions
-    std::vector<std::int64_t> m_arrangedIndex;    ///< by position; empty before the first time
+    std::vector<std::size_t> m_arranged;          ///< positions, in the arranged order
+    std::vector<std::int64_t> m_arrangedIndex;    ///< by position
     std::unique_ptr<Names> m_names;
 };
 

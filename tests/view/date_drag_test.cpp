@@ -31,14 +31,14 @@ protected:
                        SpType type = SpTypeExifOriginal) {
         return addItem(folder, type, noon + absl::Seconds(at), name);
     }
-    TimelineStrip &strip() { return m_timelines.mainTimeline(); }
+    TimelineStrip &strip() { return timelines.mainTimeline(); }
     const std::vector<MySinglePicPtr> &build() {
         m_builder.buildNewSource();
         return strip().theSource;
     }
     std::unique_ptr<DateDrag> begin(const MySinglePicPtr &pic) {
         build();
-        return DateDrag::begin(pic, m_timelines, strip(), absl::Seconds(60));
+        return DateDrag::begin(pic, timelines, strip(), absl::Seconds(60));
     }
     std::unique_ptr<DateDrag> begin(const MySinglePicPtr &main,
                                     const std::vector<MySinglePicPtr> &others) {
@@ -51,12 +51,12 @@ protected:
 
     const MySingleFolderPtr canon = makeFolder(EditMode::Single), nikon = makeFolder();
     UndoManager undo;
+    MyTimelinesController timelines{undo, [] {}};
 
 private:
     SourceViews m_views;
     MyDroppedFolders m_folders;
-    MyTimelinesController m_timelines{undo, [] {}};
-    SourceBuilder m_builder{m_folders, m_timelines, m_views, [] { return SourceRestrictions(); }};
+    SourceBuilder m_builder{m_folders, timelines, m_views, [] { return SourceRestrictions(); }};
 };
 
 TEST_F(DateDragTest, EachTargetGivesItsDateAndWhatHasNoDateGivesNone) {
@@ -211,6 +211,8 @@ TEST_F(DateDragTest, TheTemporaryListIsTheOneThatIsBuiltAfterTheDrop) {
 
 TEST_F(DateDragTest, ACancelledDragLeavesNothingAndAListBuiltMeanwhileIsTaken) {
     const auto main = add(canon, 0), last = add(nikon, 100);
+    timelines.addTimelineOfMode(TimelineKind::Mirror, false);
+    const auto &mirror = *timelines.secondTimeline();
     auto drag = begin(main);
     drag->moveTo({OuterEdge, 2});
     EXPECT_THAT(strip().shown(), testing::ElementsAre(last, main));
@@ -218,8 +220,9 @@ TEST_F(DateDragTest, ACancelledDragLeavesNothingAndAListBuiltMeanwhileIsTaken) {
     build();
     drag->moveTo({Between, 2}); // of the new list
     EXPECT_THAT(strip().shown(), testing::ElementsAre(last, main, between));
+    EXPECT_EQ(mirror.shown(), strip().shown());
     drag.reset();
-    EXPECT_THAT(strip().shown(), testing::ElementsAre(main, last, between));
+    EXPECT_THAT(mirror.shown(), testing::ElementsAre(main, last, between));
     drag = begin(main);
     drag->moveTo({Onto, 1});
     canon->sfPicDetails_fullArray.clear();
