@@ -93,11 +93,17 @@
     <message id="cli_error_badEmptyTags">
         <translation>%1 sagt nichts über leere Zeitfelder. Möglich sind leave, file oder eine Zeit wie 2024-05-01T10:00+60.</translation>
     </message>
+    <message id="cli_error_badFilter">
+        <translation>--filter, Zeichen %1: %2.</translation>
+    </message>
     <message id="cli_error_badMovieClock">
         <translation>%1 ist keine Filmuhr. Angegeben werden kann utc, oder local, wenn der Filmkopf die Uhr der Kamera enthält.</translation>
     </message>
     <message id="cli_error_badMovieDate">
         <translation>%1 ist kein Filmdatum. Angegeben werden kann mdta (das der Metadaten) oder mvhd (das des Filmkopfs).</translation>
+    </message>
+    <message id="cli_error_badRating">
+        <translation>--rating %1: keepers oder not-rejected angeben.</translation>
     </message>
     <message id="cli_error_badSetting">
         <translation>--set erwartet KEY=VALUE, nicht %1.</translation>
@@ -225,6 +231,9 @@
     <message id="cli_error_unknownZoneNear">
         <translation>Eine Zeitzone %1 gibt es nicht. Ähnlich: %2.</translation>
     </message>
+    <message id="cli_filterKeys">
+        <translation>Es gibt die Schlüssel %1.</translation>
+    </message>
     <message id="cli_help_accept">
         <translation>Speichern, obwohl es dieses Bedenken gibt</translation>
     </message>
@@ -284,6 +293,9 @@ Beispiele:
     </message>
     <message id="cli_help_file">
         <translation>Dateien, die gezeigt werden; ein Ordner steht für alle darin</translation>
+    </message>
+    <message id="cli_help_filter">
+        <translation>Nur Aufnahmen auflisten, für die dies gilt, etwa 'spName CONTAINS[c] "IMG" AND filter_miscState_6 == 1'</translation>
     </message>
     <message id="cli_help_filterExt">
         <translation>Liest nur Dateien mit diesen Endungen, etwa jpg,cr3; Begleitdateien kommen immer mit</translation>
@@ -358,6 +370,9 @@ Beispiele:
     </message>
     <message id="cli_help_pics">
         <translation>Die Auswahl: Namen bis zur nächsten Option, ORDNER/NAME oder Pfade, wo ein Name in mehreren Ordnern steht; oder all</translation>
+    </message>
+    <message id="cli_help_rating">
+        <translation>Nur als Favorit markierte Aufnahmen auflisten, oder alle nicht verworfenen</translation>
     </message>
     <message id="cli_help_resume">
         <translation>Bringt in Ordnung, was unterbrochenes Sichern hinterließ</translation>
@@ -478,6 +493,9 @@ Beispiele:
     </message>
     <message id="cli_interruptedRunWaits">
         <translation>Ein unterbrochenes Sichern ist noch in Ordnung zu bringen, was ein Probelauf nicht tut: %1</translation>
+    </message>
+    <message id="cli_list_hidden">
+        <translation>, vom Filter verborgen: %1</translation>
     </message>
     <message id="cli_list_summary">
         <translation>Aufnahmen: %1, Ordner: %2, ungespeichert: %3</translation>
@@ -1074,7 +1092,7 @@ Beispiele:
         <translation>hier wird ein Schlüssel erwartet</translation>
     </message>
     <message id="predicate_error_expectedOperator">
-        <translation>„%1“ ist kein Operator; es gibt ==, !=, &lt;, &lt;=, >, >=, CONTAINS, BEGINSWITH, ENDSWITH</translation>
+        <translation>hier wird ein Operator erwartet: ==, !=, &lt;, &lt;=, >, >=, CONTAINS, BEGINSWITH, ENDSWITH</translation>
     </message>
     <message id="predicate_error_expectedValue">
         <translation>hier wird ein Wert erwartet: ein Text in Anführungszeichen, eine Zahl oder ein Datum</translation>

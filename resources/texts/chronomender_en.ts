@@ -93,11 +93,17 @@
     <message id="cli_error_badEmptyTags">
         <translation>%1 says nothing about empty tags. Give leave, file, or a date such as 2024-05-01T10:00+60.</translation>
     </message>
+    <message id="cli_error_badFilter">
+        <translation>--filter, character %1: %2.</translation>
+    </message>
     <message id="cli_error_badMovieClock">
         <translation>%1 is no movie clock. Give utc, or local for header times that hold the camera’s own clock.</translation>
     </message>
     <message id="cli_error_badMovieDate">
         <translation>%1 is no movie date. Give mdta (the metadata’s) or mvhd (the header’s).</translation>
+    </message>
+    <message id="cli_error_badRating">
+        <translation>--rating %1: give keepers or not-rejected.</translation>
     </message>
     <message id="cli_error_badSetting">
         <translation>--set takes KEY=VALUE, not %1.</translation>
@@ -225,6 +231,9 @@
     <message id="cli_error_unknownZoneNear">
         <translation>There is no time zone %1. Similar: %2.</translation>
     </message>
+    <message id="cli_filterKeys">
+        <translation>There are the keys %1.</translation>
+    </message>
     <message id="cli_help_accept">
         <translation>Save although this problem was found</translation>
     </message>
@@ -284,6 +293,9 @@ Examples:
     </message>
     <message id="cli_help_file">
         <translation>Files to tell about; a folder stands for all in it</translation>
+    </message>
+    <message id="cli_help_filter">
+        <translation>List only items for which this holds, such as 'spName CONTAINS[c] "IMG" AND filter_miscState_6 == 1'</translation>
     </message>
     <message id="cli_help_filterExt">
         <translation>Reads only files with these extensions, such as jpg,cr3; sidecars always come along</translation>
@@ -358,6 +370,9 @@ Examples:
     </message>
     <message id="cli_help_pics">
         <translation>The selection: names up to the next option, FOLDER/NAME or paths where a name stands in several folders; or all</translation>
+    </message>
+    <message id="cli_help_rating">
+        <translation>List only items marked as keepers, or those not rejected</translation>
     </message>
     <message id="cli_help_resume">
         <translation>Puts right what interrupted saves left</translation>
@@ -478,6 +493,9 @@ Examples:
     </message>
     <message id="cli_interruptedRunWaits">
         <translation>An interrupted save waits to be put right, which a dry run leaves alone: %1</translation>
+    </message>
+    <message id="cli_list_hidden">
+        <translation>, hidden by the filter: %1</translation>
     </message>
     <message id="cli_list_summary">
         <translation>items: %1, folders: %2, unsaved: %3</translation>
@@ -1074,7 +1092,7 @@ Examples:
         <translation>a key is expected</translation>
     </message>
     <message id="predicate_error_expectedOperator">
-        <translation>“%1” is no operator; there are ==, !=, &lt;, &lt;=, >, >=, CONTAINS, BEGINSWITH, ENDSWITH</translation>
+        <translation>an operator is expected: ==, !=, &lt;, &lt;=, >, >=, CONTAINS, BEGINSWITH, ENDSWITH</translation>
     </message>
     <message id="predicate_error_expectedValue">
         <translation>a value is expected: a text in quotes, a number or a date</translation>

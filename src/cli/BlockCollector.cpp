@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BlockCollector.h"
 
+#include "FilterOption.h"
 #include "Texts.h"
 #include "Utf8Text.h"
 
@@ -21,6 +22,9 @@ constexpr std::array<Word<MovieDate>, 2> movieDates{
     {{"mdta", MovieDate::Mdta}, {"mvhd", MovieDate::Mvhd}}};
 constexpr std::array<Word<MovieClock>, 2> movieClocks{
     {{"utc", MovieClock::Utc}, {"local", MovieClock::Local}}};
+
+constexpr std::array<Word<RatingFilter>, 2> ratings{
+    {{"keepers", RatingFilter::Keepers}, {"not-rejected", RatingFilter::NotRejected}}};
 
 /// The dates that `--copy` can take, as found in the file and as a save would leave them.
 constexpr std::array<Word<AlignCommand>, 8> copyableSlots{{
@@ -112,6 +116,9 @@ const BlockCollector::RunHandler BlockCollector::runHandlers[] = {
     {OptionId::All, [](BlockCollector &c, const std::string &) { c.m_line.savesAll = true; }},
     {OptionId::DateSequence,
      [](BlockCollector &c, const std::string &value) { c.addDateSequence(value); }},
+    {OptionId::Filter,
+     [](BlockCollector &c, const std::string &value) { c.addFilterPredicate(value); }},
+    {OptionId::Rating, [](BlockCollector &c, const std::string &value) { c.addRating(value); }},
     {OptionId::Set, [](BlockCollector &c, const std::string &value) { c.addSetting(value); }},
     {OptionId::Accept, [](BlockCollector &c, const std::string &value) { c.addAccepted(value); }},
     {OptionId::SystemZone,
@@ -289,6 +296,22 @@ void BlockCollector::addSetting(const std::string &value) {
         fail(text("cli_error_badSetting", {printable(value)}));
     else
         m_line.settings.emplace_back(value.substr(0, equals), value.substr(equals + 1));
+}
+
+void BlockCollector::addFilterPredicate(const std::string &value) {
+    auto read = readFilter(value);
+    if (m_line.filter.predicate)
+        fail(text("cli_error_optionTwice", {"--filter", printable(value)}));
+    else if (const auto *complaint = std::get_if<std::string>(&read))
+        fail(*complaint);
+    else
+        m_line.filter.predicate = std::get<Predicate>(std::move(read));
+}
+
+void BlockCollector::addRating(const std::string &value) {
+    m_line.filter.rating = wordIn(ratings, value);
+    if (!m_line.filter.rating)
+        fail(text("cli_error_badRating", {printable(value)}));
 }
 
 void BlockCollector::addAccepted(const std::string &value) {

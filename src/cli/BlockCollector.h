@@ -50,6 +50,8 @@ private:
                    const Typed &typed);
     void addDateSequence(const std::string &value);
     void addSetting(const std::string &value);
+    void addFilterPredicate(const std::string &value);
+    void addRating(const std::string &value);
     void addAccepted(const std::string &value);
     void addAlignment(AlignCommand command);
     void addCopy(const std::string &slot);

@@ -3,6 +3,7 @@
 
 #include "Alignment.h"
 #include "DragDates.h"
+#include "PredicateRewriting.h"
 #include "SaveErrors.h"
 #include "ShiftSpec.h"
 
@@ -64,6 +65,14 @@ struct DragWish {
     std::vector<std::string> targets; ///< two with Between, else one
 };
 
+/// What of the list `mend list` is to show.
+struct FilterWish {
+    std::optional<Predicate> predicate;
+    std::optional<RatingFilter> rating;
+
+    bool isAnything() const { return predicate || rating; }
+};
+
 enum class Command : std::uint8_t { List, Info, Save, Align, Drag, Resume };
 
 /// What the user asked for, checked as far as that goes without looking at the disk.
@@ -76,6 +85,7 @@ struct CommandLine {
     std::optional<EmptyTagsSpec> dateSequence;
     AlignWish align;
     DragWish drag;
+    FilterWish filter;
     bool isJson = false, isDryRun = false, savesAll = false;
     bool acceptsAll = false;
     bool isForgetting = false; ///< (resume) files that cannot be put right are given up

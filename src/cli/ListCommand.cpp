@@ -11,6 +11,7 @@
 #include "Utf8Text.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace chronomender {
 namespace {
@@ -18,7 +19,10 @@ namespace {
 class List {
 public:
     explicit List(MendSession &session)
-        : m_items(session.controller().source_full()),
+        : m_items(session.controller().timelines().source_filtered()),
+          m_hidden(session.line().filter.isAnything()
+                       ? std::optional(session.controller().sourceBuilder().filteredImagesCount())
+                       : std::nullopt),
           m_zones(session.controller().zones()),
           m_paths(session.folders()),
           m_folderCount(session.folders().size()) {}
@@ -43,7 +47,7 @@ public:
         return table.text() +
                text("cli_list_summary", {std::to_string(m_items.size()),
                                          std::to_string(m_folderCount), std::to_string(unsaved)}) +
-               '\n';
+               (m_hidden ? text("cli_list_hidden", {std::to_string(*m_hidden)}) : "") + '\n';
     }
 
 private:
@@ -73,16 +77,24 @@ private:
     }
 
     const std::vector<MySinglePicPtr> &m_items;
+    std::optional<std::size_t> m_hidden; ///< items; none without a filter
     const Zones &m_zones;
     FolderPaths m_paths;
     std::size_t m_folderCount;
 };
 
+/// Cameras are shown; a filter can ask more that takes longer to read.
+CompletionScope scopeFor(const FilterWish &filter) {
+    return filter.predicate && needsLateValues(*filter.predicate)
+               ? CompletionScope::All
+               : CompletionScope::WhereCameraIsMissing;
+}
+
 } // namespace
 
 int runList(const CommandLine &line) {
     MendSession session(line);
-    if (const auto code = session.open({BadPath::GoOn, CompletionScope::WhereCameraIsMissing}))
+    if (const auto code = session.open({BadPath::GoOn, scopeFor(line.filter)}))
         return *code;
     const List list(session);
     const WriteResult written =

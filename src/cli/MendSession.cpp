@@ -4,6 +4,7 @@
 #include "Commands.h"
 #include "Corrections.h"
 #include "EventLoopWait.h"
+#include "FilterOption.h"
 #include "FolderChoices.h"
 #include "ProgressBar.h"
 #include "RecoveryTexts.h"
@@ -68,6 +69,7 @@ std::optional<int> MendSession::open(const Opening &opening) {
         return complaint->exitCode;
     }
     m_controller->buildNewSource();
+    filterBy(m_line.filter, m_controller->filters(), m_controller->defaults());
     tellLeftAlone();
     tellMissingTags();
     return std::nullopt;
@@ -80,6 +82,7 @@ std::optional<Complaint> MendSession::applySettings(AppServices &services) const
             return *complaint;
         services.zones->setSystemZone(std::get<Zone>(std::move(zone)));
     }
+    forgetStoredFilters(*services.defaults);
     for (const auto &[key, value] : m_line.settings) {
         switch (services.defaults->setForThisRun(key, value)) {
         case UserDefaults::Outcome::UnknownKey:

@@ -26,6 +26,8 @@ enum class OptionId : std::uint8_t {
     DateSequence,
     Set,
     SystemZone,
+    Filter,
+    Rating,
     All,
     DryRun,
     Accept,
@@ -65,15 +67,15 @@ struct OptionDescription {
 constexpr unsigned commandBit(Command command) {
     return 1U << static_cast<unsigned>(command);
 }
+inline constexpr unsigned ofList = commandBit(Command::List);
 inline constexpr unsigned ofInfo = commandBit(Command::Info);
 inline constexpr unsigned ofSave = commandBit(Command::Save);
 inline constexpr unsigned ofAlign = commandBit(Command::Align);
 inline constexpr unsigned ofDrag = commandBit(Command::Drag);
 inline constexpr unsigned ofResume = commandBit(Command::Resume);
-inline constexpr unsigned ofFolders =
-    commandBit(Command::List) | ofInfo | ofSave | ofAlign | ofDrag;
+inline constexpr unsigned ofFolders = ofList | ofInfo | ofSave | ofAlign | ofDrag;
 
-inline constexpr std::array<OptionDescription, 36> optionTable{{
+inline constexpr std::array<OptionDescription, 38> optionTable{{
     {OptionId::Folder, "--folder", "PATH", "cli_help_folder", true, ofFolders},
     {OptionId::Shift, "--shift", "SPEC", "cli_help_shift", true, ofFolders},
     {OptionId::Pic, "--pic", "NAME", "cli_help_pic", true, ofFolders & ~ofDrag},
@@ -102,6 +104,8 @@ inline constexpr std::array<OptionDescription, 36> optionTable{{
     {OptionId::After, "--after", "NAME", "cli_help_after", false, ofDrag},
     {OptionId::Onto, "--onto", "NAME", "cli_help_onto", false, ofDrag},
     {OptionId::Save, "--save", "", "cli_help_alignSave", false, ofAlign | ofDrag},
+    {OptionId::Filter, "--filter", "PREDICATE", "cli_help_filter", false, ofList},
+    {OptionId::Rating, "--rating", "keepers|not-rejected", "cli_help_rating", false, ofList},
     {OptionId::DateSequence, "--date-sequence", "DATE[+STEP]", "cli_help_dateSequence", false,
      ofFolders},
     {OptionId::DryRun, "--dry-run", "", "cli_help_dryRun", false, ofSave},

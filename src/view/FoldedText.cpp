@@ -64,10 +64,11 @@ bool TextTest::isEqualAt(std::string_view value, std::size_t position) const {
 }
 
 bool TextTest::isContainedIn(std::string_view value) const {
-    if (!m_flags.ignoresCase)
+    if (!m_flags.ignoresCase || m_wanted.empty())
         return value.find(m_wanted) != std::string_view::npos;
+    const char first = m_wanted.front();
     for (std::size_t at = 0; at + m_wanted.size() <= value.size(); ++at)
-        if (isEqualAt(value, at))
+        if (lowered(value[at]) == first && isEqualAt(value, at))
             return true;
     return false;
 }

@@ -67,6 +67,14 @@ TEST_F(CommandLineUse, MistakesAreNamedAndNothingIsWritten) {
     expectUsageError({"list", "--system-zone", "Europe/Berln", canon}, "Europe/Berlin");
     expectUsageError({"list", "--folder", canon, "--source-zone", "own"}, "no time zone own");
     expectUsageError({"list", "--set", "nothing=1", canon}, "no preference nothing");
+    expectUsageError({"list", "--filter", "spName == 'ü' AND 1", canon},
+                     "character 19: “1” is no key.\n  spName == 'ü' AND 1\n" +
+                         std::string(20, ' ') + "^\nThere are the keys spName, ");
+    expectUsageError({"list", "--filter", "spName LIKE 'a'", canon}, "character 8: an operator");
+    expectUsageError({"list", "--filter", "TRUEPREDICATE", "--filter", "TRUEPREDICATE", canon},
+                     "twice");
+    expectUsageError({"list", "--rating", "good", canon}, "keepers");
+    expectUsageError({"save", "--filter", "filter_rating == 1", canon}, "--filter");
     expectUsageError({"list", "--set", "dateChangeEXIFEXIFDigiDate=7", canon}, "accepts");
     expectUsageError({"list", "--set", "dateChangeEXIFEXIFDigiDate", canon}, "KEY=VALUE");
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "MendRun.h"
 
+#include <fstream>
 #include <gmock/gmock.h>
 #include <map>
 
@@ -91,6 +92,40 @@ TEST_F(Trip, PicCorrectionsAreItsOwn) {
         EXPECT_EQ(seen["IMG_2.jpg"], two) << options;
         EXPECT_EQ(seen["IMG_10.jpg"], ten) << options;
     }
+}
+
+TEST_F(Trip, IsListedAsFarAsAFilterLetsItThrough) {
+    writePhoto("phone/E\u0301te\u0301.jpg", "2024:05:06 14:00:00");
+    struct Case {
+        Arguments options;
+        std::vector<std::string> names;
+    };
+    const std::vector<std::string> all{"DSC_1.jpg", "IMG_2.jpg", "IMG_10.jpg", "P_1.jpg",
+                                       "E\u0301te\u0301.jpg"};
+    const Case cases[]{
+        {{"--filter", R"(spName CONTAINS[cd] "img_1")"}, {"IMG_10.jpg"}},
+        {{"--filter", "spName BEGINSWITH[cd] '\u00C9T\u00C9'"}, {"E\u0301te\u0301.jpg"}},
+        {{"--filter", "filter_miscState == 0 AND NOT spName BEGINSWITH 'IMG'"}, {"DSC_1.jpg"}},
+        {{"--filter", "filter_dateTimeModified >= '2024-05-06 12:30' AND "
+                      "filter_dateTimeModified < '2024-05-06T14:00+02:00'"},
+         {"P_1.jpg"}},
+        {{"--filter", "pivMakeModel == 'Little One' AND filter_miscState_2 == 1"}, {"DSC_1.jpg"}},
+        {{"--rating", "not-rejected"}, all},
+        {{"--rating", "keepers", "--filter", "TRUEPREDICATE"}, {}},
+        // What is switched on for other programs is no wish of this command.
+        {{}, all},
+    };
+    const std::string stored = "isFilterActive=1\nisRatingFilterActive=1\n"
+                               "ratingFilterSelectedOption=1\nlastActiveFilterPredicate=x\n";
+    const std::string preferences = workFolder() + "/home/chronoMender.conf";
+    std::filesystem::create_directories(workFolder() + "/home");
+    std::ofstream(preferences) << stored;
+    for (const auto &[options, names] : cases)
+        EXPECT_EQ(namesOf(mend(joined(corrected("list"), options)).lines()), names)
+            << ::testing::PrintToString(options);
+    EXPECT_EQ(little::fileContent(preferences), stored);
+    EXPECT_THAT(mend({"list", "--filter", "spName ENDSWITH '2.jpg'", path("canon")}).output,
+                HasSubstr("items: 1, folders: 1, unsaved: 0, hidden by the filter: 1\n"));
 }
 
 /// Stamps around the steps of Berlin's clocks in 2024.
