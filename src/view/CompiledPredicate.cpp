@@ -67,7 +67,7 @@ void CompiledPredicate::bringNear(const std::vector<MySinglePicPtr> &items, std:
               static_cast<const void *>(&pic.save), static_cast<const void *>(&pic.importState),
               static_cast<const void *>(&pic.camera.pivMakeModel),
               static_cast<const void *>(&pic.camera.serialNumber),
-              static_cast<const void *>(&pic.relevantSidecarInfos)})
+              static_cast<const void *>(&pic.isHeaderIntel)})
             __builtin_prefetch(part);
     }
     if (next + kTexts < items.size())
