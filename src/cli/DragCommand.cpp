@@ -13,6 +13,11 @@
 namespace chronomender {
 namespace {
 
+/// What a save leaves alone would be dragged in vain.
+bool canBeDragged(const MySinglePic &pic) {
+    return isMovable(pic) && followsShift(pic) && !pic.importState.isLeftAlone;
+}
+
 /// The items that the command line names, and where they go.
 class Drag {
 public:
@@ -60,7 +65,7 @@ private:
 
     std::optional<Complaint> checkDates() const {
         for (std::size_t i = 0; i < m_drop.pics.size(); ++i)
-            if (!isMovable(*m_drop.pics[i]) || !followsShift(*m_drop.pics[i]))
+            if (!canBeDragged(*m_drop.pics[i]))
                 return Complaint{2, text("cli_error_dragNotMovable", {printable(m_wish.pics[i])})};
         for (std::size_t i = 0; i < m_drop.targets.size(); ++i)
             if (isMarker(m_drop.targets[i]->spDateTimeModified_sort()))

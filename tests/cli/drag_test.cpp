@@ -58,6 +58,7 @@ TEST_F(Drag, GivesADateByOrderWhileTheRestOfTheFolderKeepsItsOwn) {
 
 TEST_F(Drag, MistakesAreNamedAndNothingIsWritten) {
     writePhoto("right/early.jpg", "0001:01:02 00:00:01");
+    writePhoto("right/empty.jpg", "0000:00:00 00:00:00");
     const std::string before = order();
     constexpr std::pair<const char *, const char *> mistakes[]{
         {"--onto c.jpg", "--pic NAME"},
@@ -69,6 +70,7 @@ TEST_F(Drag, MistakesAreNamedAndNothingIsWritten) {
         {"--pic a.jpg --onto a.jpg", "named already"},
         {"--pic a.jpg --between c.jpg c.jpg", "named already"},
         {"--pic x.jpg --onto c.jpg", "no item x.jpg"},
+        {"--pic empty.jpg --onto c.jpg", "no date that could be corrected"},
         {"--pic a.jpg --shift 5 --onto c.jpg", "about a folder"},
         {"--pic a.jpg --before early.jpg", "out of the years 1 to 4999"},
     };
