@@ -193,9 +193,12 @@ std::vector<SlotOutcome> slotOutcomes(const MySinglePic &pic, const PatchPlan &p
     for (std::size_t i = 0; i < slotDescriptions.size(); ++i) {
         const SlotDescription &slot = slotDescriptions[i];
         SlotOutcome outcome{slot.name, pic.slots.*slot.oldDate, pic.slots.*slot.newDate};
-        if (i < plan.stamps.size())
+        if (i < plan.stamps.size()) {
             outcome.result = plan.stamps[i].result;
-        else if (plan.obstacle == PlanObstacle::None)
+            // Stamps hold whole seconds: what is told is what the file is found to say.
+            if (isCleanDate(outcome.newDate))
+                outcome.newDate = cleanDate(*outcome.newDate);
+        } else if (plan.obstacle == PlanObstacle::None)
             outcome.result = fileSlotResult(pic, slot);
         if (outcome.result == SlotResult::Refused)
             outcome.reasonKey = textKey(plan.stamps[i].obstacle);

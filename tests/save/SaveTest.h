@@ -83,7 +83,14 @@ protected:
     }
     /// All items are written, and the model knows it.
     void saves() {
-        EXPECT_THAT(results(session.save()), testing::Each(ItemResult::Saved));
+        const SaveRunResult run = session.save();
+        EXPECT_THAT(results(run), testing::Each(ItemResult::Saved));
+        for (const ItemOutcome &item : run.items)
+            for (std::size_t i = 0; i < item.slots.size(); ++i)
+                if (item.slots[i].result == SlotResult::WrittenInPlace) {
+                    EXPECT_EQ(item.slots[i].newDate, item.pic->slots.*slotDescriptions[i].oldDate)
+                        << "told otherwise than it is, " << item.slots[i].slot;
+                }
         expectModelIsWhatAFreshImportShows();
     }
     /// Nothing can be written to the item, for a reason of the reader's or the field's.
