@@ -35,19 +35,19 @@ void SelectionMemory::remember(const TimelineStrip &strip, const SourceViews &vi
     const PicSelection &selection = strip.selection;
     if (m_hidden && !areSame(selection, m_standIn))
         m_hidden.reset();
-    m_oldSelection = selection;
     m_oldCurrentIndex = indexOf(selection.picSelection);
     m_focused = selection.picSelection ? selection.picSelection
                                        : views.picToKeepFocusedDuringFilterAction();
     m_place = m_focused ? views.focusPlace(*m_focused) : std::nullopt;
 }
 
-void SelectionMemory::dropWhatIsGone(PicSelection &selection,
-                                     const std::vector<MySinglePicPtr> &source_full, Shown where) {
+void SelectionMemory::dropWhatIsGone(TimelineStrip &strip,
+                                     const std::vector<MySinglePicPtr> &source_full) {
+    PicSelection &selection = strip.selection;
     std::erase_if(selection.multiSelectionNEW, isGone);
     if (isGone(selection.picSelection))
-        selection.picSelection =
-            nearestShownTo(source_full, selection.picSelection, selection.multiSelectionNEW, where);
+        selection.picSelection = nearestShownTo(source_full, selection.picSelection,
+                                                selection.multiSelectionNEW, shownOn(strip));
     if (!selection.picSelection || selection.multiSelectionNEW.size() == 1)
         selection.multiSelectionNEW.clear();
     if (!m_hidden)
@@ -55,23 +55,14 @@ void SelectionMemory::dropWhatIsGone(PicSelection &selection,
     std::erase_if(m_hidden->preFilter_multiSelection, isGone);
     if (isGone(m_hidden->preFilter_selection))
         m_hidden.reset();
-}
-
-void SelectionMemory::dropWhatIsGone(TimelineStrip &strip,
-                                     const std::vector<MySinglePicPtr> &source_full) {
-    dropWhatIsGone(strip.selection, source_full, shownOn(strip));
-    m_standIn = strip.selection;
-    m_oldSelection = {};
-    m_focused.reset();
+    m_standIn = selection;
 }
 
 void SelectionMemory::bringThrough(TimelineStrip &strip,
                                    const std::vector<MySinglePicPtr> &source_full,
                                    SourceViews &views) {
-    // The strip itself may have let go of what it does not show any more.
-    PicSelection &selection = strip.selection = std::move(m_oldSelection);
+    PicSelection &selection = strip.selection;
     const Shown where = shownOn(strip);
-    dropWhatIsGone(selection, source_full, where);
     if (m_hidden && isShown(*m_hidden->preFilter_selection, where))
         return comeBack(selection, where, views);
     if (isGone(m_focused)) {

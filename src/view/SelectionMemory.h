@@ -16,9 +16,9 @@ class SelectionMemory {
 public:
     /// Before a build: what is selected, and where it shows.
     void remember(const TimelineStrip &strip, const SourceViews &views);
-    /// After a build that keeps the selection: only items that left the session leave it.
+    /// After each build: items that left the session leave the selection.
     void dropWhatIsGone(TimelineStrip &strip, const std::vector<MySinglePicPtr> &source_full);
-    /// After a build that may choose another selection.
+    /// After that, where the build may choose another selection.
     void bringThrough(TimelineStrip &strip, const std::vector<MySinglePicPtr> &source_full,
                       SourceViews &views);
     /// The main item, or its place in the list, is another than before the build.
@@ -32,8 +32,6 @@ private:
         std::optional<FocusPlace> preFilter_place;
         bool preFilter_justFocus = false; ///< it was not selected, but stood in the user's focus
     };
-    void dropWhatIsGone(PicSelection &selection, const std::vector<MySinglePicPtr> &source_full,
-                        Shown where);
     void comeBack(PicSelection &selection, Shown where, SourceViews &views);
     void handOver(PicSelection &selection, const std::vector<MySinglePicPtr> &source_full,
                   Shown where, SourceViews &views);
@@ -41,7 +39,6 @@ private:
     std::optional<Hidden> m_hidden;
     PicSelection m_standIn; ///< what took over for it
     // Of the build that is under way.
-    PicSelection m_oldSelection;
     std::int64_t m_oldCurrentIndex = -1;
     MySinglePicPtr m_focused; ///< the main item; without one what the views keep in place
     std::optional<FocusPlace> m_place;

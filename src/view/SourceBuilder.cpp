@@ -58,10 +58,9 @@ void SourceBuilder::buildNewSourceWithNewSelectionOption(NewSelection selection,
     const std::vector<TimelineStrip *> present = selectableTimelines();
     for (std::size_t i = 0; i < std::min(strips.size(), present.size()); ++i) {
         SelectionMemory &memory = m_selectionMemory[i];
+        memory.dropWhatIsGone(*present[i], source_full());
         if (selection == NewSelection::Choose)
             memory.bringThrough(*present[i], source_full(), m_views);
-        else
-            memory.dropWhatIsGone(*present[i], source_full());
         hasIndexChanged = hasIndexChanged || memory.hasIndexChanged(*present[i]);
     }
     if (present.size() == 1)
