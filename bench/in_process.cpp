@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The figures that need no other program: limits, import, save, sort, zones. Expects in
+// The figures that need no other program: limits, import, save, sort, zones, timelines. Expects in
 // CHRONOMENDER_BENCH_FILES a folder with `many` (JPEGs with bodies of 200 KB), `mixed` (three in
 // ten of other formats), `short` and `long` (fewer JPEGs, bodies of 200 KB and 4 MB) and `small`
 // (folders of the smallest files), as scripts/bench makes them. Every benchmark leaves the files as
@@ -9,12 +9,14 @@
 #include "Limits.h"
 #include "Session.h"
 #include "Texts.h"
+#include "Timelines.h"
 #include "ZoneChanges.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
 
+#include <array>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
@@ -118,6 +120,27 @@ void conversions(benchmark::State &state, Work work) {
     state.counters["files"] = static_cast<double>(count);
 }
 
+constexpr std::array<std::pair<const char *, Timelines::Figure (Timelines::*)()>, 6> timelineRows{{
+    {"first", &Timelines::firstBuild},
+    {"full", &Timelines::fullRebuild},
+    {"text", &Timelines::refilterByText},
+    {"state", &Timelines::refilterByState},
+    {"drag", &Timelines::dragStep},
+    {"range", &Timelines::visibleRange},
+}};
+
+void timelines(benchmark::State &state, std::size_t itemCount,
+               Timelines::Figure (Timelines::*work)()) {
+    Timelines &trip = Timelines::ofSize(itemCount);
+    for (auto _ : state) {
+        const Timelines::Figure figure = (trip.*work)();
+        state.SetIterationTime(figure.time.count());
+        state.counters["files"] = static_cast<double>(figure.count);
+        if (figure.count == 0)
+            state.SkipWithError("the list was built wrongly");
+    }
+}
+
 void registerAll() {
     const auto add = [](const char *name, auto &&...rest) {
         benchmark::RegisterBenchmark(name, rest...)
@@ -144,6 +167,10 @@ void registerAll() {
         add(("zones/threads" + std::to_string(threads)).c_str(), [threads](auto &state) {
             conversions(state, [threads] { return parallelConversions(threads); });
         });
+    for (const std::size_t itemCount : {5'000, 50'000})
+        for (const auto &[row, work] : timelineRows)
+            add(("timelines/" + std::string(row) + '/' + std::to_string(itemCount)).c_str(),
+                timelines, itemCount, work);
     add("sort/small", [](benchmark::State &state) { sortAll(state); });
 }
 
