@@ -57,23 +57,6 @@ CompiledPredicate::CompiledPredicate(const Predicate &predicate, const FilterCon
     add(optimizedAlternative(predicate));
 }
 
-void CompiledPredicate::bringNear(const std::vector<MySinglePicPtr> &items, std::size_t next) {
-    constexpr std::size_t kItems = 24, kTexts = 12; // so far ahead; a text is found by its item
-    if (next + kItems < items.size()) {
-        const MySinglePic &pic = *items[next + kItems];
-        for (const void *part :
-             {static_cast<const void *>(&pic.spName), static_cast<const void *>(&pic.spType),
-              static_cast<const void *>(&pic.zones), static_cast<const void *>(&pic.group),
-              static_cast<const void *>(&pic.save), static_cast<const void *>(&pic.importState),
-              static_cast<const void *>(&pic.camera.pivMakeModel),
-              static_cast<const void *>(&pic.camera.serialNumber),
-              static_cast<const void *>(&pic.isHeaderIntel)})
-            __builtin_prefetch(part);
-    }
-    if (next + kTexts < items.size())
-        __builtin_prefetch(items[next + kTexts]->spName.data());
-}
-
 void CompiledPredicate::add(const Predicate &predicate) {
     const std::size_t index = m_nodes.size();
     m_nodes.push_back({predicate.kind, 0, nullptr, NumberTest{}});

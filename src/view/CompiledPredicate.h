@@ -24,9 +24,6 @@ public:
     CompiledPredicate(const Predicate &predicate, const FilterContext &context);
 
     bool matches(const MySinglePic &pic) const { return matches(0, pic); }
-    /// To be called before the item at `next` is asked, when all items are asked in turn: has the
-    /// memory of those behind it fetched meanwhile. Asking waits for memory most of its time.
-    static void bringNear(const std::vector<MySinglePicPtr> &items, std::size_t next);
 
 private:
     struct NumberTest {

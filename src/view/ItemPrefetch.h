@@ -13,14 +13,14 @@ namespace chronomender {
 // asked for needlessly costs next to nothing.
 
 /// How far ahead of the item at hand.
-inline constexpr std::size_t kPrefetchDistance = 8;
+inline constexpr std::size_t kPrefetchDistance = 16;
 
 template<class... Parts>
 void prefetch(const Parts *...parts) {
     (__builtin_prefetch(parts), ...);
 }
 
-/// What a date, a state or a name is told from, of the item behind the one at `index`.
+/// What a date, a state or a name is told from, of an item behind the one at `index`.
 inline void prefetchAhead(std::span<const MySinglePicPtr> pics, std::size_t index) {
     if (pics.size() - index <= kPrefetchDistance)
         return;

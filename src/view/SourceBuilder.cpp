@@ -113,7 +113,6 @@ void SourceBuilder::markItems(const SourceRestrictions &restrictions) {
     for (std::size_t i = 0; i < m_marks.size(); ++i) {
         prefetchAhead(source_full(), i);
         const MySinglePic &pic = *source_full()[i];
-        CompiledPredicate::bringNear(source_full(), i);
         const bool isLetThrough = keepsMembers ? isVisible(pic)
                                                : isOpen[m_order.folderIndexAt(i)] &&
                                                      (!isAnyChosen || (m_marks[i] & Chosen) != 0) &&
