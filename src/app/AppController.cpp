@@ -19,6 +19,8 @@ AppController::AppController(AppServices services, ImportQuestions &questions)
     : m_services(std::move(services)),
       m_systemZoneChange(*m_services.zones, *m_services.defaults, m_droppedFolders, m_services.now),
       m_timelines(m_undo, [this] { buildNewSource(); }),
+      m_marking(m_undo,
+                [this](std::string_view key) { m_filters->filterRelevantChangeWasMade(key); }),
       m_importDriver({*m_services.zones, *m_services.defaults, questions, m_cancellation, m_undo,
                       m_droppedFolders}),
       m_journal(supportFolder(), m_services.durability),
@@ -78,8 +80,21 @@ void AppController::setSourceViews(SourceViews *views) {
     m_source = std::make_unique<SourceBuilder>(m_droppedFolders, m_timelines, *m_views, [this] {
         const std::optional<Predicate> &filter = m_filters->filter_finalPredicate();
         return SourceRestrictions{.predicate = m_filters->compiled(),
+                                  .selectedPicsToFilter =
+                                      m_selectedPicsToFilter ? &*m_selectedPicsToFilter : nullptr,
+                                  .folders = m_foldersFilter,
                                   .filter_finalPredicate = filter ? &*filter : nullptr};
     });
+}
+
+void AppController::setSelectedPicsToFilter(std::optional<PicSet> pics) {
+    m_selectedPicsToFilter = std::move(pics);
+    m_source->buildNewSourceWithNewSelectionOption(NewSelection::Choose, Refilter::RefilterOnly);
+}
+
+void AppController::setFoldersFilter(std::optional<std::vector<MySingleFolderPtr>> folders) {
+    m_foldersFilter = std::move(folders);
+    m_source->buildNewSourceWithNewSelectionOption(NewSelection::Choose, Refilter::RefilterOnly);
 }
 
 void AppController::buildNewSource() {

@@ -11,6 +11,7 @@
 #include "FilterSourceController.h"
 #include "FolderDrag.h"
 #include "ImportDriver.h"
+#include "Marking.h"
 #include "MyDroppedFolders.h"
 #include "MyTimelinesController.h"
 #include "SaveDriver.h"
@@ -97,6 +98,11 @@ public:
     SourceBuilder &sourceBuilder() { return *m_source; }
     MyTimelinesController &timelines() { return m_timelines; }
     FilterSourceController &filters() { return *m_filters; }
+    /// Shows only items that a map has chosen, or that stand in these folders; none: all.
+    void setSelectedPicsToFilter(std::optional<PicSet> pics);
+    void setFoldersFilter(std::optional<std::vector<MySingleFolderPtr>> folders);
+    /// Marks items as keepers or rejected; the filters follow.
+    Marking &marking() { return m_marking; }
     /// Starts the drag of a thumbnail; see DateDrag.
     std::unique_ptr<DateDrag> beginDateDrag(const MySinglePicPtr &dragged, TimelineStrip &strip);
     /// Ends it, with its dates, and builds the list again.
@@ -163,6 +169,9 @@ private:
     SourceViews *m_views = &m_noViews;
     MyTimelinesController m_timelines;
     std::unique_ptr<FilterSourceController> m_filters;
+    std::optional<PicSet> m_selectedPicsToFilter;
+    std::optional<std::vector<MySingleFolderPtr>> m_foldersFilter;
+    Marking m_marking;
     std::unique_ptr<SourceBuilder> m_source;
     ImportDriver m_importDriver;
     Progress m_saveProgress;

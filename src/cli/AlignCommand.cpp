@@ -91,16 +91,7 @@ private:
 } // namespace
 
 int runAlign(const CommandLine &line) {
-    MendSession session(line);
-    if (const auto code = session.open({BadPath::Stop, CompletionScope::None}))
-        return *code;
-    const auto complaint =
-        session.wasInterrupted() ? std::optional<Complaint>() : Align(session).run();
-    if (complaint) {
-        complain(complaint->message);
-        return complaint->exitCode;
-    }
-    return saveSession(session);
+    return runAndSave(line, [](MendSession &session) { return Align(session).run(); });
 }
 
 } // namespace chronomender

@@ -83,16 +83,7 @@ private:
 } // namespace
 
 int runDrag(const CommandLine &line) {
-    MendSession session(line);
-    if (const auto code = session.open({BadPath::Stop, CompletionScope::None}))
-        return *code;
-    const auto complaint =
-        session.wasInterrupted() ? std::optional<Complaint>() : Drag(session).run();
-    if (complaint) {
-        complain(complaint->message);
-        return complaint->exitCode;
-    }
-    return saveSession(session);
+    return runAndSave(line, [](MendSession &session) { return Drag(session).run(); });
 }
 
 } // namespace chronomender

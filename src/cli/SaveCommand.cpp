@@ -5,10 +5,7 @@
 namespace chronomender {
 
 int runSave(const CommandLine &line) {
-    MendSession session(line);
-    if (const auto code = session.open({BadPath::Stop, CompletionScope::None}))
-        return *code;
-    return saveSession(session);
+    return runAndSave(line, [](MendSession &) { return std::optional<Complaint>(); });
 }
 
 } // namespace chronomender

@@ -175,7 +175,14 @@ private:
 
 } // namespace
 
-int saveSession(MendSession &session) {
+int runAndSave(const CommandLine &line, SessionChange change) {
+    MendSession session(line);
+    if (const auto code = session.open({BadPath::Stop, CompletionScope::None}))
+        return *code;
+    if (const auto complaint = session.wasInterrupted() ? std::nullopt : change(session)) {
+        complain(complaint->message);
+        return complaint->exitCode;
+    }
     return Save(session).run();
 }
 

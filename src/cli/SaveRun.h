@@ -3,11 +3,16 @@
 
 #include "MendSession.h"
 
+#include <optional>
+
 namespace chronomender {
 
-/// Saves all that an opened session has to save, or only says what a save would do (`isDryRun` of
-/// its command line), and reports. Problems need the consent that the command line gives. The
-/// exit code; main thread.
-int saveSession(MendSession &session);
+/// What a command does to an opened session before it is saved; its complaint ends the run.
+using SessionChange = std::optional<Complaint> (*)(MendSession &session);
+
+/// Opens the session of a command line, changes it (unless the user interrupted the import), and
+/// saves all that it then has to save, or only says what a save would do (`isDryRun`), and reports.
+/// Problems need the consent that the command line gives. The exit code; main thread.
+int runAndSave(const CommandLine &line, SessionChange change);
 
 } // namespace chronomender
