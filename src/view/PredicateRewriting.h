@@ -10,9 +10,9 @@ namespace chronomender {
 
 // From the predicate that an editor shows to the one that runs.
 
-/// An equal predicate that is cheap to ask: one key for each state, and for live photos that follow
-/// each other. A row of the editor (its comparisons carry [cd]) shows one name of a key and runs by
-/// another:
+/// A predicate of the same meaning that is cheap to ask: one key for each state, and for live
+/// photos that join each other. A row of the editor (its comparisons carry [cd]) shows one name of
+/// a key and runs by another:
 ///
 ///     filter_miscState ==[cd] 6          filter_miscState_6 ==[cd] 1
 ///     filter_mediaType !=[cd] 4          filter_mediaType_2 !=[cd] 1
