@@ -116,6 +116,12 @@ int main(int count, char **arguments) {
                              "    :  :     :  :  ", "+02:00", "-11:30", "2024:05:06"})
         write(root / "stamp_texts", std::to_string(number++), std::string(text) + '\0');
     for (const char *text :
+         {R"((filter_rating != -1) AND (spName CONTAINS[cd] "IM\"G"))",
+          R"(filter_dateTimeModified >= CAST(736000000.5, "NSDate") OR filter_miscState_6 == 1)",
+          R"(NOT filter_dateTimeModified < '2024-05-06 07:08' AND TRUEPREDICATE)",
+          R"((filter_miscState ==[cd] 6 and pivMakeModel BEGINSWITH[c] "x"))"})
+        write(root / "predicate_texts", std::to_string(number++), text);
+    for (const char *text :
          {"2020-04-17T10:03:47-0600", "2020-04-17T10:03:47Z", "2020-04-17T10:03+05:30",
           "2020-04-17T10:03:47.125", "Thu Jan 20 08:16:08 2022\n", "MON SEP  3 20:52:00 2012\n"})
         write(root / "movie_stamps", std::to_string(number++), std::string(text) + '\0');

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <ranges>
+#include <vector>
 
 namespace chronomender {
 namespace {
@@ -13,14 +13,16 @@ bool hasDate(const TemporaryOrder &order, std::size_t position) {
 }
 
 DragAim aimAtEdge(std::size_t index, const TemporaryOrder &order, absl::Duration outwards) {
-    auto dated = order.staying() |
-                 std::views::filter([&](std::size_t position) { return hasDate(order, position); });
-    if (dated.empty())
+    const auto isDated = [&](std::size_t position) { return hasDate(order, position); };
+    const std::vector<std::size_t> &staying = order.staying();
+    const auto first = std::find_if(staying.begin(), staying.end(), isDated);
+    if (first == staying.end())
         return {};
+    const auto last = std::find_if(staying.rbegin(), staying.rend(), isDated);
     if (index == 0)
-        return {DragType::OuterEdge, order.date(dated.front()), {}, -outwards};
+        return {DragType::OuterEdge, order.date(*first), {}, -outwards};
     if (index == order.list().size())
-        return {DragType::OuterEdge, order.date(dated.back()), {}, outwards};
+        return {DragType::OuterEdge, order.date(*last), {}, outwards};
     return {};
 }
 

@@ -38,7 +38,7 @@ private:
 
     UndoManager &m_undo;
     std::function<void(std::string_view)> m_filterRelevantChangeWasMade;
-    std::shared_ptr<UndoTarget> m_undoTarget = std::make_shared<UndoTarget>(this);
+    std::shared_ptr<UndoTarget> m_undoTarget = std::make_shared<UndoTarget>(UndoTarget{this});
 };
 
 } // namespace chronomender

@@ -113,7 +113,7 @@ private:
     PicSet m_shelf;
     bool m_mirrorFirstRespState = false;
     /// Undo records find the controller by it, for as long as there is one.
-    std::shared_ptr<UndoTarget> m_undoTarget = std::make_shared<UndoTarget>(this);
+    std::shared_ptr<UndoTarget> m_undoTarget = std::make_shared<UndoTarget>(UndoTarget{this});
 };
 
 } // namespace chronomender
