@@ -14,6 +14,9 @@ using Context = FilterContext;
 
 /// Of a movie whose header names no camera the display text is "-".
 bool hasTwoCharacters(std::string_view text) {
+    constexpr std::size_t kLongestCharacter = 4;
+    if (text.size() > kLongestCharacter)
+        return true;
     const auto isFirstByte = [](char byte) { return (byte & 0xC0) != 0x80; };
     return std::ranges::count_if(text, isFirstByte) >= 2;
 }

@@ -20,15 +20,18 @@ void prefetch(const Parts *...parts) {
     (__builtin_prefetch(parts), ...);
 }
 
-/// What a date, a state or a name is told from, of an item behind the one at `index`.
+/// What a date, a state, a camera or a name is told from, of an item behind the one at `index`. A
+/// long name lies elsewhere, where only an item that is there already can tell.
 inline void prefetchAhead(std::span<const MySinglePicPtr> pics, std::size_t index) {
+    constexpr std::size_t kNameDistance = kPrefetchDistance / 2;
     if (pics.size() - index <= kPrefetchDistance)
         return;
+    prefetch(pics[index + kNameDistance]->spName.data());
     const MySinglePic &pic = *pics[index + kPrefetchDistance];
     // The folder is the item's last member.
     const std::byte *folder = reinterpret_cast<const std::byte *>(&pic + 1) - 1;
-    prefetch(&pic.spName, &pic.spDateTimeOriginal, &pic.shift, &pic.group, &pic.save,
-             &pic.positions, folder);
+    prefetch(&pic.spName, &pic.spDateTimeOriginal, &pic.shift, &pic.zones, &pic.group, &pic.save,
+             &pic.importState, &pic.positions, &pic.camera.pivMakeModel, folder);
 }
 
 } // namespace chronomender
