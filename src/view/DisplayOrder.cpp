@@ -13,8 +13,7 @@ namespace chronomender {
 
 /// A name and what it sorts by. Making the key takes longer than all other sorting of an item.
 struct DisplayOrder::NameKey {
-    NameKey(std::string of, QCollatorSortKey sortKey)
-        : name(std::move(of)), key(std::move(sortKey)) {}
+    NameKey(std::string of, const QCollatorSortKey &sortKey) : name(std::move(of)), key(sortKey) {}
     std::string name;
     QCollatorSortKey key;
 };

@@ -33,6 +33,7 @@ DateChangeOutcome dragChangedDates(absl::Duration totalShift, MySingleFolder &fo
 DateChangeOutcome dragMovesValuesBy(absl::Duration difference,
                                     const std::vector<MySinglePicPtr> &items, UndoManager &undo) {
     std::vector<ShiftRecord> records;
+    records.reserve(items.size());
     for (const MySinglePicPtr &pic : items)
         records.push_back({pic, difference});
     return dragMovesValuesBy(std::move(records), undo);

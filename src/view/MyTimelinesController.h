@@ -101,7 +101,7 @@ private:
     void closeShelf(std::optional<TimelineKind> second);
     ShelfMove shelfMove(PicSet pics, bool toShelf);
     PicSelection selectionAmong(const PicSet &moving);
-    void addUndoForPicShelfMove(ShelfMove move, const char *actionName);
+    void addUndoForPicShelfMove(const ShelfMove &move, const char *actionName);
     void addUndoForFolderShelfMove(ShelfMove move, const MySingleFolderPtr &folder);
     void perform(const ShelfMove &move);
     void registerInverse(const ShelfMove &move, const PicSet &moving);

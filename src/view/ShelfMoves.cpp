@@ -130,7 +130,7 @@ void MyTimelinesController::perform(const ShelfMove &move) {
     m_rebuild();
 }
 
-void MyTimelinesController::addUndoForPicShelfMove(ShelfMove move, const char *actionName) {
+void MyTimelinesController::addUndoForPicShelfMove(const ShelfMove &move, const char *actionName) {
     const UndoGroup group(m_undo);
     perform(move);
     m_undo.setActionName(actionName);
@@ -140,7 +140,7 @@ void MyTimelinesController::addUndoForFolderShelfMove(ShelfMove move,
                                                       const MySingleFolderPtr &folder) {
     const char *actionName = move.toShelf ? folderToShelfName : folderFromShelfName;
     move.folder = folder;
-    addUndoForPicShelfMove(std::move(move), actionName);
+    addUndoForPicShelfMove(move, actionName);
 }
 
 MyTimelinesController::ShelfMove MyTimelinesController::shelfMove(PicSet pics, bool toShelf) {
@@ -176,7 +176,7 @@ void MyTimelinesController::closeShelf(std::optional<TimelineKind> second) {
     move.mirrorFirstRespState = false;
     if (m_main.selection.picSelection)
         move.selected.clear();
-    addUndoForPicShelfMove(std::move(move), closeShelfName);
+    addUndoForPicShelfMove(move, closeShelfName);
 }
 
 void MyTimelinesController::addTimelineOfMode(TimelineKind kind, bool movingSelection) {

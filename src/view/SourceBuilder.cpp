@@ -22,6 +22,7 @@ bool isOnMainStrip(std::uint8_t marks) {
 std::vector<bool> openFolders(const std::vector<MySingleFolderPtr> &all,
                               const std::optional<std::vector<MySingleFolderPtr>> &open) {
     std::vector<bool> isOpen;
+    isOpen.reserve(all.size());
     for (const MySingleFolderPtr &folder : all)
         isOpen.push_back(!open || std::ranges::find(*open, folder) != open->end());
     return isOpen;

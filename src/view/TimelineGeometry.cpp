@@ -36,14 +36,17 @@ double TimelineGeometry::centerOf(std::int64_t index) const {
 
 std::optional<std::int64_t> TimelineGeometry::picAtXLocation(float x, std::int64_t count) const {
     const float cell = (x - (borderMarginHorizontal - 0.5F * gap)) / (thumbSize + gap);
-    const auto index = static_cast<std::int64_t>(std::max(std::floor(cell), 0.0F));
-    return index < count ? std::optional(index) : std::nullopt;
+    if (count <= 0 || !(cell < static_cast<float>(count)))
+        return std::nullopt;
+    return static_cast<std::int64_t>(std::max(std::floor(cell), 0.0F));
 }
 
 std::int64_t TimelineGeometry::picIndexAtHorizontalMouseLocation(float x, bool snapToLegal,
                                                                  std::int64_t count) const {
-    const auto index = static_cast<std::int64_t>(
-        std::floor((x - borderMarginHorizontal + 0.5F * gap) / (thumbSize + gap)));
+    // Within bounds that a conversion to whole numbers can take.
+    const float cell = std::clamp((x - borderMarginHorizontal + 0.5F * gap) / (thumbSize + gap),
+                                  -1.0F, static_cast<float>(count));
+    const auto index = static_cast<std::int64_t>(std::floor(cell));
     if (index >= 0 && index < count)
         return index;
     return snapToLegal && count > 0 ? std::clamp<std::int64_t>(index, 0, count - 1) : -1;

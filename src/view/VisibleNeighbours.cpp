@@ -76,10 +76,10 @@ MySinglePicPtr nearestShownTo(const std::vector<MySinglePicPtr> &source_full,
         start = std::ssize(source_full) - 1;
     Walk forward(source_full, start, 1, where), backward(source_full, start - 1, -1, where);
     for (;;) {
-        const MySinglePicPtr later = forward.next();
+        MySinglePicPtr later = forward.next();
         if (candidates.contains(later))
             return later;
-        const MySinglePicPtr earlier = backward.next();
+        MySinglePicPtr earlier = backward.next();
         if (candidates.contains(earlier))
             return earlier;
         if (!later && !earlier)
