@@ -686,6 +686,9 @@ Beispiele:
     <message id="errorPanelDescriptionText_ID12">
         <translation>Die Datei wurde nicht gefunden. Vielleicht wurde sie verschoben, umbenannt oder gelöscht, oder der Datenträger ist nicht angeschlossen.</translation>
     </message>
+    <message id="errorPanelDescriptionText_ID14">
+        <translation>Diese Begleitdateien fehlen oder konnten nicht mit ihrem Foto oder Film umbenannt werden:</translation>
+    </message>
     <message id="errorPanelDescriptionText_ID15">
         <translation>Die Begleitdatei gibt es nicht mehr. Nur das Foto selbst wurde berücksichtigt.</translation>
     </message>
@@ -696,7 +699,7 @@ Beispiele:
         <translation>Es gibt kein Foto und keinen Film, zu dem die Begleitdatei gehört.</translation>
     </message>
     <message id="errorPanelDescriptionText_ID18">
-        <translation>Der Name beginnt mit einem Punkt; die Dateiverwaltung blendet die Datei deshalb aus.</translation>
+        <translation>Diese Namen beginnen mit einem Punkt, daher zeigen viele Programme die Dateien nicht:</translation>
     </message>
     <message id="errorPanelDescriptionText_ID2">
         <translation>Die Datei ließ sich nicht zum Schreiben öffnen. Prüfen Sie, ob sie schreibgeschützt ist oder von einem anderen Programm benutzt wird.</translation>
@@ -727,6 +730,9 @@ Beispiele:
     </message>
     <message id="errorPanelDescriptionText_ID4">
         <translation>Die Datei oder ihr Ordner war nicht erreichbar. Vielleicht wurde sie verschoben oder gelöscht, oder der Datenträger ist nicht angeschlossen.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID5">
+        <translation>Diese Dateien konnten nicht umbenannt werden:</translation>
     </message>
     <message id="errorPanelDescriptionText_ID6">
         <translation>Die XMP-Angaben in der Datei ließen sich nicht an die neuen Zeiten angleichen.</translation>
@@ -1129,6 +1135,15 @@ Beispiele:
     </message>
     <message id="renameModTemplate_unnamed">
         <translation>Unbenannt</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID8">
+        <translation>Der gewünschte Name war vergeben, daher kam eine Nummer hinzu:</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID9">
+        <translation>Eine zugehörige Datei lässt sich nicht beschreiben, daher wurden diese nicht umbenannt:</translation>
+    </message>
+    <message id="workPanelRename">
+        <translation>Dateien werden umbenannt</translation>
     </message>
 </context>
 </TS>

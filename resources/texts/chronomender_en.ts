@@ -686,6 +686,9 @@ Examples:
     <message id="errorPanelDescriptionText_ID12">
         <translation>The file was not found. It may have been moved, renamed or deleted, or its disk is not connected.</translation>
     </message>
+    <message id="errorPanelDescriptionText_ID14">
+        <translation>These accompanying files are missing or could not be renamed with their photo or movie:</translation>
+    </message>
     <message id="errorPanelDescriptionText_ID15">
         <translation>The sidecar file no longer exists. Only the photo itself was looked at.</translation>
     </message>
@@ -696,7 +699,7 @@ Examples:
         <translation>There is no photo or movie to which the sidecar file belongs.</translation>
     </message>
     <message id="errorPanelDescriptionText_ID18">
-        <translation>The name begins with a dot, so file managers hide the file.</translation>
+        <translation>These names begin with a dot, so many programs do not show the files:</translation>
     </message>
     <message id="errorPanelDescriptionText_ID2">
         <translation>The file could not be opened for writing. Check whether it is write-protected or in use by another program.</translation>
@@ -727,6 +730,9 @@ Examples:
     </message>
     <message id="errorPanelDescriptionText_ID4">
         <translation>The file or its folder could not be reached. It may have been moved or deleted, or its disk is not connected.</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID5">
+        <translation>These files could not be renamed:</translation>
     </message>
     <message id="errorPanelDescriptionText_ID6">
         <translation>The XMP data inside the file could not be brought into line with the new dates.</translation>
@@ -1129,6 +1135,15 @@ Examples:
     </message>
     <message id="renameModTemplate_unnamed">
         <translation>Unnamed</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID8">
+        <translation>The wanted name was taken, so a number was added:</translation>
+    </message>
+    <message id="errorPanelDescriptionText_ID9">
+        <translation>A file that belongs to these cannot be written, so they were not renamed:</translation>
+    </message>
+    <message id="workPanelRename">
+        <translation>Renaming files</translation>
     </message>
 </context>
 </TS>

@@ -40,6 +40,9 @@ AppController::AppController(AppServices services, ImportQuestions &questions)
                                 }}) {
     mainThread::initialise();
     setSourceViews(nullptr);
+    auto renameRun = makeRenameRun();
+    m_renameRun = renameRun.get();
+    m_saveDriver.appendStep(std::move(renameRun));
 }
 
 AppController::~AppController() {
@@ -210,6 +213,29 @@ void AppController::startContinueProcess(SaveRequest request, PreProcessResult p
         [finished = std::move(finished), pause = m_systemZoneChange.pause()](SaveRunResult result) {
             finished(std::move(result));
         });
+}
+
+std::unique_ptr<RenameRun> AppController::makeRenameRun() {
+    RenameRun::Session session{
+        [this] { return m_renameChoices ? m_renameChoices : renameChoices(*m_services.defaults); },
+        [this](const SaveRequest &request) {
+            return renameScope(request, m_droppedFolders.droppedFolders(), source_full());
+        }};
+    return std::make_unique<RenameRun>(
+        std::move(session), RenameServices{*m_services.files, *m_services.zones, m_cancellation,
+                                           m_journal, [this](std::size_t done, std::size_t total) {
+                                               if (m_saveProgress)
+                                                   m_saveProgress(done, total);
+                                           }});
+}
+
+void AppController::startRenamePreview(SaveRequest request, Progress progress,
+                                       std::function<void(std::vector<ItemRename>)> finished) {
+    m_saveProgress = std::move(progress);
+    m_saveWorker.run(
+        [this, request = std::move(request)] { return m_renameRun->renamePreview(request); },
+        [finished = std::move(finished), pause = m_systemZoneChange.pause()](
+            std::vector<ItemRename> outcome) { finished(std::move(outcome)); });
 }
 
 void AppController::logErrors(const SaveRunResult &result) const {

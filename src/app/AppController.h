@@ -14,6 +14,7 @@
 #include "Marking.h"
 #include "MyDroppedFolders.h"
 #include "MyTimelinesController.h"
+#include "RenameRun.h"
 #include "SaveDriver.h"
 #include "SourceBuilder.h"
 #include "SupportFolders.h"
@@ -49,8 +50,9 @@ AppServices systemServices();
 ///
 /// Imports and saves are started here and run on their own threads: an operation returns at once,
 /// and its `finished` is called on the main thread from the event loop, exactly once, unless the
-/// controller is destroyed before. Only one save operation runs at a time, and no folder may be
-/// changed while it does. Only items in the list of the last `buildNewSource` are saved.
+/// controller is destroyed before. A rename is a kind of save. Only one save operation runs at a
+/// time, and no folder may be changed while it does. Only items in the list of the last
+/// `buildNewSource` are saved.
 class AppController {
 public:
     using Progress = std::function<void(std::size_t done, std::size_t total)>;
@@ -147,6 +149,13 @@ public:
     /// Stage one of a save; nothing is written.
     void startPreProcess(SaveRequest request, Progress progress,
                          std::function<void(PreProcessResult)> finished);
+    /// What a rename goes by, in place of the preferences; none: those again.
+    void setRenameChoices(std::optional<RenameChoices> choices) {
+        m_renameChoices = std::move(choices);
+    }
+    /// What the rename of the request would do now; nothing is moved.
+    void startRenamePreview(SaveRequest request, Progress progress,
+                            std::function<void(std::vector<ItemRename>)> finished);
     /// Told on the save's thread what stage two begins to do, by the key of its title.
     void setSaveStepBegins(std::function<void(std::string_view titleKey)> begins) {
         m_saveStepBegins = std::move(begins);
@@ -157,6 +166,7 @@ public:
 
 private:
     int dateComparisonThresold() const;
+    std::unique_ptr<RenameRun> makeRenameRun();
     void logErrors(const SaveRunResult &result) const;
 
     AppServices m_services;
@@ -179,7 +189,9 @@ private:
     RunJournal m_journal;
     XtController m_tool;
     ErrorLog m_errorLog;
+    std::optional<RenameChoices> m_renameChoices;
     SaveDriver m_saveDriver;
+    RenameRun *m_renameRun = nullptr; ///< the driver's last step
     WorkThread m_saveWorker;
 };
 

@@ -64,6 +64,7 @@ public:
     OptionalDate sfFrom, sfTill;
     std::int64_t sfPics = -1; ///< number of items; -1 before the first import has ended
     int fixedDates = 0, saveErrors = 0, renameErrors = 0;
+    RenameAddOns lastRenameAddOns; ///< of the folder; an item's own come first
     std::optional<PerFolderImportOptions> perFolderImportOptions;
     bool isEXIFIgnored = false;
     bool isUnsavedDueToTZC = false;

@@ -91,6 +91,14 @@ std::int64_t MySinglePic::spCategory() const {
     return folder ? folder->folderSortGeneral : -1;
 }
 
+std::optional<std::string> RenameState::cachedTargetName() const {
+    if (!wantedName || !addonCounter)
+        return wantedName;
+    constexpr std::size_t digits = 6;
+    const std::string number = std::to_string(*addonCounter);
+    return *wantedName + std::string(digits - std::min(digits, number.size()), '0') + number;
+}
+
 std::vector<std::string> MySinglePic::spSidecarPaths() const {
     std::vector<std::string> paths;
     if (spSidecarExtensions.empty())

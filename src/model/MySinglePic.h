@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -109,8 +110,23 @@ struct SaveState {
     unsigned normalizationType = 0; ///< bit 1: stamps out of order; bit 4: file dates out of order
 };
 
+/// The texts that a rename placed in a name last, by the number of the add-on, 1 to 3.
+using RenameAddOns = std::map<int, std::string>;
+
+/// What the last rename left undone.
 struct RenameState {
-    int hasRenameError = 0; ///< what a rename could not do with the file; 0 for nothing
+    int hasRenameError = 0; ///< 0 none, 1 an error, 2 a number was added when the file was moved
+    /// The name with extension that the user wanted; none after a rename that did all.
+    std::optional<std::string> wantedName;
+    /// The next number that was to be tried when the wanted name was taken; none: it was not.
+    std::optional<std::int64_t> addonCounter;
+    RenameAddOns lastRenameAddOns;
+
+    /// The wanted name, none as above.
+    const std::optional<std::string> &cleanCachedTargetName() const { return wantedName; }
+    bool hasCTNAddonCounter() const { return addonCounter.has_value(); }
+    /// As an archive holds it: a counter stands behind the name in six digits.
+    std::optional<std::string> cachedTargetName() const;
 };
 
 struct ImportState {
@@ -193,7 +209,14 @@ public:
     std::string spPath() const;     ///< folder path joined with the name
     std::string spBaseName() const; ///< name without extension
     std::string extension() const;  ///< as spelled, without the dot; "" without one
-    const std::string &spSortNameCachedErrorOrReal() const { return spName; }
+    /// The wanted name of an item with a rename error, else its name.
+    const std::string &spSortNameCachedErrorOrReal() const {
+        return rename.hasRenameError != 0 ? spTargetName() : spName;
+    }
+    /// The wanted name where there is one, else the name.
+    const std::string &spTargetName() const {
+        return rename.wantedName ? *rename.wantedName : spName;
+    }
     std::int64_t spCategory() const;                 ///< rank of the real folder
     std::vector<std::string> spSidecarPaths() const; ///< paths of all sidecar files
     std::string spXMPPath() const;                   ///< path of the XMP sidecar; "" without one

@@ -74,6 +74,15 @@ bool RunJournal::begin(std::span<const UnitIntent> units, FileError *error) {
     return true;
 }
 
+bool RunJournal::extend(std::span<const UnitIntent> units, FileError *error) {
+    if (!m_file || m_batch == 0)
+        return begin(units, error);
+    if (!m_file->append(batchFrame(units, absl::Now()), error))
+        return false;
+    m_batch += units.size();
+    return true;
+}
+
 void RunJournal::settle(std::span<const std::size_t> unsettled) {
     if (!m_file || m_batch == 0)
         return;
@@ -94,7 +103,8 @@ void RunJournal::settle(std::span<const std::size_t> unsettled) {
     }
 }
 
-std::vector<RecoveredFile> RunJournal::recover(const std::string &supportFolder, FileLayer &files) {
+std::vector<RecoveredFile> RunJournal::recover(const std::string &supportFolder, FileLayer &files,
+                                               RecoveryDirection) {
     std::vector<RecoveredFile> told;
     for (const std::string &path : JournalFile::list(supportFolder)) {
         auto file = JournalFile::takeOver(path);

@@ -26,9 +26,17 @@ struct FileIntent {
     /// "" when the tool has nothing to do. Nothing stood there before.
     std::string toolCopy;
 };
-/// Files that are written together or not at all: an item, or the two of a group.
+/// A file that is about to be renamed inside its folder, by way of a name that nobody else has.
+struct MoveIntent {
+    std::string folder;
+    std::string oldName, temporaryName, finalName;
+    FileAttributes before; ///< its identity, size and modification date
+};
+/// What is done together or not at all: the files of an item, or the two of a group, that are
+/// written; or an item's files that are renamed.
 struct UnitIntent {
     std::vector<FileIntent> files;
+    std::vector<MoveIntent> moves = {};
 };
 
 /// What became of one file of an interrupted run.
@@ -46,6 +54,9 @@ struct RecoveredFile {
     Result result = Result::Nothing;
     std::string systemText; ///< the system's own words where it refused something; else ""
 };
+/// Which way a recovery brings what was begun: to its end, where that is possible, or back.
+enum class RecoveryDirection : bool { Finish, TakeBack };
+
 /// The file is not put right, and stays recorded for the next time.
 bool isLeft(RecoveredFile::Result result);
 /// Text key of a result, for example "recovery_completed"; its text follows the path and a colon.
@@ -76,14 +87,22 @@ public:
     /// Records the batch in the place of the last one, or behind it when that was never settled.
     /// When it answers true the record is on disk; false: nothing may be written.
     bool begin(std::span<const UnitIntent> units, FileError *error = nullptr);
+    /// Adds units to the batch in hand, before or after its first write. A file that is to be moved
+    /// otherwise than recorded before is recorded again, and the last record of it holds.
+    bool extend(std::span<const UnitIntent> units, FileError *error = nullptr);
     /// The batch is written and its files are safe, but for the units with these indices: they stay
     /// recorded for `recover`.
     void settle(std::span<const std::size_t> unsettled = {});
 
     /// Puts right what interrupted runs left: a unit of which any value is new is completed, unless
     /// the tool had still to run, then it is taken back. Every value is proved to be old, new or
-    /// torn between the two first. Tells of every file that was recorded and not settled.
-    static std::vector<RecoveredFile> recover(const std::string &supportFolder, FileLayer &files);
+    /// torn between the two first. Files that were to be renamed are brought to their new names,
+    /// all of an item together; where somebody else has taken one, to their old names or to a
+    /// number. With TakeBack all goes back to where it was, but for what the tool has done. Tells
+    /// of every file that was recorded and not settled.
+    static std::vector<RecoveredFile>
+    recover(const std::string &supportFolder, FileLayer &files,
+            RecoveryDirection direction = RecoveryDirection::Finish);
     /// A run was interrupted and is not put right yet. Cheap.
     static bool hasUnfinished(const std::string &supportFolder);
     /// Drops records that `recover` could not put right; the number of files given up.

@@ -50,8 +50,8 @@ std::size_t SaveDriver::piValueForCount(std::size_t count) {
 }
 
 std::vector<MySingleFolderPtr> SaveDriver::foldersToSave(const SaveRequest &request) const {
-    if (request.onlyFolder)
-        return {request.onlyFolder};
+    if (!request.onlyFolders.empty() && request.type != SaveProcessType::SaveThenRenameAll)
+        return request.onlyFolders;
     std::vector<MySingleFolderPtr> folders;
     for (const MySingleFolderPtr &folder : m_folders) {
         const bool isAll = request.type == SaveProcessType::SaveThenRenameAll;

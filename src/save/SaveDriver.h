@@ -16,6 +16,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,7 @@ struct PreProcessResult {
 
 struct SaveRunResult {
     std::vector<ItemOutcome> items;
+    std::vector<ItemRename> renames = {};
     std::vector<SaveError> errors;
     std::string toolErrors = {}; ///< the external tool's summary of what it had to complain of
     bool wasCancelled = false;
@@ -52,8 +54,12 @@ struct SaveRunResult {
 
 struct SaveRequest {
     SaveProcessType type = SaveProcessType::Save;
-    MySingleFolderPtr onlyFolder = {}; ///< none: every folder with unsaved items
-    bool savingAll = false;            ///< items without changes are written as well
+    /// The current folder, or those that are selected together; empty: every folder with unsaved
+    /// items, or where all are renamed, every folder.
+    std::vector<MySingleFolderPtr> onlyFolders = {};
+    bool savingAll = false; ///< items without changes are written as well
+    /// A rename is for these items alone, in order; none: for all of the folders.
+    std::optional<std::vector<MySinglePicPtr>> onlyPics = {};
 };
 
 struct SaveServices {

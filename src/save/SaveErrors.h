@@ -44,12 +44,17 @@ enum class SaveErrorId : int {
     CannotBeOpened = 2,
     ChangedSinceImport = 3,
     NotReachable = 4,
+    NotRenamed = 5,
     SyncCannotBeOpened = 6, ///< the XMP sync could not open the file
     SidecarCannotBeOpened = 7,
+    NumberAdded = 8,          ///< a rename's name was taken
+    CompanionNotWritable = 9, ///< the item is not renamed for it
     CannotBeOpenedChecking = 10,
     ChangedSinceImportChecking = 11,
     NotReachableChecking = 12,
+    CompanionNotRenamed = 14, ///< a companion is missing or could not be moved with its item
     SidecarMissing = 15,
+    NameBeginsWithDot = 18,
     NotWrittenUnreadableBack =
         21,                 ///< a stamp built for it does not read back as the wanted instant
     WriteFailed = 23,       ///< the system refused a write in the middle of an item

@@ -25,6 +25,27 @@ struct SlotOutcome {
     std::string_view reasonKey = {}; ///< text key of why it was refused; "" for none
 };
 
+/// A file of an item that is renamed; names are those inside the item's folder.
+struct RenamedFile {
+    std::string oldName, newName; ///< where it stands now, or in a dry run would stand
+};
+enum class RenameResult : std::uint8_t {
+    Renamed,
+    Unchanged,    ///< it has its name already
+    Refused,      ///< nothing of it was moved
+    LeftOnTheWay, ///< it stands at its temporary name
+    NotReached,   ///< the run was cancelled before it
+};
+/// What became of an item's names, or in a dry run would become.
+struct ItemRename {
+    MySinglePicPtr pic;
+    RenameResult result = RenameResult::Unchanged;
+    std::string folderPath, wantedName; ///< the name of the main file without a number
+    std::int64_t addedNumber = 0;       ///< behind the name, from 2; 0: none
+    std::vector<RenamedFile> files;     ///< the main file first, then its companions
+    std::vector<SaveError> errors = {};
+};
+
 enum class ItemResult : std::uint8_t {
     Saved,
     Unchanged,  ///< nothing to write

@@ -241,7 +241,7 @@ TEST(SaveDriverFolders, TakesUnsavedFoldersInOrderAndPassesOverIgnoredOnes) {
         setSfDateModificationsFromTimeInterval(session.folder(i), absl::Hours(1), false);
     session.folder(1).isEXIFIgnored = true;
     EXPECT_THAT(session.preProcess().folders, ElementsAre(session.folders[0], session.folders[3]));
-    EXPECT_THAT(session.save({.onlyFolder = session.folders[3]}).items, SizeIs(1));
+    EXPECT_THAT(session.save({.onlyFolders = {session.folders[3]}}).items, SizeIs(1));
     EXPECT_FALSE(session.folder(3).isUnsavedFolder());
     EXPECT_TRUE(session.folder(0).isUnsavedFolder());
 }

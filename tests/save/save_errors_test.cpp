@@ -26,12 +26,17 @@ std::vector<SaveErrorId> allIds() {
         case SaveErrorId::CannotBeOpened:
         case SaveErrorId::ChangedSinceImport:
         case SaveErrorId::NotReachable:
+        case SaveErrorId::NotRenamed:
         case SaveErrorId::SyncCannotBeOpened:
         case SaveErrorId::SidecarCannotBeOpened:
+        case SaveErrorId::NumberAdded:
+        case SaveErrorId::CompanionNotWritable:
         case SaveErrorId::CannotBeOpenedChecking:
         case SaveErrorId::ChangedSinceImportChecking:
         case SaveErrorId::NotReachableChecking:
+        case SaveErrorId::CompanionNotRenamed:
         case SaveErrorId::SidecarMissing:
+        case SaveErrorId::NameBeginsWithDot:
         case SaveErrorId::NotWrittenUnreadableBack:
         case SaveErrorId::WriteFailed:
         case SaveErrorId::ToolFailed:

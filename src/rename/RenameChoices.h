@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "NameBuilder.h"
+#include "SaveDriver.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace chronomender {
+
+enum class CounterType : int { PerFolder = 0, Running = 1 };
+
+/// What the user chose for a rename; read once when a run begins.
+struct RenameChoices {
+    NameSettings names;
+    AddOnTexts additionalTexts;
+    /// The add-on that an item or its folder has already is kept.
+    std::array<bool, 3> keepsAddOn{};
+    CounterType counterType = CounterType::Running;
+    bool wantsCompoundAltCounter = false; ///< folders selected together are counted as one
+    std::int64_t firstCounter = 1;
+    bool rename_restrictCounter = false; ///< of a selection only its own items are counted
+    bool useNameAtImportAsSourceName = true;
+};
+/// As the preferences say, with all that a sheet could hide in use. None without a selected
+/// template.
+std::optional<RenameChoices> renameChoices(const UserDefaults &defaults);
+
+/// What of the session a rename is for. Made on the main thread.
+struct RenameScope {
+    std::vector<MySingleFolderPtr> folders;  ///< of the session: `droppedFoldersTempFixRename`
+    std::vector<MySinglePicPtr> source_full; ///< the visible order
+    /// The folders that are selected together, when a rename is for them; empty: all, or one.
+    std::vector<MySingleFolderPtr> onlyFolders;
+    std::optional<std::vector<MySinglePicPtr>> onlyPics; ///< the restricted list
+
+    /// The folders whose items may be renamed, in order.
+    std::vector<MySingleFolderPtr> workList() const;
+    bool isCompound() const { return onlyFolders.size() > 1; }
+};
+/// For process types with a rename. All folders for SaveThenRenameAll, whatever the request says.
+RenameScope renameScope(const SaveRequest &request, const std::vector<MySingleFolderPtr> &folders,
+                        const std::vector<MySinglePicPtr> &source_full);
+
+} // namespace chronomender
