@@ -6,7 +6,8 @@
 namespace chronomender {
 
 /// Remembers, at the begin of a run, what the user typed as add-ons: in the items of a selection,
-/// else in the folders. Main thread.
+/// else in the folders. What is kept stays as it is. The texts that `addOnsOfPic` answers for the
+/// items of the scope are the same before and after. Main thread.
 void rememberAddOns(const RenameScope &scope, const RenameChoices &choices);
 
 /// The add-on texts of one item: what it or its folder has, where that is to be kept, else what the

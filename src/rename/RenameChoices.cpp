@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RenameChoices.h"
+#include "CompoundMenuTag.h"
 #include "TemplateStore.h"
 
 #include <algorithm>
@@ -18,18 +19,22 @@ std::optional<RenameChoices> renameChoices(const UserDefaults &defaults) {
     names.suffixVisibility =
         static_cast<SuffixVisibility>(defaults.integerForKey("suffixVisibility"));
     names.suffixChangeCase = static_cast<SuffixCase>(defaults.integerForKey("suffixChangeCase"));
-    if (defaults.boolForKey("modAtRenameFolder"))
+    if (names.renameTemplate.has(RenameElement::FolderName) &&
+        defaults.boolForKey("modAtRenameFolder"))
         names.folderModifications = modificationsForTag(ModificationTag::Folder, defaults);
-    if (defaults.boolForKey("modAtRenameFile"))
+    if (names.renameTemplate.has(RenameElement::SourceName) &&
+        defaults.boolForKey("modAtRenameFile"))
         names.fileModifications = modificationsForTag(ModificationTag::File, defaults);
     choices.additionalTexts = {defaults.stringForKey("additionalText"),
                                defaults.stringForKey("additionalText2"),
                                defaults.stringForKey("additionalText3")};
-    choices.keepsAddOn = {defaults.boolForKey("rename_keepAddOn1"),
-                          defaults.boolForKey("rename_keepAddOn2"),
-                          defaults.boolForKey("rename_keepAddOn3")};
-    choices.counterType = static_cast<CounterType>(defaults.integerForKey("counterType"));
-    choices.wantsCompoundAltCounter = defaults.boolForKey("counterType_prefersCompoundAltOption");
+    constexpr std::array keepKeys{"rename_keepAddOn1", "rename_keepAddOn2", "rename_keepAddOn3"};
+    const auto addOns = static_cast<std::size_t>(names.renameTemplate.useAddOnsCount());
+    for (std::size_t i = 0; i < addOns; ++i)
+        choices.keepsAddOn[i] = defaults.boolForKey(keepKeys[i]);
+    const CompoundMenuTag counterMenu = menuTag(counterTypeMenu, defaults);
+    choices.counterType = static_cast<CounterType>(counterMenu.integer());
+    choices.wantsCompoundAltCounter = counterMenu.isCompoundAlternative();
     const int startOption = defaults.integerForKey("renameCounterStartOption");
     if (startOption == 2 || startOption == 3)
         choices.firstCounter = defaults.integerForKey("renameCounterStartValue");

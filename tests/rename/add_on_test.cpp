@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "AddOnMemory.h"
+#include "LittleItem.h"
+
+#include <gtest/gtest.h>
+
+namespace chronomender {
+namespace {
+
+RenameChoices typing(const std::string &text, bool isKept) {
+    RenameChoices choices;
+    choices.names.renameTemplate.stringParts = {TemplatePart::ofElement(RenameElement::AddOn)};
+    choices.additionalTexts = {text, "second", ""};
+    choices.keepsAddOn[0] = isKept;
+    return choices;
+}
+
+// Every way in which an item and its folder can have a text, for a run over the folder and one over
+// a selection: the name of a dry run, which remembers nothing, is the name of the run.
+TEST(AddOnTest, KeepsTheNearestTextAndTellsTheSameBeforeAndAfter) {
+    const struct {
+        const char *own, *folders;
+        bool isRestricted, isKept;
+        const char *name, *ownAfter, *foldersAfter;
+    } cases[] = {
+        {"", "", false, false, "new", "", "new"},
+        {"own", "old", false, false, "new", "", "new"},
+        {"own", "old", false, true, "own", "own", "old"},
+        {"", "old", false, true, "old", "", "old"},
+        {"own", "", false, true, "own", "own", "new"},
+        {"", "", true, false, "new", "new", ""},
+        {"own", "old", true, false, "new", "new", "old"},
+        {"own", "old", true, true, "own", "own", "old"},
+        {"", "old", true, true, "old", "", "old"},
+        {"", "", true, true, "new", "new", ""},
+    };
+    for (const auto &each : cases) {
+        const auto folder = little::makeFolder();
+        const auto pic = little::addItem(folder, SpTypeExifOriginal, little::utc(2024, 5, 1));
+        if (*each.own)
+            pic->rename.lastRenameAddOns[1] = each.own;
+        if (*each.folders)
+            folder->lastRenameAddOns[1] = each.folders;
+        RenameScope scope{{folder}, {pic}, {}, {}};
+        if (each.isRestricted)
+            scope.onlyPics.emplace({pic});
+        const RenameChoices choices = typing("new", each.isKept);
+        EXPECT_EQ(addOnsOfPic(*pic, choices)[0], each.name);
+        rememberAddOns(scope, choices);
+        EXPECT_EQ(addOnsOfPic(*pic, choices)[0], each.name);
+        const auto kept = [](RenameAddOns &addOns) { return addOns[1]; };
+        EXPECT_EQ(kept(pic->rename.lastRenameAddOns), each.ownAfter);
+        EXPECT_EQ(kept(folder->lastRenameAddOns), each.foldersAfter);
+        EXPECT_FALSE(folder->lastRenameAddOns.contains(2)) << "the template places one";
+    }
+}
+
+TEST(AddOnTest, ForgetsATextThatIsTypedEmpty) {
+    const auto folder = little::makeFolder();
+    folder->lastRenameAddOns[1] = "old";
+    rememberAddOns({{folder}, {}, {}, {}}, typing("", false));
+    EXPECT_FALSE(folder->lastRenameAddOns.contains(1));
+}
+
+} // namespace
+} // namespace chronomender
