@@ -4,16 +4,14 @@
 #include "TemplateStore.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace chronomender {
 
-std::optional<RenameChoices> renameChoices(const UserDefaults &defaults) {
-    const auto selected = selectedTemplate(defaults);
-    if (!selected)
-        return std::nullopt;
+RenameChoices renameChoices(const UserDefaults &defaults, RenameTemplate renameTemplate) {
     RenameChoices choices;
     NameSettings &names = choices.names;
-    names.renameTemplate = *selected;
+    names.renameTemplate = std::move(renameTemplate);
     names.frontDotHandlingMode =
         static_cast<FrontDotMode>(defaults.integerForKey("frontDotHandlingMode"));
     names.suffixVisibility =
@@ -41,6 +39,13 @@ std::optional<RenameChoices> renameChoices(const UserDefaults &defaults) {
     choices.rename_restrictCounter = defaults.boolForKey("rename_restrictCounter");
     choices.useNameAtImportAsSourceName = defaults.boolForKey("useNameAtImportAsSourceName");
     return choices;
+}
+
+std::optional<RenameChoices> renameChoices(const UserDefaults &defaults) {
+    auto selected = selectedTemplate(defaults);
+    if (!selected)
+        return std::nullopt;
+    return renameChoices(defaults, std::move(*selected));
 }
 
 std::vector<MySingleFolderPtr> RenameScope::workList() const {

@@ -25,8 +25,10 @@ struct RenameChoices {
     bool rename_restrictCounter = false; ///< of a selection only its own items are counted
     bool useNameAtImportAsSourceName = true;
 };
-/// As the preferences say, with all that a sheet could hide in use. None without a selected
-/// template.
+/// As the preferences say. Only what the template places is in use: add-ons are kept, and the names
+/// of folder and file are modified, where it has their elements.
+RenameChoices renameChoices(const UserDefaults &defaults, RenameTemplate renameTemplate);
+/// With the selected template; none without one.
 std::optional<RenameChoices> renameChoices(const UserDefaults &defaults);
 
 /// What of the session a rename is for. Made on the main thread.
