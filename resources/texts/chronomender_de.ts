@@ -1145,5 +1145,65 @@ Beispiele:
     <message id="workPanelRename">
         <translation>Dateien werden umbenannt</translation>
     </message>
+    <message id="renameStringPartGraphic_1">
+        <translation>Jahr</translation>
+    </message>
+    <message id="renameStringPartGraphic_10">
+        <translation>Dateiname</translation>
+    </message>
+    <message id="renameStringPartGraphic_2">
+        <translation>Monat</translation>
+    </message>
+    <message id="renameStringPartGraphic_3">
+        <translation>Tag</translation>
+    </message>
+    <message id="renameStringPartGraphic_4">
+        <translation>Stunde</translation>
+    </message>
+    <message id="renameStringPartGraphic_5">
+        <translation>Minute</translation>
+    </message>
+    <message id="renameStringPartGraphic_6">
+        <translation>Sekunde</translation>
+    </message>
+    <message id="renameStringPartGraphic_7">
+        <translation>Zähler</translation>
+    </message>
+    <message id="renameStringPartGraphic_8">
+        <translation>Ordnername</translation>
+    </message>
+    <message id="renameStringPartGraphic_9">
+        <translation>Text 1</translation>
+    </message>
+    <message id="renameStringPartGraphic_9b">
+        <translation>Text 2</translation>
+    </message>
+    <message id="renameStringPartGraphic_9c">
+        <translation>Text 3</translation>
+    </message>
+    <message id="templateTextError_addOnOrder">
+        <translation>„{%1}“ kommt zu früh: {addon1}, {addon2} und {addon3} stehen in dieser Reihenfolge, ohne Lücken.</translation>
+    </message>
+    <message id="templateTextError_braceWithoutBegin">
+        <translation>Ein „}“ ohne „{“ davor. Eine Klammer, die im Namen stehen soll, wird verdoppelt: „}}“.</translation>
+    </message>
+    <message id="templateTextError_braceWithoutEnd">
+        <translation>Ein „{“ ohne „}“ dahinter. Eine Klammer, die im Namen stehen soll, wird verdoppelt: „{{“.</translation>
+    </message>
+    <message id="templateTextError_counterDigits">
+        <translation>„{%1}“: ein Zähler hat mindestens 1 bis 9 Stellen, wie in {counter:4}.</translation>
+    </message>
+    <message id="templateTextError_notUtf8">
+        <translation>Die Vorlage ist nicht in UTF-8 geschrieben.</translation>
+    </message>
+    <message id="templateTextError_refusedCharacter">
+        <translation>Ein Name kann keine Doppelpunkte, Schrägstriche, Steuerzeichen und keine Zeichen enthalten, die die Schreibrichtung ändern.</translation>
+    </message>
+    <message id="templateTextError_twice">
+        <translation>Eine Vorlage kann „{%1}“ nur einmal enthalten.</translation>
+    </message>
+    <message id="templateTextError_unknownElement">
+        <translation>Ein Element „{%1}“ gibt es nicht. Es gibt: {year} {year2} {month} {month1} {day} {hour} {minute} {second} {counter} {counter:4} {folder} {name} {addon1} {addon2} {addon3}.</translation>
+    </message>
 </context>
 </TS>

@@ -1145,5 +1145,65 @@ Examples:
     <message id="workPanelRename">
         <translation>Renaming files</translation>
     </message>
+    <message id="renameStringPartGraphic_1">
+        <translation>Year</translation>
+    </message>
+    <message id="renameStringPartGraphic_10">
+        <translation>File name</translation>
+    </message>
+    <message id="renameStringPartGraphic_2">
+        <translation>Month</translation>
+    </message>
+    <message id="renameStringPartGraphic_3">
+        <translation>Day</translation>
+    </message>
+    <message id="renameStringPartGraphic_4">
+        <translation>Hour</translation>
+    </message>
+    <message id="renameStringPartGraphic_5">
+        <translation>Minute</translation>
+    </message>
+    <message id="renameStringPartGraphic_6">
+        <translation>Second</translation>
+    </message>
+    <message id="renameStringPartGraphic_7">
+        <translation>Counter</translation>
+    </message>
+    <message id="renameStringPartGraphic_8">
+        <translation>Folder name</translation>
+    </message>
+    <message id="renameStringPartGraphic_9">
+        <translation>Text 1</translation>
+    </message>
+    <message id="renameStringPartGraphic_9b">
+        <translation>Text 2</translation>
+    </message>
+    <message id="renameStringPartGraphic_9c">
+        <translation>Text 3</translation>
+    </message>
+    <message id="templateTextError_addOnOrder">
+        <translation>“{%1}” comes too early: {addon1}, {addon2} and {addon3} stand in this order, without gaps.</translation>
+    </message>
+    <message id="templateTextError_braceWithoutBegin">
+        <translation>A “}” without “{” before it. A brace that is to stand in the name is doubled: “}}”.</translation>
+    </message>
+    <message id="templateTextError_braceWithoutEnd">
+        <translation>A “{” without “}” behind it. A brace that is to stand in the name is doubled: “{{”.</translation>
+    </message>
+    <message id="templateTextError_counterDigits">
+        <translation>“{%1}”: a counter has at least 1 to 9 digits, as in {counter:4}.</translation>
+    </message>
+    <message id="templateTextError_notUtf8">
+        <translation>The template is not written in UTF-8.</translation>
+    </message>
+    <message id="templateTextError_refusedCharacter">
+        <translation>A name cannot hold colons, slashes, backslashes, control characters or characters that change the direction of writing.</translation>
+    </message>
+    <message id="templateTextError_twice">
+        <translation>A template can hold “{%1}” only once.</translation>
+    </message>
+    <message id="templateTextError_unknownElement">
+        <translation>There is no element “{%1}”. There are: {year} {year2} {month} {month1} {day} {hour} {minute} {second} {counter} {counter:4} {folder} {name} {addon1} {addon2} {addon3}.</translation>
+    </message>
 </context>
 </TS>

@@ -49,11 +49,6 @@ bool isRefusedFolder(std::string_view path) {
     return false;
 }
 
-std::string_view extensionOfName(std::string_view name) {
-    const std::size_t dot = name.find_last_of('.');
-    return dot == std::string_view::npos || dot == 0 ? std::string_view() : name.substr(dot + 1);
-}
-
 bool isExtension(std::string_view given, std::string_view lowerCase) {
     return std::ranges::equal(given, lowerCase, {}, lowered);
 }

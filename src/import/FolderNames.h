@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "NameParts.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,8 +18,6 @@ bool isNamePassedOver(std::string_view name);
 /// file in there is ever imported. Looks at every folder of the path.
 bool isRefusedFolder(std::string_view path);
 
-/// The part of a name behind its last dot, as spelled; "" for names like ".jpg" or "IMG_1".
-std::string_view extensionOfName(std::string_view name);
 /// The extension is this one, whatever its letter case.
 bool isExtension(std::string_view given, std::string_view lowerCase);
 

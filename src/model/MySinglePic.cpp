@@ -2,6 +2,7 @@
 #include "MySinglePic.h"
 
 #include "MySingleFolder.h"
+#include "NameParts.h"
 
 #include <algorithm>
 #include <atomic>
@@ -12,12 +13,6 @@ namespace {
 std::uint32_t nextSessionUniqueId() {
     static std::atomic<std::uint32_t> counter{0};
     return ++counter;
-}
-
-/// Where the extension's dot stands; a dot in front starts a hidden name, not an extension.
-std::size_t positionOfExtensionDot(const std::string &name) {
-    const std::size_t dot = name.rfind('.');
-    return dot == 0 ? std::string::npos : dot;
 }
 
 std::string joined(std::string folder, std::string_view name) {
@@ -78,12 +73,11 @@ std::string MySinglePic::spPath() const {
 }
 
 std::string MySinglePic::spBaseName() const {
-    return spName.substr(0, positionOfExtensionDot(spName));
+    return std::string(baseOfName(spName));
 }
 
 std::string MySinglePic::extension() const {
-    const std::size_t dot = positionOfExtensionDot(spName);
-    return dot == std::string::npos ? std::string() : spName.substr(dot + 1);
+    return std::string(extensionOfName(spName));
 }
 
 std::int64_t MySinglePic::spCategory() const {

@@ -1,32 +1,71 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "NameBuilder.h"
 
+#include "NameParts.h"
+#include "NameValues.h"
+#include "ZoneLookup.h"
+
 namespace chronomender {
+namespace {
 
-std::optional<NameFacts> nameFactsOf(const MySinglePic &, bool, const Zones &) {
-    return std::nullopt;
+constexpr char temporaryMarker = '_';
+constexpr std::string_view emptyName = "_";
+constexpr std::size_t usualLength = 64;
+
+std::string lastPathComponent(std::string_view path) {
+    while (path.ends_with('/'))
+        path.remove_suffix(1);
+    return std::string(path.substr(path.rfind('/') + 1)); // npos + 1 is 0
 }
 
-std::string nameString(const NameFacts &facts, std::int64_t, const AddOnTexts &,
-                       const NameSettings &, bool) {
-    return facts.spName;
+} // namespace
+
+std::optional<NameFacts> nameFactsOf(const MySinglePic &pic, bool useNameAtImport,
+                                     const Zones &zones) {
+    const MySingleFolderPtr folder = pic.spSingleRealFolder();
+    if (!folder)
+        return std::nullopt;
+    NameFacts facts{pic.spDateTimeModified_sort(),
+                    targetTimeZoneForPic(pic, *folder, zones).rules,
+                    lastPathComponent(folder->sfFolderPath()),
+                    useNameAtImport ? pic.spNameAtImport : pic.spTargetName(),
+                    pic.spName,
+                    {}};
+    if (pic.group.bundleDependentImage || !pic.spSidecarExtensions.empty())
+        facts.spNameComplete = spNameComplete(pic);
+    return facts;
 }
 
-StyledName styledNameString(const NameFacts &, std::int64_t, const AddOnTexts &,
-                            const NameSettings &) {
-    return {};
+std::string nameString(const NameFacts &facts, std::int64_t counter, const AddOnTexts &addOns,
+                       const NameSettings &settings, bool buildTempName) {
+    const NameValues values(facts, counter, addOns, settings, NameValues::Purpose::Disk);
+    std::string name;
+    name.reserve(usualLength);
+    walkParts(settings.renameTemplate, [&](const TemplatePart &part, std::optional<int> slot) {
+        name += slot ? values[*slot] : std::string_view(part.text);
+    });
+    if (name.empty())
+        name = emptyName;
+    if (buildTempName)
+        name += temporaryMarker;
+    if (settings.frontDotHandlingMode == FrontDotMode::Remove)
+        name.erase(0, frontDotsToRemove(name));
+    return name += dottedExtension(facts, settings);
 }
 
 std::string cleanedTempName(const std::string &name) {
-    return name;
+    std::string cleaned = name;
+    const std::size_t baseLength = baseOfName(name).size();
+    // What looks like an extension may be the end of a base with a dot in it: there, the marker
+    // stands behind everything.
+    for (const std::size_t end : {baseLength, name.size()})
+        if (end > 0 && name[end - 1] == temporaryMarker)
+            return cleaned.erase(end - 1, 1);
+    return cleaned;
 }
 
-std::string correctedExtension(const std::string &extension, SuffixCase) {
-    return extension;
-}
-
-std::string spNameComplete(const MySinglePic &pic) {
-    return pic.spName;
+std::string correctedExtension(const std::string &extension, SuffixCase suffixChangeCase) {
+    return caseChanged(extension, suffixChangeCase);
 }
 
 } // namespace chronomender

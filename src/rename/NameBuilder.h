@@ -39,10 +39,12 @@ struct NameFacts {
     Date date;           ///< `spDateTimeModified_sort`; InfinitePast for none
     absl::TimeZone zone; ///< the item's target zone
     std::string folderName;
-    std::string sourceName;     ///< with its extension
-    std::string spName;         ///< the present name, for the extension
-    std::string spNameComplete; ///< with the companions told behind it; for styled names alone
+    std::string sourceName; ///< with its extension
+    std::string spName;     ///< the present name, for the extension
+    /// With the companions told behind it, for styled names; "" without companions.
+    std::string spNameComplete;
 };
+
 /// None when the item stands in no folder. With `useNameAtImport` the source is the name at import,
 /// else the name that the user wanted last, else the present one. Any thread while nothing changes
 /// the item.
@@ -82,7 +84,7 @@ StyledName styledNameString(const NameFacts &facts, std::int64_t counter, const 
 std::string cleanedTempName(const std::string &name);
 /// An extension in the case that the setting says.
 std::string correctedExtension(const std::string &extension, SuffixCase suffixChangeCase);
-/// The name with what moves along: "a.CR2 (+.JPG, [.xmp])".
+/// The name with what moves along: "a.CR2 (+.JPG, .xmp)", "a.HEIC (+.MOV, [.xmp, .aae])".
 std::string spNameComplete(const MySinglePic &pic);
 
 } // namespace chronomender

@@ -24,6 +24,8 @@ enum class RenameElement : int {
     SourceName,
 };
 inline constexpr int renameElementCount = 10;
+/// A counter is filled up with zeros to so many digits at most.
+inline constexpr int mostCounterDigits = 9;
 /// How often a template may hold the element.
 constexpr int mostOccurrences(RenameElement element) {
     return element == RenameElement::AddOn ? 3 : 1;

@@ -46,6 +46,9 @@ std::string modifiedStringFromString(const std::string &text, const TextModifica
 /// All rows, one after the other. An empty text stays empty.
 std::string modifiedStringFromString(const std::string &text, const TextModifications &rows);
 
+/// Some row is enabled.
+bool changesAnything(const TextModifications &rows);
+
 /// Rows under a name, to be chosen again.
 struct TextModificationTemplate {
     int key = 0;
