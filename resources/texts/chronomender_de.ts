@@ -1205,5 +1205,26 @@ Beispiele:
     <message id="templateTextError_unknownElement">
         <translation>Ein Element „{%1}“ gibt es nicht. Es gibt: {year} {year2} {month} {month1} {day} {hour} {minute} {second} {counter} {counter:4} {folder} {name} {addon1} {addon2} {addon3}.</translation>
     </message>
+    <message id="nameCheck_control">
+        <translation>der Name enthält ein Steuerzeichen</translation>
+    </message>
+    <message id="nameCheck_direction">
+        <translation>der Name enthält ein Zeichen, das die Schreibrichtung umkehrt</translation>
+    </message>
+    <message id="nameCheck_ending">
+        <translation>der Name endet mit einem Punkt oder Leerzeichen</translation>
+    </message>
+    <message id="nameCheck_notUtf8">
+        <translation>der Name ist kein gültiges UTF-8</translation>
+    </message>
+    <message id="nameCheck_reserved">
+        <translation>der Name steht unter Windows für ein Gerät</translation>
+    </message>
+    <message id="nameCheck_separator">
+        <translation>der Name enthält ein „/“</translation>
+    </message>
+    <message id="nameCheck_tooLong">
+        <translation>der Name ist zu lang für das Dateisystem</translation>
+    </message>
 </context>
 </TS>

@@ -1205,5 +1205,26 @@ Examples:
     <message id="templateTextError_unknownElement">
         <translation>There is no element “{%1}”. There are: {year} {year2} {month} {month1} {day} {hour} {minute} {second} {counter} {counter:4} {folder} {name} {addon1} {addon2} {addon3}.</translation>
     </message>
+    <message id="nameCheck_control">
+        <translation>the name holds a control character</translation>
+    </message>
+    <message id="nameCheck_direction">
+        <translation>the name holds a character that turns the direction of writing</translation>
+    </message>
+    <message id="nameCheck_ending">
+        <translation>the name ends with a dot or a blank</translation>
+    </message>
+    <message id="nameCheck_notUtf8">
+        <translation>the name is not valid UTF-8</translation>
+    </message>
+    <message id="nameCheck_reserved">
+        <translation>the name is reserved for a device on Windows</translation>
+    </message>
+    <message id="nameCheck_separator">
+        <translation>the name holds a "/"</translation>
+    </message>
+    <message id="nameCheck_tooLong">
+        <translation>the name is too long for the file system</translation>
+    </message>
 </context>
 </TS>

@@ -75,6 +75,10 @@ bool renameByLink(const char *from, const char *to) {
     return false;
 }
 
+bool syncFolder(int directory) {
+    return retryInterrupted([&] { return fsync(directory); }) == 0;
+}
+
 void copyExtendedAttributes(int from, int to) {
     std::vector<char> names(XATTR_LIST_MAX), value(XATTR_SIZE_MAX);
     const ssize_t length = flistxattr(from, names.data(), names.size());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "PreProcess.h"
 #include "RenamePlan.h"
 #include "RunStep.h"
 
@@ -31,6 +32,9 @@ public:
     std::vector<ItemRename> renamePreview(const SaveRequest &request);
 
 private:
+    void moveFiles(RenamePlan &plan, const RenameChoices &choices, bool isOfSelection,
+                   ProgressCounter &progress, SaveRunResult &result);
+
     Session m_session;
     RenameServices m_services;
 };
