@@ -19,6 +19,7 @@ public:
     std::atomic<int> opens{0}, updateOpens{0}, reads{0}, writes{0}, dateSettings{0},
         attributeReads{0};
     std::atomic<std::size_t> bytesWritten{0};
+    int renames = 0;
     int touches() const { return opens + reads + writes + dateSettings + attributeReads; }
 
     // ---- what is to go wrong
@@ -27,6 +28,8 @@ public:
     std::size_t tornBytes = 0; ///< bytes of a failing write that reach the file
     int failingDateSetting = 0;
     int updateOpenError = 0; ///< errno of every opening for update
+    int failingRenamesFrom = 0, lastFailingRename = 1'000'000, renameError = 0;
+    std::function<void(const std::string &from, const std::string &to)> beforeRename;
     /// The program dies at this call, of whatever kind: it and all behind it do nothing, but that
     /// the write that it dies at leaves `tornBytes`.
     int diesAtCall = 0;
@@ -60,10 +63,22 @@ public:
     }
     bool renameExclusively(const std::string &from, const std::string &to,
                            FileError *error) override {
-        return !isDead() && m_system->renameExclusively(from, to, error);
+        ++renames;
+        if (beforeRename)
+            beforeRename(from, to);
+        const bool isFailing =
+            renameError != 0 && renames >= failingRenamesFrom && renames <= lastFailingRename;
+        if (isFailing && error)
+            error->code = renameError;
+        return !isFailing && !isDead() && rename(from, to, error);
     }
     bool touchDirectory(const std::string &path) override {
         return !isDead() && m_system->touchDirectory(path);
+    }
+
+protected:
+    virtual bool rename(const std::string &from, const std::string &to, FileError *error) {
+        return m_system->renameExclusively(from, to, error);
     }
 
 private:

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "FakeSession.h"
+#include "RenameRun.h"
+
+namespace chronomender::little {
+
+/// A session whose items are renamed. A file tells what it was called at first: its content ends
+/// with that name. Each item wishes for the name that it had at import, which a test replaces.
+class RenameSession : public FakeSession {
+public:
+    RenameSession() {
+        choices.names.renameTemplate.stringParts = {
+            TemplatePart::ofElement(RenameElement::SourceName)};
+    }
+
+    RenameChoices choices;
+    FileLayer *layer = &files; ///< a test may put another one here
+
+    /// Photos, raw files and companions by their extensions.
+    void add(const std::string &name) {
+        const PhotoFields fields{.original = "2024:05:06 07:08:09"};
+        const bool isSidecar = name.ends_with("xmp") || name.ends_with("XMP");
+        write(name, (isSidecar               ? "<x:xmpmeta xmlns:x='adobe:ns:meta/'></x:xmpmeta>"
+                     : name.ends_with("CR2") ? tiffPhoto(fields).bytes
+                                             : jpegPhoto(fields).bytes) +
+                        '\n' + name);
+    }
+    /// The items in the order of these wishes, "wanted" being a name without extension.
+    void wish(const std::vector<std::pair<std::string, std::string>> &wishes) {
+        for (std::size_t i = 0; i < wishes.size(); ++i) {
+            item(wishes[i].first).spNameAtImport = wishes[i].second + ".wish";
+            item(wishes[i].first).positions.indexInSource_full = static_cast<std::int64_t>(i);
+        }
+    }
+    RenameRun renameRun() {
+        const auto scope = [this](const SaveRequest &request) {
+            std::vector<MySinglePicPtr> source;
+            for (const MySingleFolderPtr &each : folders)
+                source.insert(source.end(), each->sfPicDetails_fullArray.begin(),
+                              each->sfPicDetails_fullArray.end());
+            std::ranges::stable_sort(source, {}, [](const MySinglePicPtr &pic) {
+                return pic->positions.indexInSource_full;
+            });
+            return renameScope(request, folders, source);
+        };
+        return RenameRun({[this] { return std::optional(choices); }, scope},
+                         {*layer, zones, cancellation, journal, progress});
+    }
+    SaveRunResult rename(const SaveRequest &request = {SaveProcessType::Rename}) {
+        SaveRunResult result;
+        renameRun().run(request, {}, result);
+        return result;
+    }
+
+    /// What stands in the folder: the present name and the first one of each file.
+    std::map<std::string, std::string> onDisk(std::size_t index = 0) const {
+        std::map<std::string, std::string> found;
+        for (const auto &entry :
+             std::filesystem::directory_iterator(folders.at(index)->sfFolderPath())) {
+            const std::string content = fileContent(entry.path());
+            found[entry.path().filename()] = content.substr(content.rfind('\n') + 1);
+        }
+        return found;
+    }
+
+    std::function<void(std::size_t done, std::size_t total)> progress;
+};
+
+} // namespace chronomender::little
