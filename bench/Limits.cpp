@@ -8,6 +8,7 @@
 #include <thread>
 
 #include <fcntl.h>
+#include <stdio.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -139,6 +140,19 @@ std::chrono::duration<double> syncedPatchLimit(const std::vector<std::string> &p
         sum += std::chrono::steady_clock::now() - begin;
     }
     return sum;
+}
+
+std::chrono::duration<double> renameLimit(const std::vector<std::string> &paths) {
+    const auto move = [](const std::string &from, const std::string &to) {
+        return renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0;
+    };
+    const auto begin = std::chrono::steady_clock::now();
+    bool isGood = true;
+    for (const std::string &path : paths)
+        isGood = move(path, path + '_') && isGood;
+    for (const std::string &path : paths)
+        isGood = move(path + '_', path) && isGood;
+    return isGood ? std::chrono::steady_clock::now() - begin : Failed;
 }
 
 } // namespace chronomender::bench

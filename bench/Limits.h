@@ -22,4 +22,8 @@ std::chrono::duration<double> patchLimit(const std::vector<std::string> &paths);
 /// written beside the first file and synced, behind it the file system is.
 std::chrono::duration<double> syncedPatchLimit(const std::vector<std::string> &paths);
 
+/// Moves each file to another name and, when all have moved, back: two renames that replace nothing
+/// for each file, on one thread, as they take each other's turn in a folder.
+std::chrono::duration<double> renameLimit(const std::vector<std::string> &paths);
+
 } // namespace chronomender::bench

@@ -70,6 +70,19 @@ std::size_t Session::save() {
                       [](const ItemOutcome &item) { return item.result == ItemResult::Saved; }));
 }
 
+std::size_t Session::rename(const RenameTemplate &renameTemplate) {
+    RenameChoices choices;
+    choices.names.renameTemplate = renameTemplate;
+    m_controller->setRenameChoices(choices);
+    const auto result = waitFor<SaveRunResult>([&](auto finished) {
+        m_controller->startContinueProcess({.type = SaveProcessType::Rename}, {}, {}, finished);
+    });
+    return static_cast<std::size_t>(
+        std::count_if(result.renames.begin(), result.renames.end(), [](const ItemRename &item) {
+            return item.result == RenameResult::Renamed && item.errors.empty();
+        }));
+}
+
 std::vector<std::string> filesOf(const std::string &folder) {
     std::vector<std::string> paths;
     for (const auto &entry : std::filesystem::directory_iterator(folder))

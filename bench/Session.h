@@ -29,6 +29,8 @@ public:
     /// Both stages of a save; the number of items saved.
     std::size_t preProcess();
     std::size_t save();
+    /// Renames all items; how many got a new name, with all their companions and no number.
+    std::size_t rename(const RenameTemplate &renameTemplate);
     /// Bytes of the values, and checksums, that the plans of the last first stage would change.
     std::size_t bytesPlanned() const { return m_bytesPlanned; }
     /// Bytes handed to the files so far.

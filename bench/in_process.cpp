@@ -2,9 +2,9 @@
 //
 // The figures that need no other program: limits, import, save, sort, zones, timelines. Expects in
 // CHRONOMENDER_BENCH_FILES a folder with `many` (JPEGs with bodies of 200 KB), `mixed` (three in
-// ten of other formats), `short` and `long` (fewer JPEGs, bodies of 200 KB and 4 MB) and `small`
-// (folders of the smallest files), as scripts/bench makes them. Every benchmark leaves the files as
-// it found them or one hour away.
+// ten of other formats), `companions` (small JPEGs with an XMP file each), `short` and `long`
+// (fewer JPEGs, bodies of 200 KB and 4 MB) and `small` (folders of the smallest files), as
+// scripts/bench makes them. Every benchmark leaves the files as it found them or one hour away.
 
 #include "Limits.h"
 #include "Session.h"
@@ -93,6 +93,27 @@ void saveStage(benchmark::State &state, const std::string &folder,
     state.counters["firstStage"] = firstStage;
 }
 
+/// A whole run, from the names to the model's update; the names change from run to run.
+void renameRun(benchmark::State &state, RunJournal::Durability durability) {
+    const std::string folder = folderNamed("companions");
+    Session session(durability);
+    const auto count = session.import(folder);
+    session.controller().buildNewSource(); // only what is listed is renamed
+    static bool isOther = false;
+    for (auto _ : state) {
+        isOther = !isOther;
+        RenameTemplate named{{}, {TemplatePart::ofText(isOther ? "TRIP" : "IMG")}};
+        for (const auto element : {RenameElement::Month, RenameElement::Counter})
+            named.stringParts.push_back(TemplatePart::ofElement(element));
+        const auto begin = Clock::now();
+        const auto renamed = session.rename(named);
+        state.SetIterationTime(secondsSince(begin));
+        if (count == 0 || renamed != count)
+            state.SkipWithError("not every item was renamed");
+    }
+    state.counters["files"] = static_cast<double>(filesOf(folder).size());
+}
+
 void sortAll(benchmark::State &state) {
     static Session session;
     auto &controller = session.controller();
@@ -162,6 +183,9 @@ void registerAll() {
         add(("import/" + folder).c_str(), importToDates, folder);
         add(("save/" + folder).c_str(), saveStage, folder, Unsynced);
     }
+    add("renameLimit", limit, renameLimit, "companions");
+    add("rename", renameRun, Unsynced);
+    add("syncedRename", renameRun, Synced);
     add("zones/reread", [](benchmark::State &state) { conversions(state, rereadAfterZoneChange); });
     for (const std::size_t threads : {1, 2})
         add(("zones/threads" + std::to_string(threads)).c_str(), [threads](auto &state) {
