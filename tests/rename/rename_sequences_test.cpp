@@ -149,7 +149,7 @@ private:
         expectTheModelIsTrue(result);
         if (!isDisturbed) {
             expectSame(preview, result.renames);
-            expectFreeNames(before, result.renames, chosen.names.suffixChangeCase);
+            expectFreeNames(before, result.renames);
         }
         recoverWhatIsLeft(result);
     }
@@ -232,8 +232,8 @@ private:
 
     /// Each item has the first free name, by the plainest reckoning: names that the run gives up
     /// are free.
-    void expectFreeNames(std::set<std::string> taken, const std::vector<ItemRename> &renames,
-                         SuffixCase suffixCase) const {
+    static void expectFreeNames(std::set<std::string> taken,
+                                const std::vector<ItemRename> &renames) {
         for (const ItemRename &item : renames)
             for (const RenamedFile &file : item.files)
                 taken.erase(item.folderPath + '/' + file.oldName);
@@ -249,8 +249,7 @@ private:
             const std::string base =
                 item.wantedName.substr(0, item.wantedName.size() - extensionLength - 1);
             std::vector<std::string> extensions = item.pic->spSidecarExtensions;
-            extensions.insert(extensions.begin(),
-                              correctedExtension(item.pic->extension(), suffixCase));
+            extensions.push_back(item.wantedName.substr(base.size() + 1));
             std::set<std::string> wanted;
             do {
                 wanted.clear();
@@ -270,11 +269,18 @@ private:
         }
     }
 
+    /// The item has not got its name, or one of its companions was left between the two.
+    static bool hasFileOnTheWay(const ItemRename &item) {
+        const std::string base = item.pic->spBaseName() + '.';
+        return item.result == RenameResult::LeftOnTheWay ||
+               std::ranges::any_of(item.files, [&](const RenamedFile &file) {
+                   return file.newName != file.oldName && !file.newName.starts_with(base);
+               });
+    }
+
     /// Only what stands at a temporary name is still recorded; it can be brought to its end.
     void recoverWhatIsLeft(const SaveRunResult &result) {
-        const bool isAnyLeft = std::ranges::any_of(result.renames, [](const ItemRename &item) {
-            return item.result == RenameResult::LeftOnTheWay;
-        });
+        const bool isAnyLeft = std::ranges::any_of(result.renames, hasFileOnTheWay);
         EXPECT_EQ(RunJournal::hasUnfinished(m_support), isAnyLeft);
         if (!isAnyLeft)
             return;
