@@ -1226,5 +1226,41 @@ Beispiele:
     <message id="nameCheck_tooLong">
         <translation>der Name ist zu lang für das Dateisystem</translation>
     </message>
+    <message id="confirmRemoveTemplateMessageText">
+        <translation>Die gewählte Vorlage entfernen?</translation>
+    </message>
+    <message id="renameSummary_noGroups_multi">
+        <translation>%1 Dateien werden umbenannt.</translation>
+    </message>
+    <message id="renameSummary_noGroups_single">
+        <translation>%1 Datei wird umbenannt.</translation>
+    </message>
+    <message id="renameSummary_noSingles_multi">
+        <translation>%1 Gruppen mit zusammen %2 Dateien werden umbenannt.</translation>
+    </message>
+    <message id="renameSummary_noSingles_single">
+        <translation>%1 Gruppe mit %2 Dateien wird umbenannt.</translation>
+    </message>
+    <message id="renameSummary_singlesAndGroups_multiMulti">
+        <translation>%1 einzelne Dateien und %2 Gruppen werden umbenannt, zusammen %3 Dateien.</translation>
+    </message>
+    <message id="renameSummary_singlesAndGroups_multiSingle">
+        <translation>%1 einzelne Dateien und %2 Gruppe werden umbenannt, zusammen %3 Dateien.</translation>
+    </message>
+    <message id="renameSummary_singlesAndGroups_singleMulti">
+        <translation>%1 einzelne Datei und %2 Gruppen werden umbenannt, zusammen %3 Dateien.</translation>
+    </message>
+    <message id="renameSummary_singlesAndGroups_singleSingle">
+        <translation>%1 einzelne Datei und %2 Gruppe werden umbenannt, zusammen %3 Dateien.</translation>
+    </message>
+    <message id="undoConfigureTemplateMenu">
+        <translation>Namensbaustein ändern</translation>
+    </message>
+    <message id="undoDragTemplatePart">
+        <translation>Namensbaustein bewegen</translation>
+    </message>
+    <message id="undoPasteTemplatePart">
+        <translation>Namensbaustein einsetzen</translation>
+    </message>
 </context>
 </TS>

@@ -1226,5 +1226,41 @@ Examples:
     <message id="nameCheck_tooLong">
         <translation>the name is too long for the file system</translation>
     </message>
+    <message id="confirmRemoveTemplateMessageText">
+        <translation>Remove the selected template?</translation>
+    </message>
+    <message id="renameSummary_noGroups_multi">
+        <translation>%1 files are renamed.</translation>
+    </message>
+    <message id="renameSummary_noGroups_single">
+        <translation>%1 file is renamed.</translation>
+    </message>
+    <message id="renameSummary_noSingles_multi">
+        <translation>%1 groups with %2 files together are renamed.</translation>
+    </message>
+    <message id="renameSummary_noSingles_single">
+        <translation>%1 group with %2 files is renamed.</translation>
+    </message>
+    <message id="renameSummary_singlesAndGroups_multiMulti">
+        <translation>%1 single files and %2 groups are renamed, %3 files together.</translation>
+    </message>
+    <message id="renameSummary_singlesAndGroups_multiSingle">
+        <translation>%1 single files and %2 group are renamed, %3 files together.</translation>
+    </message>
+    <message id="renameSummary_singlesAndGroups_singleMulti">
+        <translation>%1 single file and %2 groups are renamed, %3 files together.</translation>
+    </message>
+    <message id="renameSummary_singlesAndGroups_singleSingle">
+        <translation>%1 single file and %2 group are renamed, %3 files together.</translation>
+    </message>
+    <message id="undoConfigureTemplateMenu">
+        <translation>Change Name Element</translation>
+    </message>
+    <message id="undoDragTemplatePart">
+        <translation>Move Name Element</translation>
+    </message>
+    <message id="undoPasteTemplatePart">
+        <translation>Paste Name Element</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FilterTemplates.h"
 
+#include "FreeName.h"
 #include "NaturalCompare.h"
 #include "PredicateRewriting.h"
 #include "Texts.h"
@@ -15,13 +16,6 @@ bool hasRatingRow(const FilterTemplate &filter) {
     const auto predicate = parsePredicate(filter.predicate);
     const auto *parsed = std::get_if<Predicate>(&predicate);
     return parsed && doesIncludeRating(*parsed);
-}
-
-std::string freeName(const std::string &wanted, const std::set<std::string> &taken) {
-    std::string name = wanted;
-    for (int number = 2; taken.contains(name); ++number)
-        name = wanted + " (" + std::to_string(number) + ')';
-    return name;
 }
 
 } // namespace
