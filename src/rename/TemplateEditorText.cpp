@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TemplateEditorText.h"
 
+#include "TemplateText.h"
+
 #include <QList>
 #include <QString>
 
@@ -36,9 +38,9 @@ void append(TemplateEditorText::Parts &runs, std::string text) {
         runs.push_back(TemplatePart::ofText(std::move(text)));
 }
 
-bool isForbidden(char32_t character) {
-    return character == U':' || character == U'/' || character == U'\\' || character == U'\0' ||
-           character == attachment;
+bool isRefused(char32_t character) {
+    return character == attachment ||
+           isRefusedInTemplates(QString::fromUcs4(&character, 1).toStdString());
 }
 
 bool isAlphanumeric(char32_t character) {
@@ -54,8 +56,8 @@ bool isPunctuationSymbolOrBlank(char32_t character) {
 
 bool isAcceptedInTemplate(std::string_view replacement) {
     const auto characters = decoded(replacement).toUcs4();
-    // One sign of punctuation lets the rest pass: the text is looked at as a whole.
-    return std::ranges::none_of(characters, isForbidden) &&
+    // One sign of punctuation lets what is not refused pass: the text is looked at as a whole.
+    return std::ranges::none_of(characters, isRefused) &&
            (std::ranges::all_of(characters, isAlphanumeric) ||
             std::ranges::any_of(characters, isPunctuationSymbolOrBlank));
 }

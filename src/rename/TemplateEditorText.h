@@ -9,9 +9,8 @@
 
 namespace chronomender {
 
-/// Typed or pasted text (UTF-8) may stand in a template: nothing that parts folders, names or
-/// extensions from each other, and no sign that is neither letter, digit nor mark in a text
-/// without any punctuation, symbol or blank.
+/// Typed or pasted text (UTF-8) may stand in a template: no character that templates refuse, and no
+/// sign that is neither letter, digit nor mark in a text without any punctuation, symbol or blank.
 bool isAcceptedInTemplate(std::string_view replacement);
 
 /// What a template editor shows: runs of text, and elements that stand as one character each.

@@ -38,21 +38,6 @@ constexpr std::array elementNames{
 };
 constexpr std::string_view counterPrefix = "counter:", addOnPrefix = "addon";
 
-/// What of a text cannot stand in a name that other systems and a terminal are to show as it is.
-bool isRefused(std::string_view character) {
-    if (character.size() == 1) {
-        const auto byte = static_cast<unsigned char>(character[0]);
-        return byte < 0x20 || byte == 0x7F || byte == ':' || byte == '/' || byte == '\\';
-    }
-    // C1 controls, and those that turn the direction of writing: U+061C, U+200E, U+200F, U+202A to
-    // U+202E, U+2066 to U+2069.
-    if (character.size() == 2)
-        return (character[0] == '\xC2' && character[1] < '\xA0') || character == "\u061C";
-    return character == "\u200E" || character == "\u200F" ||
-           (character >= "\u202A" && character <= "\u202E") ||
-           (character >= "\u2066" && character <= "\u2069");
-}
-
 /// The well-formed character that a text begins with; "" when it begins with none.
 std::string_view firstCharacter(std::string_view text) {
     for (std::size_t length = 1; length <= std::min<std::size_t>(4, text.size()); ++length)
@@ -83,7 +68,7 @@ private:
         const std::string_view character = firstCharacter(m_text.substr(m_place));
         if (character.empty())
             fail("templateTextError_notUtf8");
-        else if (isRefused(character))
+        else if (isRefusedInTemplates(character))
             fail("templateTextError_refusedCharacter");
         else
             append(character);
@@ -179,6 +164,20 @@ std::string withDoubledBraces(std::string_view text) {
 }
 
 } // namespace
+
+bool isRefusedInTemplates(std::string_view character) {
+    if (character.size() == 1) {
+        const auto byte = static_cast<unsigned char>(character[0]);
+        return byte < 0x20 || byte == 0x7F || byte == ':' || byte == '/' || byte == '\\';
+    }
+    // C1 controls, and those that turn the direction of writing: U+061C, U+200E, U+200F, U+202A to
+    // U+202E, U+2066 to U+2069.
+    if (character.size() == 2)
+        return (character[0] == '\xC2' && character[1] < '\xA0') || character == "\u061C";
+    return character == "\u200E" || character == "\u200F" ||
+           (character >= "\u202A" && character <= "\u202E") ||
+           (character >= "\u2066" && character <= "\u2069");
+}
 
 std::variant<RenameTemplate, TemplateTextError> templateFromText(std::string_view text) {
     return Parser(text).parse();

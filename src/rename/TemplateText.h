@@ -19,6 +19,9 @@ struct TemplateTextError {
     std::string message;   ///< in the user's language
 };
 std::variant<RenameTemplate, TemplateTextError> templateFromText(std::string_view text);
+/// One character (UTF-8) that cannot stand in a name which other systems and a terminal are to show
+/// as it is: what parts folders, controls, and what turns the direction of writing.
+bool isRefusedInTemplates(std::string_view character);
 std::string textOf(const RenameTemplate &renameTemplate);
 
 } // namespace chronomender
