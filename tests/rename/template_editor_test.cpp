@@ -157,19 +157,19 @@ TEST_F(TemplateEditorTest, KeepsTheSelectionInsideTheList) {
 }
 
 TEST_F(TemplateEditorTest, ListsTemplatesByTheNamesTheyGive) {
-    keep({"B{counter:3}", "A{counter:9}", "B{}{counter:3}", "A{counter:2}"});
-    defaults.set("templateSelectedIndex", "2");
+    keep({"IMG10{day}", "B{counter:3}", "IMG9{day}", "B{counter:3}"});
+    defaults.set("templateSelectedIndex", "3");
     const auto menu = updateTemplatePopup(defaults, zones);
     std::string names;
     for (const TemplateMenuEntry &entry : menu)
         names += entry.name + '=' + std::to_string(entry.tempIndex) + ' ';
-    EXPECT_EQ(names, "");
-    EXPECT_EQ(plainText(menu[0].aName), "");
-    EXPECT_EQ(defaults.integerForKey("sortedTemplatesSelectedIndex"), 4);
+    EXPECT_EQ(names, "=0 B001.JPG=1 B001.JPG (2)=3 IMG911.JPG=2 IMG1011.JPG=0 ");
+    EXPECT_EQ(plainText(menu[0].aName), "B001.JPG (2)");
+    EXPECT_EQ(defaults.integerForKey("sortedTemplatesSelectedIndex"), 2);
     templateSelected(menu, 0, defaults);
-    EXPECT_EQ(defaults.integerForKey("templateSelectedIndex"), 2) << "the title is no template";
-    templateSelected(menu, 1, defaults);
-    EXPECT_EQ(defaults.integerForKey("templateSelectedIndex"), 3);
+    EXPECT_EQ(defaults.integerForKey("templateSelectedIndex"), 3) << "the title is no template";
+    templateSelected(menu, 4, defaults);
+    EXPECT_EQ(defaults.integerForKey("templateSelectedIndex"), 0);
 }
 
 TEST_F(TemplateEditorTest, TellsWhichFieldsTheSheetShows) {
