@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "CaseInsensitiveFileLayer.h"
 #include "CaseInsensitiveFolder.h"
-#include "LittleLivePhoto.h"
+#include "DateModifications.h"
+#include "LittleMovie.h"
 #include "RenameSession.h"
 #include "UnchangedProof.h"
 
@@ -9,18 +10,25 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <iostream>
 
 namespace chronomender {
 namespace {
 
 using namespace little;
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Pair;
-using testing::UnorderedElementsAre;
 using Names = std::map<std::string, std::string>;
 using Wishes = std::vector<std::pair<std::string, std::string>>;
+
+using enum RenameResult;
+
+std::vector<RenameResult> results(const SaveRunResult &run) {
+    std::vector<RenameResult> found;
+    for (const ItemRename &item : run.renames)
+        found.push_back(item.result);
+    return found;
+}
 
 std::vector<int> ids(const std::vector<SaveError> &errors) {
     std::vector<int> found;
@@ -155,7 +163,7 @@ void expectRun(RenameSession &session, const RunCase &each) {
     for (const std::string &name : each.outside)
         session.add(name);
     session.choices.names.suffixChangeCase = each.suffixChangeCase;
-    const auto foreseen = session.renameRun().renamePreview({SaveProcessType::Rename});
+    const auto foreseen = session.preview();
     const SaveRunResult run = session.rename();
     EXPECT_EQ(session.onDisk(), each.onDisk);
     EXPECT_EQ(ids(run.errors), each.errors);
@@ -175,19 +183,19 @@ void expectRuns(RenameSession &session, const std::vector<RunCase> &alsoThere) {
             expectRun(session, each);
 }
 
-TEST(RenameRunTest, WhereLetterCaseCounts) {
+TEST(RenameNamesTest, WhereLetterCaseCounts) {
     RenameSession session;
     expectRuns(session, whereCaseCounts);
 }
 
-TEST(RenameRunTest, WhereLetterCaseIsNothing) {
+TEST(RenameNamesTest, WhereLetterCaseIsNothing) {
     RenameSession session;
     CaseInsensitiveFileLayer layer;
     session.layer = &layer;
     expectRuns(session, whereCaseIsNothing);
 }
 
-TEST(RenameRunTest, OnAFileSystemWithoutLetterCase) {
+TEST(RenameNamesTest, OnAFileSystemWithoutLetterCase) {
     const CaseInsensitiveFolder place;
     if (!place.obstacle().empty())
         GTEST_SKIP() << "no such file system can be made here: " << place.obstacle();
@@ -197,6 +205,311 @@ TEST(RenameRunTest, OnAFileSystemWithoutLetterCase) {
         expectRuns(session, whereCaseIsNothing);
     }
     unsetenv("TMPDIR");
+}
+
+/// "a.jpg" with its sidecar wishes for "x", and "b.jpg" for "y". Moves are counted from 1: three to
+/// temporary names, then three to final ones.
+class DisturbedSession : public RenameSession {
+public:
+    explicit DisturbedSession(bool isInsensitive) {
+        if (isInsensitive)
+            layer = &m_insensitive;
+        for (const char *name : {"a.jpg", "a.xmp", "b.jpg"})
+            add(name);
+        import();
+        wish({{"a.jpg", "x"}, {"b.jpg", "y"}});
+    }
+    FailingFileLayer &rig() { return layer == &files ? files : m_insensitive; }
+    /// Calls once, right before a file is moved to the name `at`.
+    void before(const std::string &at, std::function<void()> happens) {
+        rig().beforeRename = [=, isOver = false](const std::string &,
+                                                 const std::string &to) mutable {
+            if (!isOver && to.ends_with('/' + at)) {
+                isOver = true;
+                happens();
+            }
+        };
+    }
+    /// Somebody makes a file, or puts another one in its place.
+    void intrude(const std::string &name) {
+        std::filesystem::remove(path(name));
+        write(name, "\nsomebody");
+    }
+
+private:
+    CaseInsensitiveFileLayer m_insensitive;
+};
+
+class DisturbedRename : public testing::TestWithParam<bool> {};
+INSTANTIATE_TEST_SUITE_P(OnBothLayers, DisturbedRename, testing::Bool());
+
+TEST_P(DisturbedRename, WhatCannotBeMovedIsWhereTheModelSays) {
+    const std::vector<std::string> none, xmp{"xmp"};
+    const struct {
+        int first, last;
+        Names onDisk;
+        std::vector<int> errors;
+        std::vector<RenameResult> results;
+        bool isLeftToRecovery;
+        std::vector<std::string> sidecars;
+    } cases[] = {
+        {1,
+         1,
+         {{"a.jpg", "a.jpg"}, {"a.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}},
+         {5},
+         {Refused, Renamed},
+         false,
+         xmp},
+        {2,
+         2,
+         {{"x.jpg", "a.jpg"}, {"a.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}},
+         {14},
+         {Renamed, Renamed},
+         false,
+         none},
+        {4,
+         4,
+         {{"x_.jpg", "a.jpg"}, {"x_.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}},
+         {5},
+         {LeftOnTheWay, Renamed},
+         true,
+         xmp},
+        {5,
+         5,
+         {{"x.jpg", "a.jpg"}, {"x_.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}},
+         {14},
+         {Renamed, Renamed},
+         true,
+         none},
+        {3,
+         1000,
+         {{"x_.jpg", "a.jpg"}, {"x_.xmp", "a.xmp"}, {"b.jpg", "b.jpg"}},
+         {5, 5},
+         {LeftOnTheWay, Refused},
+         true,
+         xmp},
+    };
+    for (const auto &each : cases) {
+        SCOPED_TRACE(each.first);
+        DisturbedSession session(GetParam());
+        session.rig().failingRenamesFrom = each.first;
+        session.rig().lastFailingRename = each.last;
+        session.rig().renameError = EROFS;
+        const SaveRunResult run = session.rename();
+        EXPECT_EQ(session.onDisk(), each.onDisk);
+        EXPECT_EQ(ids(run.errors), each.errors);
+        EXPECT_EQ(results(run), each.results);
+        for (const SaveError &error : run.errors)
+            EXPECT_TRUE(std::filesystem::exists(error.path) &&
+                        error.systemText == "Read-only file system")
+                << error.path;
+        EXPECT_EQ(session.hasUnfinished(), each.isLeftToRecovery);
+        EXPECT_EQ(run.renames.at(0).pic->spSidecarExtensions, each.sidecars);
+        expectModelFitsDisk(session);
+    }
+}
+
+TEST_P(DisturbedRename, WhatSomebodyElsePutsThereIsNeverOverwritten) {
+    const struct {
+        const char *at, *intruder;
+        Names onDisk;
+        std::vector<int> errors;
+    } cases[] = {
+        {"x.jpg", "x.jpg", {{"x 2.jpg", "a.jpg"}, {"x 2.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}}, {8}},
+        {"x.xmp", "x.xmp", {{"x 2.jpg", "a.jpg"}, {"x 2.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}}, {8}},
+        {"x_.jpg", "x_.jpg", {{"x.jpg", "a.jpg"}, {"x.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}}, {}},
+        {"x_.xmp", "x_.xmp", {{"x.jpg", "a.jpg"}, {"x.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}}, {}},
+        {"x_.jpg", "b.jpg", {{"x.jpg", "a.jpg"}, {"x.xmp", "a.xmp"}}, {11}},
+        {"x_.jpg", "a.xmp", {{"x.jpg", "a.jpg"}, {"y.jpg", "b.jpg"}}, {14}},
+        {"x.jpg", "x_.xmp", {{"x.jpg", "a.jpg"}, {"y.jpg", "b.jpg"}}, {14}},
+    };
+    for (const auto &each : cases) {
+        SCOPED_TRACE(std::string(each.intruder) + " before " + each.at);
+        DisturbedSession session(GetParam());
+        session.before(each.at, [&] { session.intrude(each.intruder); });
+        const SaveRunResult run = session.rename();
+        Names expected = each.onDisk;
+        expected[each.intruder] = "somebody";
+        EXPECT_EQ(session.onDisk(), expected);
+        EXPECT_EQ(ids(run.errors), each.errors);
+        if (each.errors == std::vector{8}) {
+            EXPECT_EQ(run.renames.at(0).pic->rename.addonCounter, 3);
+            expectModelFitsDisk(session);
+        }
+    }
+}
+
+class RenameRunTest : public testing::Test {
+protected:
+    void add(const std::vector<std::string> &names) {
+        for (const std::string &name : names)
+            session.add(name);
+        session.import();
+    }
+    RenameSession session;
+};
+
+TEST_F(RenameRunTest, OneNameForAll) {
+    Wishes wishes;
+    for (char each = 'a'; each < 'k'; ++each) {
+        wishes.emplace_back(std::string(1, each) + ".jpg", "x");
+        session.add(wishes.back().first);
+    }
+    session.import();
+    session.wish(wishes);
+    for (const auto result : {Renamed, Unchanged}) {
+        const SaveRunResult run = session.rename();
+        EXPECT_THAT(results(run), Each(result));
+        EXPECT_EQ(ids(run.errors), std::vector(9, 8));
+        EXPECT_EQ(session.folder().renameErrors, 9);
+        const auto disk = session.onDisk();
+        for (int i = 2; i <= 10; ++i) {
+            const MySinglePic &pic = session.item("x " + std::to_string(i) + ".jpg");
+            EXPECT_EQ(disk.at(pic.spName), wishes[static_cast<std::size_t>(i - 1)].first);
+            EXPECT_EQ(pic.rename.wantedName, "x.jpg");
+            EXPECT_EQ(pic.rename.addonCounter, i + 1);
+        }
+        EXPECT_EQ(session.item("x.jpg").rename.hasRenameError, 0);
+    }
+}
+
+TEST_F(RenameRunTest, CompanionsThatAreMissingOrCannotBeWritten) {
+    add({"a.jpg", "a.xmp", "b.jpg", "b.xmp"});
+    session.wish({{"a.jpg", "x"}, {"b.jpg", "y"}});
+    std::filesystem::remove(session.path("a.xmp"));
+    std::filesystem::remove(session.path("b.xmp"));
+    std::filesystem::create_directory(session.path("b.xmp"));
+    const SaveRunResult run = session.rename();
+    EXPECT_THAT(ids(run.errors), ElementsAre(14, 9));
+    EXPECT_EQ(run.errors.at(0).path, session.path("a.xmp"));
+    EXPECT_EQ(run.errors.at(1).path, session.path("b.xmp"));
+    EXPECT_THAT(results(run), ElementsAre(Renamed, Refused));
+    EXPECT_THAT(session.item("x.jpg").spSidecarExtensions, IsEmpty());
+    EXPECT_EQ(session.item("x.jpg").rename.hasRenameError, 0);
+    EXPECT_EQ(session.item("b.jpg").spSortNameCachedErrorOrReal(), "y.jpg");
+}
+
+TEST_F(RenameRunTest, FilesThatAreNotWhatWasReadStay) {
+    add({"a.jpg", "b.jpg", "c.CR2", "c.JPG", "d.jpg", "e.jpg"});
+    session.wish({{"a.jpg", "v"}, {"b.jpg", "w"}, {"c.CR2", "x"}, {"d.jpg", "y"}, {"e.jpg", "z"}});
+    std::filesystem::remove(session.path("a.jpg"));
+    session.write("b.jpg", "\nchanged");
+    session.write("c.JPG", "\nchanged");
+    session.item("d.jpg").save.isInvalidDueToChangesAfterImport = true;
+    SaveRunResult run = session.rename();
+    EXPECT_THAT(ids(run.errors), ElementsAre(12, 11, 11));
+    EXPECT_THAT(results(run), ElementsAre(Refused, Refused, Refused, Refused, Renamed));
+    EXPECT_EQ(session.folder().renameErrors, 4);
+    EXPECT_TRUE(std::filesystem::exists(session.path("c.CR2")));
+    EXPECT_EQ(session.item("d.jpg").rename.wantedName, "y.jpg");
+    EXPECT_FALSE(session.item("d.jpg").save.isInvalidDueToChangesAfterImport);
+    session.wish({{"d.jpg", "y"}});
+    SaveRequest selection{SaveProcessType::Rename};
+    selection.onlyPics = {session.item("d.jpg").shared_from_this()};
+    run = session.rename(selection);
+    EXPECT_THAT(results(run), ElementsAre(Renamed));
+    EXPECT_EQ(session.folder().renameErrors, 3);
+    std::filesystem::remove_all(session.folder().sfFolderPath());
+    EXPECT_THAT(ids(session.rename().errors), ElementsAre(5, 5, 5, 5, 5));
+}
+
+TEST_F(RenameRunTest, ASelectionLeavesGapsAndItsOwnNumbers) {
+    add({"a.jpg", "b.jpg", "c.jpg"});
+    session.choices.names.renameTemplate = {
+        {.counterDigits = 0},
+        {TemplatePart::ofText("n"), TemplatePart::ofElement(RenameElement::Counter)}};
+    session.wish({{"c.jpg", ""}, {"b.jpg", ""}, {"a.jpg", ""}});
+    SaveRequest selection{SaveProcessType::Rename};
+    selection.onlyPics = {session.item("a.jpg").shared_from_this(),
+                          session.item("c.jpg").shared_from_this()};
+    session.rename(selection);
+    EXPECT_EQ(session.onDisk(),
+              (Names{{"n1.jpg", "c.jpg"}, {"b.jpg", "b.jpg"}, {"n3.jpg", "a.jpg"}}));
+}
+
+TEST_F(RenameRunTest, NamesThatAreTooLongInBytes) {
+    add({"a.jpg", "b.jpg", "c.jpg", "d.jpg"});
+    const auto bytes = [](int count) {
+        std::string name(static_cast<std::size_t>(count % 2), 'n');
+        for (int i = 0; i < count / 2; ++i)
+            name += "é";
+        return name;
+    };
+    // 255 bytes with the extension: the second one has no room for its number.
+    session.wish(
+        {{"a.jpg", bytes(251)}, {"b.jpg", bytes(251)}, {"c.jpg", bytes(252)}, {"d.jpg", "_"}});
+    const SaveRunResult run = session.rename();
+    EXPECT_THAT(ids(run.errors), ElementsAre(5, 5));
+    EXPECT_EQ(run.errors.at(0).systemText, text("nameCheck_tooLong"));
+    EXPECT_EQ(session.onDisk(), (Names{{bytes(251) + ".jpg", "a.jpg"},
+                                       {"b.jpg", "b.jpg"},
+                                       {"c.jpg", "c.jpg"},
+                                       {"_.jpg", "d.jpg"}}));
+}
+
+TEST_F(RenameRunTest, ALivePhotoMovesAsOne) {
+    session.add("a.jpg");
+    const MovieFields film{
+        .date = "2024-05-06T07:08:10+0200", .make = "Little", .model = "Little One"};
+    session.write("a.mov", movie(film).bytes + "\na.mov");
+    session.import();
+    ASSERT_EQ(session.folder().count(), 1);
+    session.item("a.jpg").spNameAtImport = ".x.jpg";
+    session.choices.names.frontDotHandlingMode = FrontDotMode::Report;
+    const SaveRunResult run = session.rename();
+    EXPECT_EQ(session.onDisk(), (Names{{".x.jpg", "a.jpg"}, {".x.mov", "a.mov"}}));
+    EXPECT_THAT(ids(run.errors), ElementsAre(18));
+    expectModelFitsDisk(session);
+}
+
+TEST_F(RenameRunTest, AFileWithoutExtensionIsNumberedAtItsEnd) {
+    for (const char *name : {"a", "b"}) {
+        session.add(name);
+        const auto pic = MySinglePic::create(name, session.folders[0], SpTypeNoTagsFileDate, {});
+        pic->positions.indexInSource_full = session.folder().count();
+        takeFileAttributes(*pic, attributesOf(session.path(name)));
+        session.folder().sfPicDetails_fullArray.push_back(pic);
+    }
+    session.wish({{"a", "x"}, {"b", "x"}});
+    session.rename();
+    EXPECT_EQ(session.onDisk(), (Names{{"x", "a"}, {"x 2", "b"}}));
+}
+
+TEST_F(RenameRunTest, WithoutRecordNothingIsMoved) {
+    add({"a.jpg"});
+    session.wish({{"a.jpg", "x"}});
+    session.disk.write("support", "a file where the folder should be");
+    EXPECT_THAT(ids(session.rename().errors), ElementsAre(28));
+    EXPECT_EQ(session.files.renames, 0);
+    EXPECT_EQ(session.item("a.jpg").rename.wantedName, "x.jpg");
+}
+
+TEST(RenameAndSaveTest, OnePassAndACancellationBetweenFolders) {
+    RenameSession session(2);
+    session.photo("a.jpg", {.original = "2024:05:06 07:08:09"});
+    session.photo("b.jpg", {.original = "2024:05:06 07:08:09"});
+    session.photo("c.jpg", {.original = "2024:05:06 07:08:09"}, 1);
+    session.import();
+    session.choices.names.renameTemplate.stringParts = {
+        TemplatePart::ofElement(RenameElement::Hour),
+        TemplatePart::ofElement(RenameElement::SourceName)};
+    for (const MySingleFolderPtr &folder : session.folders)
+        setSfDateModificationsFromTimeInterval(*folder, absl::Hours(2), false);
+    session.driver.appendStep(std::make_unique<RenameRun>(session.renameRun(session.journal)));
+    const SaveRequest request{SaveProcessType::SaveThenRenameAll};
+    const PreProcessResult dry = session.preProcess(request);
+    session.write("b.jpg", "\nchanged");
+    session.files.beforeRename = [&](const std::string &, const std::string &) {
+        session.cancellation.request();
+    };
+    const SaveRunResult run = session.driver.continueProcessThread(request, dry);
+    EXPECT_THAT(results(run), ElementsAre(Renamed, Refused, NotReached));
+    EXPECT_THAT(ids(run.errors), ElementsAre(3)) << "told by the save, and not again";
+    EXPECT_TRUE(run.wasCancelled);
+    EXPECT_FALSE(session.item("09a.jpg").save.isVerifiedDuringSave);
+    EXPECT_FALSE(session.item("c.jpg").save.isVerifiedDuringSave);
+    EXPECT_EQ(session.item("b.jpg").rename.wantedName, "09b.jpg");
+    EXPECT_FALSE(session.item("c.jpg").isThisTimeUnsaved());
 }
 
 } // namespace

@@ -10,7 +10,7 @@ namespace chronomender::little {
 /// with that name. Each item wishes for the name that it had at import, which a test replaces.
 class RenameSession : public FakeSession {
 public:
-    RenameSession() {
+    explicit RenameSession(std::size_t folderCount = 1) : FakeSession(folderCount) {
         choices.names.renameTemplate.stringParts = {
             TemplatePart::ofElement(RenameElement::SourceName)};
     }
@@ -34,7 +34,7 @@ public:
             item(wishes[i].first).positions.indexInSource_full = static_cast<std::int64_t>(i);
         }
     }
-    RenameRun renameRun() {
+    RenameRun renameRun(RunJournal &record) {
         const auto scope = [this](const SaveRequest &request) {
             std::vector<MySinglePicPtr> source;
             for (const MySingleFolderPtr &each : folders)
@@ -46,13 +46,19 @@ public:
             return renameScope(request, folders, source);
         };
         return RenameRun({[this] { return std::optional(choices); }, scope},
-                         {*layer, zones, cancellation, journal, progress});
+                         {*layer, zones, cancellation, record, progress});
     }
+    /// As a program of its own would run it: its record ends with it.
     SaveRunResult rename(const SaveRequest &request = {SaveProcessType::Rename}) {
+        RunJournal record(disk.path("support"));
         SaveRunResult result;
-        renameRun().run(request, {}, result);
+        renameRun(record).run(request, {}, result);
         return result;
     }
+    std::vector<ItemRename> preview(const SaveRequest &request = {SaveProcessType::Rename}) {
+        return renameRun(journal).renamePreview(request);
+    }
+    bool hasUnfinished() const { return RunJournal::hasUnfinished(disk.path("support")); }
 
     /// What stands in the folder: the present name and the first one of each file.
     std::map<std::string, std::string> onDisk(std::size_t index = 0) const {
