@@ -7,12 +7,43 @@
 #include <QTextBoundaryFinder>
 
 namespace chronomender {
+namespace {
+
+bool isIndicatorAt(const QString &text, qsizetype place) {
+    constexpr char32_t first = 0x1F1E6, last = 0x1F1FF;
+    if (place + 1 >= text.size() || !QChar::isSurrogate(text[place].unicode()))
+        return false;
+    const char32_t code = QChar::surrogateToUcs4(text[place], text[place + 1]);
+    return code >= first && code <= last;
+}
+
+/// Two regional indicators make a flag, paired from the first one on (rules GB12 and GB13). Qt
+/// counts an emoji in front of them as well, and so parts the flags behind one. In their place
+/// comes a letter with a mark, which nobody parts, of the same length.
+QString withFlagsAsLetters(QString text) {
+    constexpr char32_t letter = 0x1D400, mark = 0x1D167;
+    bool isSecond = false;
+    for (qsizetype place = 0; place < text.size(); ++place) {
+        if (!isIndicatorAt(text, place)) {
+            isSecond = false;
+            continue;
+        }
+        const char32_t shown = isSecond ? mark : letter;
+        text[place] = QChar::highSurrogate(shown);
+        text[++place] = QChar::lowSurrogate(shown);
+        isSecond = !isSecond;
+    }
+    return text;
+}
+
+} // namespace
 
 ComposedText::ComposedText(std::string_view text) : m_text(text), m_isAscii(isAscii(text)) {
     if (m_isAscii)
         return;
     const QString wide = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, wide);
+    const QString shown = withFlagsAsLetters(wide);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, shown);
     m_starts.reserve(static_cast<std::size_t>(wide.size()) + 1);
     m_starts.push_back(0);
     qsizetype begin = 0;
