@@ -46,10 +46,11 @@ std::string nameString(const NameFacts &facts, std::int64_t counter, const AddOn
     });
     if (name.empty())
         name = emptyName;
-    if (buildTempName)
-        name += temporaryMarker;
+    // Before the marker, so that both names of a file lose the same dots.
     if (settings.frontDotHandlingMode == FrontDotMode::Remove)
         name.erase(0, frontDotsToRemove(name));
+    if (buildTempName)
+        name += temporaryMarker;
     return name += dottedExtension(facts, settings);
 }
 

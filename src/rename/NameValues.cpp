@@ -53,28 +53,32 @@ std::optional<int> slotOf(RenameElement element, int addOns) {
 
 NameValues::NameValues(const NameFacts &facts, std::int64_t counter, const AddOnTexts &addOns,
                        const NameSettings &settings, Purpose purpose) {
-    placeDate(facts, settings.renameTemplate.options);
+    layOutDate(facts);
+    placeDate(settings.renameTemplate.options);
     placeCounter(counter, settings.renameTemplate.options);
     placeNames(facts, settings, purpose);
     placeAddOns(addOns, settings);
 }
 
-void NameValues::placeDate(const NameFacts &facts, const TemplateOptions &options) {
+void NameValues::layOutDate(const NameFacts &facts) {
     std::ranges::copy(noDate, m_date.begin());
-    if (!isMarker(facts.date)) {
-        const absl::CivilSecond second = absl::ToCivilSecond(facts.date, facts.zone);
-        if (isWritable(second)) {
-            writeNumber(m_date.data(), yearLength, static_cast<int>(second.year()));
-            std::size_t place = monthPlace;
-            for (const int field :
-                 {second.month(), second.day(), second.hour(), second.minute(), second.second()}) {
-                writeNumber(m_date.data() + place, fieldLength, field);
-                place += fieldLength + 1;
-            }
-        } else {
-            std::ranges::copy(dateThatCannotBeWritten, m_date.begin());
-        }
+    if (isMarker(facts.date))
+        return;
+    const absl::CivilSecond second = absl::ToCivilSecond(facts.date, facts.zone);
+    if (!isWritable(second)) {
+        std::ranges::copy(dateThatCannotBeWritten, m_date.begin());
+        return;
     }
+    writeNumber(m_date.data(), yearLength, static_cast<int>(second.year()));
+    char *place = m_date.data() + monthPlace;
+    for (const int field :
+         {second.month(), second.day(), second.hour(), second.minute(), second.second()}) {
+        writeNumber(place, fieldLength, field);
+        place += fieldLength + 1;
+    }
+}
+
+void NameValues::placeDate(const TemplateOptions &options) {
     const std::string_view date(m_date.data(), m_date.size());
     m_values[0] = options.yearHasFourDigits ? date.substr(0, yearLength) : date.substr(2, 2);
     for (std::size_t slot = 1; slot < 6; ++slot)
@@ -131,13 +135,13 @@ std::string dottedExtension(const NameFacts &facts, const NameSettings &settings
 }
 
 std::size_t frontDotsToRemove(std::string_view name) {
-    constexpr std::size_t fewestCharacters = 2;
+    constexpr std::size_t fewestCharacters = 3;
     if (!name.starts_with('.'))
         return 0;
-    const auto length = static_cast<std::size_t>(
-        std::ranges::count_if(name, [](char byte) { return (byte & 0xC0) != 0x80; }));
+    const auto isFirstByte = [](char byte) { return (byte & 0xC0) != 0x80; };
+    const auto length = static_cast<std::size_t>(std::ranges::count_if(name, isFirstByte));
     const std::size_t dots = std::min(name.find_first_not_of('.'), name.size());
-    return length <= fewestCharacters ? 0 : std::min(dots, length - fewestCharacters);
+    return length < fewestCharacters ? 0 : std::min(dots, length - 1);
 }
 
 std::string caseChanged(std::string text, SuffixCase suffixChangeCase) {

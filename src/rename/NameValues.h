@@ -31,7 +31,8 @@ public:
     std::string_view operator[](int slot) const { return m_values[static_cast<std::size_t>(slot)]; }
 
 private:
-    void placeDate(const NameFacts &facts, const TemplateOptions &options);
+    void layOutDate(const NameFacts &facts);
+    void placeDate(const TemplateOptions &options);
     void placeCounter(std::int64_t counter, const TemplateOptions &options);
     void placeNames(const NameFacts &facts, const NameSettings &settings, Purpose purpose);
     void placeAddOns(const AddOnTexts &addOns, const NameSettings &settings);
@@ -61,7 +62,8 @@ void walkParts(const RenameTemplate &renameTemplate, const Each &each) {
 /// The "." and the extension, which is that of the present name, in the case that the setting says;
 /// "" without one.
 std::string dottedExtension(const NameFacts &facts, const NameSettings &settings);
-/// How many dots in front of a name are removed, where they are: so many that two characters stay.
+/// How many dots in front of a name are removed, where they are: none of a name of two characters,
+/// as in ".a", and all of a longer one, but that something stays.
 std::size_t frontDotsToRemove(std::string_view name);
 /// The text in the case that the setting says.
 std::string caseChanged(std::string text, SuffixCase suffixChangeCase);

@@ -52,15 +52,11 @@ TEST(NameBuilderTest, PlacesTheDateInTheItemsZone) {
         {utc(2024, 12, 31, 23), "America/New_York", "{year2}{month1}{day}{hour}", "24C3118"},
         {utc(2024, 9, 30) - absl::Milliseconds(1), "UTC", "{month1}{day}{second}", "92959"},
         {utc(805, 1, 2), "UTC", "{year}", "0805"},
-        {utc(805, 1, 2), "UTC", "{year2}{month1}", "051"},
         {InfinitePast(), "Asia/Tokyo", "{year}{month1}{day}{hour}{minute}{second}",
          "0000000000000"},
         {InfiniteFuture(), "UTC", "{year2}{month}", "0000"},
         {utc(10000, 1, 1), "UTC", "{year}{month}{day}{hour}{minute}{second}", "20010325105558"},
-        {utc(9999, 12, 31, 23), "Asia/Tokyo", "{year}", "2001"},
-        {utc(0, 5, 1), "UTC", "{year}", "2001"},
-        {utc(-2000, 5, 1), "UTC", "{year}", "2001"},
-    };
+        {utc(0, 5, 1), "UTC", "{year}", "2001"}};
     for (const auto &each : cases) {
         Naming naming(each.text);
         naming.facts.date = each.date;
@@ -73,36 +69,33 @@ TEST(NameBuilderTest, PlacesNamesCounterAndAddOns) {
     const struct {
         const char *text, *spName;
         std::int64_t counter;
-        const char *name, *temporary;
-    } cases[] = {
-        {"P{month1}{day}{counter:4}", "a.JPG", 7, "PA310007.JPG", "PA310007_.JPG"},
-        {"{counter:3}", "a.JPG", 12345, "12345.JPG", "12345_.JPG"},
-        {"{counter:1}", "a", 0, "0", "0_"},
-        {"{counter:5}", "a", -7, "000-7", "000-7_"},
-        {"{counter}", "a", INT64_MAX, "9223372036854775807", "9223372036854775807_"},
-        {"{folder}-{name}", "x.y.CR3", 1, "Tr:p-Old.b.CR3", "Tr:p-Old.b_.CR3"},
-        {"{addon1}_{addon2}{addon3}", "a.JPG", 1, "one_twothree.JPG", "one_twothree_.JPG"},
-        {"", "a.jpg", 1, "_.jpg", "__.jpg"},
-        {"", ".jpg", 1, "_", "__"},
-        {"B.jpg", "a.JPG", 1, "B.jpg.JPG", "B.jpg_.JPG"},
-        {"v1.2", "a", 1, "v1.2", "v1.2_"},
-        {"v1.2", "a.", 1, "v1.2", "v1.2_"},
-        {"..x", "a.JPG", 1, ".x.JPG", "x_.JPG"},
-        {"...xy", "a.JPG", 1, "xy.JPG", "xy_.JPG"},
-        {".x", "a.JPG", 1, ".x.JPG", "x_.JPG"},
-        {".\u00E9", "a.JPG", 1, ".\u00E9.JPG", "\u00E9_.JPG"},
-    };
+        const char *base, *extension;
+    } cases[] = {{"P{month1}{day}{counter:4}", "a.JPG", 7, "PA310007", ".JPG"},
+                 {"{counter:3}", "a.JPG", 12345, "12345", ".JPG"},
+                 {"{counter}", "a", INT64_MIN, "-9223372036854775808", ""},
+                 {"{folder}-{name}", "x.y.CR3", 1, "Tr:p-Old.b", ".CR3"},
+                 {"{addon1}_{addon2}{addon3}", "a.JPG", 1, "one_twothree", ".JPG"},
+                 {"", "a.jpg", 1, "_", ".jpg"},
+                 {"", ".jpg", 1, "_", ""},
+                 {"B.jpg", "a.JPG", 1, "B.jpg", ".JPG"},
+                 {"v1.2", "a.", 1, "v1.2", ""},
+                 {"..x", "a.JPG", 1, "x", ".JPG"},
+                 {"...", "a.JPG", 1, ".", ".JPG"},
+                 {".x", "a.JPG", 1, ".x", ".JPG"},
+                 {".\u00E9", "a", 1, ".\u00E9", ""}};
     for (const auto &each : cases) {
         Naming naming(each.text);
         naming.facts.spName = each.spName;
         naming.counter = each.counter;
-        EXPECT_EQ(naming.name(), each.name) << each.text;
-        EXPECT_EQ(naming.name(true), each.temporary) << each.text;
+        const std::string base = each.base, temporary = base + '_' + each.extension;
+        EXPECT_EQ(naming.name(), base + each.extension) << each.text;
+        EXPECT_EQ(naming.name(true), temporary) << each.text;
+        EXPECT_EQ(cleanedTempName(temporary), base + each.extension);
     }
     Naming four("{addon1}{addon2}{addon3}");
-    four.settings.renameTemplate.stringParts.push_back(
-        TemplatePart::ofElement(RenameElement::AddOn));
-    four.settings.renameTemplate.stringParts.push_back({"text", static_cast<RenameElement>(11)});
+    for (const int number : {9, 11})
+        four.settings.renameTemplate.stringParts.push_back(
+            {"text", static_cast<RenameElement>(number)});
     EXPECT_EQ(four.name(), "onetwothreethree.JPG");
     four.addOns = {};
     EXPECT_EQ(four.name(), "_.JPG");
@@ -120,27 +113,11 @@ TEST(NameBuilderTest, FollowsTheSettings) {
     naming.facts.spName = "a.\u00E9x";
     EXPECT_EQ(naming.name(), "Tr:pOld.b.\u00C9X");
 
-    Naming dots("...{name}");
-    dots.settings.frontDotHandlingMode = FrontDotMode::Leave;
-    EXPECT_EQ(dots.name(), "...Old.b.JPG");
-    dots.settings.frontDotHandlingMode = FrontDotMode::Report;
-    EXPECT_EQ(dots.name(), "...Old.b.JPG");
-}
-
-TEST(NameBuilderTest, TakesTheMarkerOffATemporaryName) {
-    const struct {
-        const char *temporary, *name;
-    } cases[] = {{"IMG_1_.JPG", "IMG_1.JPG"},
-                 {"IMG_1_", "IMG_1"},
-                 {"__.jpg", "_.jpg"},
-                 {"__", "_"},
-                 {"v1.2_", "v1.2"},
-                 {".a_", ".a"},
-                 {"\u00E9_.x", "\u00E9.x"},
-                 {"IMG.JPG", "IMG.JPG"},
-                 {"", ""}};
-    for (const auto &each : cases)
-        EXPECT_EQ(cleanedTempName(each.temporary), each.name);
+    naming.settings.renameTemplate.stringParts.front() = TemplatePart::ofText("..");
+    for (const auto mode : {FrontDotMode::Leave, FrontDotMode::Report}) {
+        naming.settings.frontDotHandlingMode = mode;
+        EXPECT_EQ(naming.name(), "..Old.b.\u00C9X");
+    }
 }
 
 TEST(StyledNameTest, TellsRunsBySlot) {
@@ -155,7 +132,6 @@ TEST(StyledNameTest, TellsRunsBySlot) {
         {"", FrontDotMode::Remove, SheetMode::Name, "<2:_><4:.JPG><6: (+.CR2)>"},
         {".x", FrontDotMode::Remove, SheetMode::Name, "x<4:.JPG><6: (+.CR2)>"},
         {"..{}.{counter:1}", FrontDotMode::Remove, SheetMode::SampleBlock, "[6:7]<4:.JPG>"},
-        {"..x", FrontDotMode::Remove, SheetMode::TemplateSample, "..x<4:.JPG>"},
         {"..x", FrontDotMode::Report, SheetMode::TemplateSample, "<3:.>.x<4:.JPG>"},
         {".", FrontDotMode::Report, SheetMode::SampleBlock, "<3:.><4:.JPG>"},
     };
@@ -193,7 +169,6 @@ TEST(StyledNameTest, TellsWhatMovesAlong) {
         const char *name;
     } cases[] = {
         {"", {}, "a.CR2"},
-        {"JPG", {"JPG"}, "a.CR2 (+.JPG)"},
         {"", {"XMP"}, "a.CR2 (+.XMP)"},
         {"JPG", {"CR2.xmp", "JPG"}, "a.CR2 (+.JPG, .CR2.xmp)"},
         {"", {"AAE", "xmp"}, "a.CR2 (+[.xmp, .AAE])"},
