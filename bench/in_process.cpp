@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The figures that need no other program: limits, import, save, sort, zones, timelines. Expects in
-// CHRONOMENDER_BENCH_FILES a folder with `many` (JPEGs with bodies of 200 KB), `mixed` (three in
-// ten of other formats), `companions` (small JPEGs with an XMP file each), `short` and `long`
-// (fewer JPEGs, bodies of 200 KB and 4 MB) and `small` (folders of the smallest files), as
+// The figures that need no other program: limits, import, save, sort, zones, names, timelines.
+// Expects in CHRONOMENDER_BENCH_FILES a folder with `many` (JPEGs with bodies of 200 KB), `mixed`
+// (three in ten of other formats), `companions` (small JPEGs with an XMP file each), `short` and
+// `long` (fewer JPEGs, bodies of 200 KB and 4 MB) and `small` (folders of the smallest files), as
 // scripts/bench makes them. Every benchmark leaves the files as it found them or one hour away.
 
 #include "Limits.h"
+#include "Names.h"
 #include "Session.h"
 #include "Texts.h"
 #include "Timelines.h"
@@ -128,15 +129,16 @@ void sortAll(benchmark::State &state) {
     state.counters["files"] = static_cast<double>(controller.source_full().size());
 }
 
+/// Work that tells how long it took, and how many of something it made.
 template<class Work>
-void conversions(benchmark::State &state, Work work) {
+void counted(benchmark::State &state, Work work) {
     std::size_t count = 0;
     for (auto _ : state) {
-        const Conversions done = work();
+        const auto done = work();
         count = done.count;
         state.SetIterationTime(done.time.count());
         if (count == 0)
-            state.SkipWithError("a stamp was converted wrongly");
+            state.SkipWithError("a stamp or a name came out wrong");
     }
     state.counters["files"] = static_cast<double>(count);
 }
@@ -186,11 +188,14 @@ void registerAll() {
     add("renameLimit", limit, renameLimit, "companions");
     add("rename", renameRun, Unsynced);
     add("syncedRename", renameRun, Synced);
-    add("zones/reread", [](benchmark::State &state) { conversions(state, rereadAfterZoneChange); });
+    add("zones/reread", [](benchmark::State &state) { counted(state, rereadAfterZoneChange); });
     for (const std::size_t threads : {1, 2})
         add(("zones/threads" + std::to_string(threads)).c_str(), [threads](auto &state) {
-            conversions(state, [threads] { return parallelConversions(threads); });
+            counted(state, [threads] { return parallelConversions(threads); });
         });
+    add("names", [](benchmark::State &state) {
+        counted(state, [] { return buildNames(folderNamed("short")); });
+    });
     for (const std::size_t itemCount : {5'000, 50'000})
         for (const auto &[row, work] : timelineRows)
             add(("timelines/" + std::string(row) + '/' + std::to_string(itemCount)).c_str(),

@@ -122,6 +122,13 @@ int main(int count, char **arguments) {
           R"((filter_miscState ==[cd] 6 and pivMakeModel BEGINSWITH[c] "x"))"})
         write(root / "predicate_texts", std::to_string(number++), text);
     for (const char *text :
+         {"P{month1}{day}{{}}{}.{counter:4}", "{year2}{folder}{name}{addon1}{addon2}\u00E9",
+          R"([{"options":{"7.tif":"3"},"stringParts":[{"kind":"graphic","textId":"10.tif"},)"
+          R"({"kind":"text","textId":"x"}]}])",
+          R"([{"id":"ReplaceWith","defaults":{"isEnabled":true,"value":"e","value3":2}},)"
+          R"({"id":"CharCount","defaults":{"isEnabled":1}}])"})
+        write(root / "template_texts", std::to_string(number++), text);
+    for (const char *text :
          {"2020-04-17T10:03:47-0600", "2020-04-17T10:03:47Z", "2020-04-17T10:03+05:30",
           "2020-04-17T10:03:47.125", "Thu Jan 20 08:16:08 2022\n", "MON SEP  3 20:52:00 2012\n"})
         write(root / "movie_stamps", std::to_string(number++), std::string(text) + '\0');
