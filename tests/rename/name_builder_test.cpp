@@ -2,6 +2,7 @@
 #include "LittleItem.h"
 #include "NameBuilder.h"
 #include "TemplateText.h"
+#include "Texts.h"
 #include "ZoneLookup.h"
 
 #include <gtest/gtest.h>
@@ -152,8 +153,8 @@ TEST(StyledNameTest, ShowsLabelsReducedColoursAndHiddenExtensions) {
     naming.facts.spNameComplete = "IMG_1.JPG (+.CR2)";
     EXPECT_EQ(naming.styled(), "[8:one]<5:.jpg><6: (+.cr2)>");
     naming.settings.sheetMode = SheetMode::SampleBlock;
-    EXPECT_EQ(naming.styled(), "[8:one][10:<renameStringPartGraphic_9b>]"
-                               "[11:<renameStringPartGraphic_9c>]<5:.jpg>");
+    EXPECT_EQ(naming.styled(), "[8:one][10:<" + text("renameStringPartGraphic_9b") + ">][11:<" +
+                                   text("renameStringPartGraphic_9c") + ">]<5:.jpg>");
     naming.addOns = {"", "", "x"};
     for (int i = 0; i < 2; ++i)
         naming.settings.renameTemplate.stringParts.push_back(

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TemplateStore.h"
 #include "TemplateText.h"
+#include "Texts.h"
 
 #include <gtest/gtest.h>
 
@@ -66,12 +67,14 @@ TEST(TemplateTextTest, TellsWhereATextGoesWrong) {
           {"\u2069", 0}}},
         {"notUtf8", {{"a\xC3(", 1}, {"\u20AC\xED\xA0\x80", 3}, {"a\xF0\x9F", 1}}}};
     for (const auto &[key, texts] : cases)
-        for (const auto &[text, place] : texts) {
-            const auto result = templateFromText(text);
+        for (const auto &[written, place] : texts) {
+            const auto result = templateFromText(written);
             const auto *error = std::get_if<TemplateTextError>(&result);
-            ASSERT_TRUE(error) << text;
-            EXPECT_EQ(error->place, place) << text;
-            EXPECT_EQ(error->message, std::string("templateTextError_") + key) << text;
+            ASSERT_TRUE(error) << written;
+            EXPECT_EQ(error->place, place) << written;
+            const std::string element =
+                written.substr(place + 1, written.find('}', place) - place - 1);
+            EXPECT_EQ(error->message, text(std::string("templateTextError_") + key, {element}));
         }
     for (const char *text : {"\u00A0", "\u200D", "\u202F", "\u2065", "\u206A", "\U0001F468"})
         read(text);
