@@ -12,7 +12,12 @@ namespace {
 /// A folder in which so many names in turn are taken answers so whatever the name.
 constexpr int mostTries = 1000;
 
-bool isTheFile(const FileAttributes &planned, const FileAttributes &now) {
+/// An inode number alone may have passed on from a file that was deleted to a new one.
+bool isSameFile(const FileAttributes &planned, const FileAttributes &now) {
+    return now.isSameFile(planned) && now.birthDate == planned.birthDate;
+}
+
+bool isAlike(const FileAttributes &planned, const FileAttributes &now) {
     return planned.size == now.size && planned.modificationDate == now.modificationDate;
 }
 
@@ -106,20 +111,20 @@ void FolderRename::settle() {
 
 /// The name holds the file that was proved. A file system that knows renamed files as others is
 /// believed when the file is the same in size and date.
-bool FolderRename::isStillPlanned(FileMove &file) const {
+bool FolderRename::isStillPlanned(FileMove &file, FileError &error) const {
     const auto now = m_services.files.attributes(m_folder.pathOf(file.presentName));
-    if (!now || !isTheFile(file.before, *now))
-        return false;
-    if (now->isSameFile(file.before))
-        return true;
-    if (file.presentName == file.oldName)
+    if (!now)
+        error.code = ENOENT;
+    if (!now || isSameFile(file.before, *now))
+        return now.has_value();
+    if (file.presentName == file.oldName || !isAlike(file.before, *now))
         return false;
     file.moved = now;
     return true;
 }
 
 FolderRename::Step FolderRename::move(FileMove &file, const std::string &name, FileError &error) {
-    if (!isStillPlanned(file))
+    if (!isStillPlanned(file, error))
         return Step::Replaced;
     if (m_services.files.renameExclusively(m_folder.pathOf(file.presentName), m_folder.pathOf(name),
                                            &error)) {

@@ -41,7 +41,7 @@ private:
 
     Step move(FileMove &file, const std::string &name, FileError &error);
     void leaveBehind(ItemMoves &item, FileMove &file, SaveErrorId id, const FileError &error) const;
-    bool isStillPlanned(FileMove &file) const;
+    bool isStillPlanned(FileMove &file, FileError &error) const;
     void lookAgain(ItemMoves &item) const;
     bool sync() const;
     void settle();
