@@ -932,6 +932,24 @@ Beispiele:
     <message id="recovery_nothing">
         <translation>unversehrt; ein unterbrochener Lauf hatte noch nicht begonnen oder war schon fertig, und es musste nichts geschrieben werden</translation>
     </message>
+    <message id="recovery_renameChanged">
+        <translation>wurde gerade umbenannt, als ein Lauf unterbrochen wurde, und ist seither verschoben, ersetzt oder entfernt worden; bitte nachsehen, wo sie ist</translation>
+    </message>
+    <message id="recovery_renameCompleted">
+        <translation>wurde gerade umbenannt, als ein Lauf unterbrochen wurde; die Datei hat jetzt einen neuen Namen</translation>
+    </message>
+    <message id="recovery_renameFailed">
+        <translation>wurde gerade umbenannt, als ein Lauf unterbrochen wurde, und hat vielleicht einen vorläufigen Namen; sie oder eine zugehörige Datei lässt sich jetzt nicht umbenennen, bitte den Ordner beschreibbar machen; beim nächsten Start wird es wieder versucht</translation>
+    </message>
+    <message id="recovery_renameNothing">
+        <translation>ein unterbrochener Lauf sollte sie umbenennen; sie hat schon den Namen, den sie haben soll</translation>
+    </message>
+    <message id="recovery_renameTakenBack">
+        <translation>wurde gerade umbenannt, als ein Lauf unterbrochen wurde; die Datei hat ihren alten Namen</translation>
+    </message>
+    <message id="recovery_renameUnreachable">
+        <translation>wurde gerade umbenannt, als ein Lauf unterbrochen wurde, und hat vielleicht einen vorläufigen Namen; ihr Ordner ist nicht zu erreichen, bitte das Volume verbinden; beim nächsten Start wird es wieder versucht</translation>
+    </message>
     <message id="recovery_takenBack">
         <translation>wurde gerade geschrieben, als ein Lauf unterbrochen wurde; die Datei hat wieder alle alten Werte, bitte noch einmal sichern</translation>
     </message>

@@ -932,6 +932,24 @@ Examples:
     <message id="recovery_nothing">
         <translation>whole; an interrupted run had not begun with it, or was done with it, and nothing had to be written</translation>
     </message>
+    <message id="recovery_renameChanged">
+        <translation>was being renamed when a run was interrupted, and somebody has moved, replaced or removed it since; please look where it is</translation>
+    </message>
+    <message id="recovery_renameCompleted">
+        <translation>was being renamed when a run was interrupted; it has a new name now</translation>
+    </message>
+    <message id="recovery_renameFailed">
+        <translation>was being renamed when a run was interrupted and may have a temporary name; it, or a file that belongs with it, cannot be renamed now, please make the folder writable; it is tried again at the next start</translation>
+    </message>
+    <message id="recovery_renameNothing">
+        <translation>an interrupted run was to rename it; it already has the name that it is to have</translation>
+    </message>
+    <message id="recovery_renameTakenBack">
+        <translation>was being renamed when a run was interrupted; it has its old name</translation>
+    </message>
+    <message id="recovery_renameUnreachable">
+        <translation>was being renamed when a run was interrupted and may have a temporary name; its folder cannot be reached, please connect its volume; it is tried again at the next start</translation>
+    </message>
     <message id="recovery_takenBack">
         <translation>was being written when a run was interrupted; it has all its old values again, please save it once more</translation>
     </message>

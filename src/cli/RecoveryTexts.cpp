@@ -33,7 +33,10 @@ std::string_view resultName(Result result) {
 }
 
 std::string recoveryText(const RecoveredFile &file) {
-    const std::string line = printable(file.path) + ": " + text(textKey(file.result));
+    const bool hasOtherName = file.isRenamed() && file.oldPath != file.path;
+    const std::string path = hasOtherName ? printable(file.oldPath) + " → " + printable(file.path)
+                                          : printable(file.path);
+    const std::string line = path + ": " + text(textKey(file));
     return file.systemText.empty() ? line : line + " (" + file.systemText + ')';
 }
 

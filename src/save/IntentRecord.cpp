@@ -7,13 +7,15 @@
 
 #include <zlib.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
+#include <map>
 
 namespace chronomender {
 namespace {
 
-enum class FrameKind : int { Batch = 1, Left = 2, Resumed = 3 };
+enum class FrameKind : int { Batch = 1, Left = 2, Resumed = 3, BatchWithMoves = 4 };
 
 constexpr std::string_view frameMark = "cMj1";
 constexpr std::size_t headerSize = 12;
@@ -60,6 +62,56 @@ void put(QCborStreamWriter &writer, const FileIntent &file) {
         writer.append(static_cast<quint64>(patch.offset()));
         put(writer, patch.before());
         put(writer, patch.after());
+    }
+    writer.endArray();
+}
+
+void put(QCborStreamWriter &writer, const std::vector<FileIntent> &files) {
+    writer.startArray(files.size());
+    for (const FileIntent &file : files)
+        put(writer, file);
+    writer.endArray();
+}
+
+/// The folder is told by its place in the frame's list.
+void put(QCborStreamWriter &writer, const MoveIntent &move, std::size_t folder) {
+    writer.startArray(9);
+    writer.append(static_cast<quint64>(folder));
+    for (const std::string *name : {&move.oldName, &move.temporaryName, &move.finalName})
+        put(writer, *name);
+    for (const std::uint64_t number : {move.before.size, move.before.device, move.before.inode})
+        writer.append(static_cast<quint64>(number));
+    put(writer, OptionalDate(move.before.modificationDate));
+    writer.endArray();
+}
+
+/// The folders of all moves, each once, with its place.
+std::map<std::string_view, std::size_t> foldersOf(std::span<const UnitIntent> units) {
+    std::map<std::string_view, std::size_t> folders;
+    for (const UnitIntent &unit : units)
+        for (const MoveIntent &move : unit.moves)
+            folders.emplace(move.folder, 0);
+    std::size_t place = 0;
+    for (auto &[folder, each] : folders)
+        each = place++;
+    return folders;
+}
+
+void putWithMoves(QCborStreamWriter &writer, std::span<const UnitIntent> units,
+                  const std::map<std::string_view, std::size_t> &folders) {
+    writer.startArray(folders.size());
+    for (const auto &[folder, place] : folders)
+        put(writer, folder);
+    writer.endArray();
+    writer.startArray(units.size());
+    for (const UnitIntent &unit : units) {
+        writer.startArray(2);
+        put(writer, unit.files);
+        writer.startArray(unit.moves.size());
+        for (const MoveIntent &move : unit.moves)
+            put(writer, move, folders.at(move.folder));
+        writer.endArray();
+        writer.endArray();
     }
     writer.endArray();
 }
@@ -155,17 +207,57 @@ std::optional<FileIntent> readFile(const QCborArray &array) {
     return from.isGood() ? std::optional(std::move(file)) : std::nullopt;
 }
 
-bool readBatch(Cursor &from, Record &record) {
+std::optional<MoveIntent> readMove(const QCborArray &array,
+                                   const std::vector<std::string> &folders) {
+    Cursor from(array);
+    const std::uint64_t folder = from.number();
+    MoveIntent move;
+    for (std::string *name : {&move.oldName, &move.temporaryName, &move.finalName})
+        *name = from.bytes();
+    move.before.size = from.number();
+    move.before.device = from.number();
+    move.before.inode = from.number();
+    move.before.modificationDate = from.certainDate();
+    if (!from.isGood() || folder >= folders.size())
+        return std::nullopt;
+    move.folder = folders[static_cast<std::size_t>(folder)];
+    return isSound(move) ? std::optional(std::move(move)) : std::nullopt;
+}
+
+/// All elements by `read`; false when one makes no sense.
+template<class Element, class Read>
+bool readAll(Cursor from, std::vector<Element> &elements, Read read) {
+    while (!from.isAtEnd()) {
+        auto element = read(from.array());
+        if (!from.isGood() || !element)
+            return false;
+        elements.push_back(*std::move(element));
+    }
+    return from.isGood();
+}
+
+bool readMixedUnit(const QCborArray &array, const std::vector<std::string> &folders,
+                   UnitIntent &unit) {
+    Cursor from(array);
+    return readAll(Cursor(from.array()), unit.files, readFile) &&
+           readAll(Cursor(from.array()), unit.moves,
+                   [&](const QCborArray &each) { return readMove(each, folders); }) &&
+           from.isGood();
+}
+
+bool readBatch(Cursor &from, bool hasMoves, Record &record) {
     const Date begun = from.certainDate();
+    std::vector<std::string> folders;
+    for (Cursor names(hasMoves ? from.array() : QCborArray()); !names.isAtEnd();)
+        folders.push_back(names.bytes());
     std::vector<RecordedUnit> units;
     for (Cursor unit(from.array()); !unit.isAtEnd();) {
         units.push_back({{}, begun});
-        for (Cursor file(unit.array()); !file.isAtEnd();) {
-            auto intent = readFile(file.array());
-            if (!intent)
-                return false;
-            units.back().unit.files.push_back(*std::move(intent));
-        }
+        UnitIntent &read = units.back().unit;
+        const QCborArray parts = unit.array();
+        if (!(hasMoves ? readMixedUnit(parts, folders, read)
+                       : readAll(Cursor(parts), read.files, readFile)))
+            return false;
     }
     if (!from.isGood())
         return false;
@@ -190,9 +282,11 @@ bool readLeft(Cursor &from, Record &record) {
 bool readPayload(std::string_view payload, Record &record) {
     Cursor from(
         QCborValue::fromCbor(payload.data(), static_cast<qsizetype>(payload.size())).toArray());
-    switch (static_cast<FrameKind>(from.number())) {
+    const auto kind = static_cast<FrameKind>(from.number());
+    switch (kind) {
     case FrameKind::Batch:
-        return readBatch(from, record);
+    case FrameKind::BatchWithMoves:
+        return readBatch(from, kind == FrameKind::BatchWithMoves, record);
     case FrameKind::Left:
         return readLeft(from, record);
     case FrameKind::Resumed:
@@ -214,7 +308,7 @@ std::optional<std::string_view> payloadOf(std::string_view bytes) {
     if (bytes.size() < headerSize || !bytes.starts_with(frameMark))
         return std::nullopt;
     const std::uint32_t length = numberAt(bytes, 4);
-    if (length > bytes.size() - headerSize)
+    if (length > bytes.size() - headerSize || length > largestFrame)
         return std::nullopt;
     const std::string_view payload = bytes.substr(headerSize, length);
     const auto crc = crc32(0, reinterpret_cast<const Bytef *>(payload.data()), length);
@@ -223,18 +317,42 @@ std::optional<std::string_view> payloadOf(std::string_view bytes) {
 
 } // namespace
 
+bool isSound(const MoveIntent &move) {
+    constexpr std::string_view zero("\0", 1);
+    const auto isName = [&](const std::string &name) {
+        return !name.empty() && name != "." && name != ".." &&
+               name.find('/') == std::string::npos && name.find(zero) == std::string::npos;
+    };
+    return move.folder.starts_with('/') && move.folder.find(zero) == std::string::npos &&
+           isName(move.oldName) && isName(move.temporaryName) && isName(move.finalName);
+}
+
 std::string batchFrame(std::span<const UnitIntent> units, Date begun) {
-    return frameOf(FrameKind::Batch, [&](QCborStreamWriter &writer) {
+    const auto folders = foldersOf(units);
+    const FrameKind kind = folders.empty() ? FrameKind::Batch : FrameKind::BatchWithMoves;
+    return frameOf(kind, [&](QCborStreamWriter &writer) {
         put(writer, OptionalDate(begun));
-        writer.startArray(units.size());
-        for (const UnitIntent &unit : units) {
-            writer.startArray(unit.files.size());
-            for (const FileIntent &file : unit.files)
-                put(writer, file);
-            writer.endArray();
+        if (kind == FrameKind::BatchWithMoves) {
+            putWithMoves(writer, units, folders);
+            return;
         }
+        writer.startArray(units.size());
+        for (const UnitIntent &unit : units)
+            put(writer, unit.files);
         writer.endArray();
     });
+}
+
+std::optional<std::string> batchFrames(std::span<const UnitIntent> units, Date begun) {
+    constexpr std::size_t mostUnits = 256;
+    std::string frames;
+    for (; !units.empty(); units = units.subspan(std::min(units.size(), mostUnits))) {
+        const std::string frame = batchFrame(units.first(std::min(units.size(), mostUnits)), begun);
+        if (frame.size() > largestFrame || frame.size() > largestRecord - frames.size())
+            return std::nullopt;
+        frames += frame;
+    }
+    return frames;
 }
 
 std::string leftFrame(std::span<const std::size_t> indices) {

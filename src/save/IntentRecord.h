@@ -4,6 +4,7 @@
 #include "RunJournal.h"
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,9 +17,17 @@ namespace chronomender {
 // frame is complete or counts as never written: no file is touched before its frame is on disk.
 
 /// More than a run can need; a longer record is not written, and not read.
-constexpr std::size_t largestRecord = std::size_t{16} << 20;
+constexpr std::size_t largestRecord = std::size_t{64} << 20;
+/// The same for what one frame holds, which is taken apart in memory.
+constexpr std::size_t largestFrame = std::size_t{16} << 20;
 
-/// Units that are about to be written.
+/// The folder is an absolute path, and each name stays inside it. Nothing else is read from a
+/// record, so nothing else may be written.
+bool isSound(const MoveIntent &move);
+
+/// Units that are about to be written, in frames of a sensible size; none when they are too much.
+std::optional<std::string> batchFrames(std::span<const UnitIntent> units, Date begun);
+/// The same in one frame. A folder stands in it once.
 std::string batchFrame(std::span<const UnitIntent> units, Date begun);
 /// Of all units recorded so far, only those with these indices are still unsettled.
 std::string leftFrame(std::span<const std::size_t> indices);

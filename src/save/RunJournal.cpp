@@ -2,37 +2,90 @@
 #include "RunJournal.h"
 
 #include "JournalFile.h"
+#include "MoveRecovery.h"
+#include "MovedFiles.h"
 #include "UnitRecovery.h"
 
 #include <absl/time/clock.h>
 
+#include <algorithm>
 #include <array>
+#include <cerrno>
+#include <iterator>
 #include <numeric>
+#include <set>
 
 namespace chronomender {
 namespace {
 
-/// Puts right what one record says; the indices of the units that it could not.
-std::vector<std::size_t> recoverUnits(JournalFile &file, const Record &record, FileLayer &files,
-                                      std::vector<RecoveredFile> &told) {
-    // Without this mark, a recovery that is itself interrupted would leave the date of its own
-    // writing on a file. It is worth trying even when the mark cannot be made.
-    bool isMarked = false;
-    const auto beforeWriting = [&] {
-        if (!isMarked)
-            file.append(resumedFrame(absl::Now()));
-        isMarked = true;
-    };
-    std::vector<std::size_t> left;
-    for (std::size_t i = 0; i < record.unsettled.size(); ++i) {
-        auto results = recoverUnit(record.unsettled[i], record.resumed, files, beforeWriting);
-        if (std::any_of(results.begin(), results.end(),
-                        [](const RecoveredFile &each) { return isLeft(each.result); }))
-            left.push_back(i);
-        std::move(results.begin(), results.end(), std::back_inserter(told));
-    }
-    return left;
+bool appendUnits(JournalFile &file, std::span<const UnitIntent> units, FileError *error) {
+    const bool isReadable = std::ranges::all_of(
+        units, [](const UnitIntent &unit) { return std::ranges::all_of(unit.moves, isSound); });
+    const auto frames = isReadable ? batchFrames(units, absl::Now()) : std::nullopt;
+    if (!frames && error)
+        error->code = isReadable ? EFBIG : EINVAL;
+    return frames && file.append(*frames, error);
 }
+
+/// Puts right what one record says.
+class RecordRecovery {
+public:
+    RecordRecovery(JournalFile &file, const Record &record, FileLayer &files,
+                   RecoveryDirection direction)
+        : m_file(file), m_record(record), m_files(files), m_direction(direction) {}
+
+    std::vector<RecoveredFile> run() {
+        // A file is recorded for writing under the name that it had before it was to be renamed.
+        if (m_direction == RecoveryDirection::TakeBack)
+            recoverNames();
+        recoverValues();
+        if (m_direction == RecoveryDirection::Finish)
+            recoverNames();
+        if (m_left.empty())
+            m_file.remove();
+        else if (m_left.size() < m_units)
+            m_file.append(leftFrame(std::vector<std::size_t>(m_left.begin(), m_left.end())));
+        return std::move(m_told);
+    }
+
+private:
+    void recoverValues() {
+        // Without this mark, a recovery that is itself interrupted would leave the date of its own
+        // writing on a file. It is worth trying even when the mark cannot be made.
+        bool isMarked = false;
+        const auto beforeWriting = [&] {
+            if (!isMarked)
+                m_file.append(resumedFrame(absl::Now()));
+            isMarked = true;
+        };
+        for (std::size_t i = 0; i < m_record.unsettled.size(); ++i) {
+            auto results = recoverUnit(m_record.unsettled[i], m_record.resumed, m_files,
+                                       m_direction, beforeWriting);
+            if (std::ranges::any_of(results, isLeft, &RecoveredFile::result))
+                m_left.insert(i);
+            std::ranges::move(results, std::back_inserter(m_told));
+        }
+    }
+
+    void recoverNames() {
+        const auto record = [this](std::span<const UnitIntent> units, FileError *error) {
+            const bool isRecorded = appendUnits(m_file, units, error);
+            m_units += isRecorded ? units.size() : 0;
+            return isRecorded;
+        };
+        auto moved = recoverMoves(m_record.unsettled, m_direction, {m_files, record});
+        m_left.insert(moved.left.begin(), moved.left.end());
+        std::ranges::move(moved.told, std::back_inserter(m_told));
+    }
+
+    JournalFile &m_file;
+    const Record &m_record;
+    FileLayer &m_files;
+    const RecoveryDirection m_direction;
+    std::vector<RecoveredFile> m_told;
+    std::size_t m_units = m_record.unsettled.size(); ///< in the file
+    std::set<std::size_t> m_left;                    ///< those that stay
+};
 
 } // namespace
 
@@ -41,12 +94,21 @@ bool isLeft(RecoveredFile::Result result) {
     return result == Unreachable || result == InUse || result == WriteFailed;
 }
 
-std::string_view textKey(RecoveredFile::Result result) {
-    static constexpr std::array<std::string_view, 7> keys = {
-        "recovery_nothing",     "recovery_completed", "recovery_takenBack",   "recovery_changed",
-        "recovery_unreachable", "recovery_inUse",     "recovery_writeFailed",
+std::string_view textKey(const RecoveredFile &file) {
+    struct Keys {
+        std::string_view written, renamed;
     };
-    return keys.at(static_cast<std::size_t>(result));
+    static constexpr std::array<Keys, 7> keys{{
+        {"recovery_nothing", "recovery_renameNothing"},
+        {"recovery_completed", "recovery_renameCompleted"},
+        {"recovery_takenBack", "recovery_renameTakenBack"},
+        {"recovery_changed", "recovery_renameChanged"},
+        {"recovery_unreachable", "recovery_renameUnreachable"},
+        {"recovery_inUse", "recovery_inUse"}, // a file that others hold can be renamed
+        {"recovery_writeFailed", "recovery_renameFailed"},
+    }};
+    const Keys &found = keys.at(static_cast<std::size_t>(file.result));
+    return file.isRenamed() ? found.renamed : found.written;
 }
 
 RunJournal::RunJournal(std::string supportFolder, Durability durability)
@@ -68,19 +130,19 @@ bool RunJournal::begin(std::span<const UnitIntent> units, FileError *error) {
     m_kept += m_batch;
     m_batch = 0;
     m_batchStart = m_file->size();
-    if (!m_file->append(batchFrame(units, absl::Now()), error))
-        return false;
-    m_batch = units.size();
-    return true;
+    return append(units, error);
 }
 
 bool RunJournal::extend(std::span<const UnitIntent> units, FileError *error) {
     if (!m_file || m_batch == 0)
         return begin(units, error);
-    if (!m_file->append(batchFrame(units, absl::Now()), error))
-        return false;
-    m_batch += units.size();
-    return true;
+    return append(units, error);
+}
+
+bool RunJournal::append(std::span<const UnitIntent> units, FileError *error) {
+    const bool isRecorded = appendUnits(*m_file, units, error);
+    m_batch += isRecorded ? units.size() : 0;
+    return isRecorded;
 }
 
 void RunJournal::settle(std::span<const std::size_t> unsettled) {
@@ -104,18 +166,15 @@ void RunJournal::settle(std::span<const std::size_t> unsettled) {
 }
 
 std::vector<RecoveredFile> RunJournal::recover(const std::string &supportFolder, FileLayer &files,
-                                               RecoveryDirection) {
+                                               RecoveryDirection direction) {
     std::vector<RecoveredFile> told;
     for (const std::string &path : JournalFile::list(supportFolder)) {
         auto file = JournalFile::takeOver(path);
         const auto record = file ? file->read() : std::nullopt;
         if (!record)
             continue;
-        const auto left = recoverUnits(*file, *record, files, told);
-        if (left.empty())
-            file->remove();
-        else if (left.size() < record->unsettled.size())
-            file->append(leftFrame(left));
+        std::ranges::move(RecordRecovery(*file, *record, files, direction).run(),
+                          std::back_inserter(told));
     }
     return told;
 }
@@ -137,6 +196,8 @@ std::size_t RunJournal::forget(const std::string &supportFolder) {
             continue;
         for (const RecordedUnit &each : record->unsettled)
             count += each.unit.files.size();
+        for (const MovedItem &each : itemsOf(record->unsettled))
+            count += each.files.size();
         file->remove();
     }
     return count;

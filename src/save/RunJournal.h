@@ -43,24 +43,30 @@ struct UnitIntent {
 struct RecoveredFile {
     enum class Result : std::uint8_t {
         Nothing,     ///< it was as before, or done; nothing was written
-        Completed,   ///< it holds the new values now
-        TakenBack,   ///< it holds the old values again
-        Changed,     ///< somebody else has changed it since: left alone, and forgotten
+        Completed,   ///< it holds the new values now, or has its new name
+        TakenBack,   ///< it holds the old values again, or has its old name
+        Changed,     ///< somebody else has changed or moved it since: left alone, and forgotten
         Unreachable, ///< not there now; tried again at the next start
         InUse,       ///< another program holds it; likewise
         WriteFailed, ///< the system refused a write; likewise
     };
-    std::string path;
+    std::string path; ///< where it stands now, as far as is known
     Result result = Result::Nothing;
     std::string systemText; ///< the system's own words where it refused something; else ""
+    /// Of a file that was to be renamed, where it stood before the run; "" for one that was
+    /// written.
+    std::string oldPath = {};
+
+    bool isRenamed() const { return !oldPath.empty(); }
 };
 /// Which way a recovery brings what was begun: to its end, where that is possible, or back.
 enum class RecoveryDirection : bool { Finish, TakeBack };
 
 /// The file is not put right, and stays recorded for the next time.
 bool isLeft(RecoveredFile::Result result);
-/// Text key of a result, for example "recovery_completed"; its text follows the path and a colon.
-std::string_view textKey(RecoveredFile::Result result);
+/// Text key of what became of a file, for example "recovery_completed"; its text follows the path
+/// and a colon.
+std::string_view textKey(const RecoveredFile &file);
 
 /// The record of what a run is about to write, so that a run that was killed can be put right:
 /// after `recover` each file is entirely old or entirely new.
@@ -86,6 +92,7 @@ public:
 
     /// Records the batch in the place of the last one, or behind it when that was never settled.
     /// When it answers true the record is on disk; false: nothing may be written.
+    /// EINVAL: a name reaches outside its folder.
     bool begin(std::span<const UnitIntent> units, FileError *error = nullptr);
     /// Adds units to the batch in hand, before or after its first write. A file that is to be moved
     /// otherwise than recorded before is recorded again, and the last record of it holds.
@@ -109,6 +116,8 @@ public:
     static std::size_t forget(const std::string &supportFolder);
 
 private:
+    bool append(std::span<const UnitIntent> units, FileError *error);
+
     std::string m_folder;
     Durability m_durability;
     std::unique_ptr<JournalFile> m_file; ///< made with the first batch

@@ -50,20 +50,6 @@ ValueState stateOf(const Patch &patch, OpenFile &file) {
     return isTorn(present, patch) ? ValueState::Torn : ValueState::Foreign;
 }
 
-/// The number of a file on these is made up when it is looked at, and another after the medium was
-/// taken out or the system started again.
-bool hasLastingInodes(const OpenFile &file) {
-    constexpr std::array<std::uint64_t, 3> withoutThem = {
-        0x4d44,     // FAT
-        0x2011BAB0, // exFAT
-        0x65735546, // FUSE
-    };
-    struct statfs system;
-    return fstatfs(file.descriptor(), &system) != 0 ||
-           std::find(withoutThem.begin(), withoutThem.end(),
-                     static_cast<std::uint64_t>(system.f_type)) == withoutThem.end();
-}
-
 /// One file of the unit, open and locked.
 struct Member {
     const FileIntent &intent;
@@ -85,10 +71,11 @@ using Obstacle = std::optional<Failure>;
 class UnitRecovery {
 public:
     UnitRecovery(const RecordedUnit &recorded, std::span<const Date> resumed, FileLayer &files,
-                 const std::function<void()> &beforeWriting)
+                 RecoveryDirection direction, const std::function<void()> &beforeWriting)
         : m_begun(recorded.begun),
           m_resumed(resumed),
           m_files(files),
+          m_direction(direction),
           m_beforeWriting(beforeWriting) {
         for (const FileIntent &intent : recorded.unit.files)
             m_members.push_back({intent});
@@ -156,7 +143,7 @@ private:
         const FileAttributes &before = member.intent.before;
         const bool isSameSize = member.present.size == before.size;
         const bool isSameFile = member.present.inode == before.inode;
-        const bool isKnownFile = isSameFile || !hasLastingInodes(*member.file);
+        const bool isKnownFile = isSameFile || !hasLastingInodes(member.file->descriptor());
         if (!member.intent.toolCopy.empty()) {
             const auto copy = m_files.attributes(member.intent.toolCopy);
             member.hasLeftover = copy && copy->kind == FileAttributes::Kind::Regular;
@@ -202,7 +189,8 @@ private:
         const bool awaitsTool = any(
             [](const Member &each) { return !each.hasCommitted && !each.intent.toolCopy.empty(); });
         const bool hasNew = any([](const Member &each) { return each.hasNew; });
-        m_isForward = hasCommitted || (hasNew && !awaitsTool);
+        m_isForward =
+            hasCommitted || (hasNew && !awaitsTool && m_direction == RecoveryDirection::Finish);
     }
 
     Obstacle bringTo(Member &member) {
@@ -280,6 +268,7 @@ private:
     Date m_begun;
     std::span<const Date> m_resumed;
     FileLayer &m_files;
+    const RecoveryDirection m_direction;
     const std::function<void()> &m_beforeWriting;
     std::vector<Member> m_members;
     bool m_isForward = false;
@@ -288,9 +277,21 @@ private:
 } // namespace
 
 std::vector<RecoveredFile> recoverUnit(const RecordedUnit &recorded, std::span<const Date> resumed,
-                                       FileLayer &files,
+                                       FileLayer &files, RecoveryDirection direction,
                                        const std::function<void()> &beforeWriting) {
-    return UnitRecovery(recorded, resumed, files, beforeWriting).run();
+    return UnitRecovery(recorded, resumed, files, direction, beforeWriting).run();
+}
+
+bool hasLastingInodes(int descriptor) {
+    constexpr std::array<std::uint64_t, 3> withoutThem = {
+        0x4d44,     // FAT
+        0x2011BAB0, // exFAT
+        0x65735546, // FUSE
+    };
+    struct statfs system;
+    return fstatfs(descriptor, &system) != 0 ||
+           std::find(withoutThem.begin(), withoutThem.end(),
+                     static_cast<std::uint64_t>(system.f_type)) == withoutThem.end();
 }
 
 } // namespace chronomender
