@@ -1280,5 +1280,17 @@ Beispiele:
     <message id="undoPasteTemplatePart">
         <translation>Namensbaustein einsetzen</translation>
     </message>
+    <message id="confirmSaveBeforeRenameMessageTextAll_multi">
+        <translation>%1 Ordner haben ungesicherte Änderungen. Vor dem Umbenennen aller Dateien sichern?</translation>
+    </message>
+    <message id="confirmSaveBeforeRenameMessageTextAll_single">
+        <translation>Ein Ordner hat ungesicherte Änderungen. Vor dem Umbenennen aller Dateien sichern?</translation>
+    </message>
+    <message id="confirmSaveBeforeRenameMessageTextCurrent_multi">
+        <translation>%1 der gewählten Ordner haben ungesicherte Änderungen. Vor dem Umbenennen der Dateien sichern?</translation>
+    </message>
+    <message id="confirmSaveBeforeRenameMessageTextCurrent_single">
+        <translation>Der Ordner hat ungesicherte Änderungen. Vor dem Umbenennen der Dateien sichern?</translation>
+    </message>
 </context>
 </TS>

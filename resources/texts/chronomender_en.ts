@@ -1280,5 +1280,17 @@ Examples:
     <message id="undoPasteTemplatePart">
         <translation>Paste Name Element</translation>
     </message>
+    <message id="confirmSaveBeforeRenameMessageTextAll_multi">
+        <translation>%1 folders have changes that are not saved. Save them before all files are renamed?</translation>
+    </message>
+    <message id="confirmSaveBeforeRenameMessageTextAll_single">
+        <translation>One folder has changes that are not saved. Save them before all files are renamed?</translation>
+    </message>
+    <message id="confirmSaveBeforeRenameMessageTextCurrent_multi">
+        <translation>%1 of the selected folders have changes that are not saved. Save them before their files are renamed?</translation>
+    </message>
+    <message id="confirmSaveBeforeRenameMessageTextCurrent_single">
+        <translation>The folder has changes that are not saved. Save them before its files are renamed?</translation>
+    </message>
 </context>
 </TS>

@@ -10,13 +10,6 @@ namespace {
 
 using Folders = std::vector<MySingleFolderPtr>;
 
-Folders unsavedOf(const Folders &folders) {
-    Folders unsaved;
-    std::ranges::copy_if(folders, std::back_inserter(unsaved),
-                         [](const MySingleFolderPtr &each) { return each->isUnsavedFolder(); });
-    return unsaved;
-}
-
 std::vector<MySinglePicPtr> picsIn(const Folders &folders,
                                    const std::vector<MySinglePicPtr> &pics) {
     std::unordered_set<const MySingleFolder *> wanted;
@@ -30,6 +23,13 @@ std::vector<MySinglePicPtr> picsIn(const Folders &folders,
 }
 
 } // namespace
+
+std::vector<MySingleFolderPtr> unsavedOf(const std::vector<MySingleFolderPtr> &folders) {
+    Folders unsaved;
+    std::ranges::copy_if(folders, std::back_inserter(unsaved),
+                         [](const MySingleFolderPtr &each) { return each->isUnsavedFolder(); });
+    return unsaved;
+}
 
 RenameSheetType renameSheetTypeOf(RenameSheetRequest request) {
     using enum RenameSheetRequest;

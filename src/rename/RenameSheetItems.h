@@ -45,6 +45,9 @@ struct RenameSheetViews {
     bool isCompound() const { return selectedFolders.size() > 1; }
 };
 
+/// Those with changes that wait for a save.
+std::vector<MySingleFolderPtr> unsavedOf(const std::vector<MySingleFolderPtr> &folders);
+
 /// Which items a rename sheet shows, and what the run does that it starts: for one opening of the
 /// sheet. Main thread.
 class RenameSheetItems {

@@ -23,8 +23,6 @@ struct TemplateSheetFlags {
     /// At most one holds: the template places so many add-ons.
     bool isAdditionalTextAvailable = false, is2AdditionalTextAvailable = false,
          is3AdditionalTextAvailable = false;
-
-    bool operator==(const TemplateSheetFlags &) const = default;
 };
 TemplateSheetFlags sheetFlagsOf(const RenameTemplate &renameTemplate);
 

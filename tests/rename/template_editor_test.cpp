@@ -39,6 +39,7 @@ protected:
     }
     void keep(std::initializer_list<const char *> texts) {
         std::vector<RenameTemplate> templates;
+        templates.reserve(texts.size());
         for (const char *text : texts)
             templates.push_back(std::get<RenameTemplate>(templateFromText(text)));
         storeRenameTemplates(templates, defaults);
@@ -168,19 +169,9 @@ TEST_F(TemplateEditorTest, ListsTemplatesByTheNamesTheyGive) {
     EXPECT_EQ(defaults.integerForKey("sortedTemplatesSelectedIndex"), 2);
     templateSelected(menu, 0, defaults);
     EXPECT_EQ(defaults.integerForKey("templateSelectedIndex"), 3) << "the title is no template";
-    templateSelected(menu, 4, defaults);
-    EXPECT_EQ(defaults.integerForKey("templateSelectedIndex"), 0);
-}
-
-TEST_F(TemplateEditorTest, TellsWhichFieldsTheSheetShows) {
-    const std::pair<const char *, TemplateSheetFlags> cases[] = {
-        {"{day}", {}},
-        {"{counter:3}{folder}", {true, true, false, true, false, false, false}},
-        {"{name}{addon1}", {false, false, true, true, true, false, false}},
-        {"{addon1}{addon2}", {false, false, false, false, false, true, false}},
-    };
-    for (const auto &[text, flags] : cases)
-        EXPECT_EQ(sheetFlagsOf(std::get<RenameTemplate>(templateFromText(text))), flags) << text;
+    const TemplateSheetFlags flags = templateSelected(menu, 1, defaults);
+    EXPECT_EQ(defaults.integerForKey("templateSelectedIndex"), 1);
+    EXPECT_TRUE(flags.isCounterAvailable && !flags.isANameAvailable);
 }
 
 } // namespace
