@@ -21,7 +21,7 @@ public:
     Counting(const RenameScope &scope, const RenameChoices &choices)
         : m_isRunning(choices.counterType == CounterType::Running &&
                       !choices.wantsCompoundAltCounter),
-          m_isCompoundCounted(choices.wantsCompoundAltCounter && scope.isCompound()),
+          m_isCompoundCounted(choices.wantsCompoundAltCounter),
           m_onlyFolders(setOf(scope.onlyFolders)),
           m_next(choices.firstCounter) {}
 

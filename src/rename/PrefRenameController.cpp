@@ -87,6 +87,8 @@ std::optional<UserDefaults::Outcome> PrefRenameController::save(bool asAddition)
     else
         templates[*selected] = currentSettings();
     const auto outcome = storeRenameTemplates(templates, m_defaults);
+    if (outcome == UserDefaults::Outcome::ValueNotAllowed)
+        return outcome;
     if (isAddition)
         m_defaults.set(selectedKey, std::to_string(templates.size() - 1));
     close();

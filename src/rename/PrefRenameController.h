@@ -43,8 +43,8 @@ public:
     SheetType sheetType() const { return m_sheetType; }
     void cancel();
     /// Puts the template into the list and closes the editor. The change of a template can be
-    /// turned into an addition. None where no editor is open or the template cannot be used; the
-    /// editor stays open then.
+    /// turned into an addition. None where no editor is open or the template cannot be used, and
+    /// ValueNotAllowed where the list is full; the editor stays open then.
     std::optional<UserDefaults::Outcome> save(bool asAddition = false);
     /// Takes the selected template out of the list; the question before is
     /// "confirmRemoveTemplateMessageText". None without one.

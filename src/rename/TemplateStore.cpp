@@ -115,6 +115,9 @@ std::vector<RenameTemplate> renameTemplatesRaw(const UserDefaults &defaults) {
 
 UserDefaults::Outcome storeRenameTemplates(const std::vector<RenameTemplate> &templates,
                                            UserDefaults &defaults) {
+    // What could not be read again would lose all templates.
+    if (templates.size() > static_cast<std::size_t>(mostTemplates))
+        return UserDefaults::Outcome::ValueNotAllowed;
     QJsonArray array;
     for (const RenameTemplate &each : templates)
         array.append(stored(each));

@@ -170,12 +170,15 @@ TEST_F(SheetTest, ShowsTheNamesOfTheRun) {
     chooseMenuTag(counterTypeMenu, {3}, true, defaults);
     opened.settingsChanged();
     EXPECT_EQ(shown(opened, {pics[3], pics[4]}), "x03own.jpg x04old.jpg ");
-    opened.items().setRestrictRenameType(1);
     defaults.set("rename_restrictCounter", "1");
     opened.settingsChanged();
+    EXPECT_EQ(shown(opened, {pics[4]}), "x04old.jpg ");
+    opened.items().setRestrictRenameType(1);
     EXPECT_EQ(shown(opened, {pics[3], pics[4]}), "x01own.jpg  ") << "e is not counted";
-    auto single = sheet(RenameCurrent, "B");
-    EXPECT_EQ(shown(single, {pics[4]}), "x02old.jpg ") << "one folder for itself";
+    folders[0]->sfDateModificationsTimeInterval = absl::Hours(1);
+    defaults.set("renameAtSave", "1");
+    auto changed = sheet(SaveAll, "AB");
+    EXPECT_EQ(shown(changed, {pics[3], pics[4]}), "x02own.jpg x02old.jpg ") << "no compound";
     defaults.set("templateSelectedIndex", "9");
     opened.settingsChanged();
     EXPECT_EQ(shown(opened, {pics[3]}), " ");
