@@ -2,8 +2,9 @@
 """witness.py TRIP: judges a mended sample trip without asking the program that mended it.
 
 TRIP holds photos/ (with plan.json, the truth), untouched/ (a copy from before), info.jsonl (where
-the program said that values stand), before.jsonl and after.jsonl (its lists), and the same two of
-the night at home, whose clocks were right; before-drag/ is photos/ as it was before one picture was
+the program said that values stand), planned.jsonl and mended.jsonl (its reports of the dry run and of
+the run that saved and renamed), before.jsonl and after.jsonl (its lists), and the same two of the
+night at home, whose clocks were right; before-drag/ is photos/ as it was before one picture was
 dragged between two others. Exit code 1 when anything is not as it should be."""
 import datetime
 import json
@@ -29,6 +30,17 @@ def instant(file):
     return datetime.datetime.fromisoformat(file["taken"])
 
 
+def tail(path):
+    """Folder and name."""
+    return "/".join(pathlib.PurePath(path).parts[-2:])
+
+
+def new_names(report):
+    """The new path of every file that a report names, by its old one."""
+    return {tail(line["path"]): tail(line["newPath"]) for line in json_lines(report)
+            if line.get("kind") == "rename"}
+
+
 def read_with_exiftool(photos, paths):
     arguments = [f"-{tag}" for tag in TAGS]
     done = subprocess.run(["exiftool", "-json", "-G0", *arguments, *paths], cwd=photos,
@@ -45,26 +57,63 @@ def difference(expected, read):
 
 
 def judge_dates(photos, files):
-    read = read_with_exiftool(photos, [file["path"] for file in files])
-    print(f"\n{'file':<20} {'its clock said':<20} {'ExifTool reads now':<27} {'really taken':<26}")
+    read = read_with_exiftool(photos, [file["now"] for file in files])
+    print(f"\n{'file':<27} {'it was':<14} {'its clock said':<20} {'ExifTool reads now':<27}"
+          f" {'really taken':<26}")
     faults = 0
     for file in sorted(files, key=instant):
-        found = read.get(file["path"], {})
+        found = read.get(file["now"], {})
         wrong = difference(file["expected"], found)
         faults += bool(wrong)
         now = next((found[tag] for tag in NAMING_TAGS if tag in found), "no date")
         now += " " + found.get("EXIF:OffsetTimeOriginal", "")
         note = "edited later: kept" if file["isEdited"] else ""
-        print(f"{file['path']:<20} {file['clock']:<20} {now:<27} {file['taken']:<26}"
+        print(f"{file['now']:<27} {tail(file['path']).split('/')[1]:<14} {file['clock']:<20} {now:<27} {file['taken']:<26}"
               f" {'WRONG: ' + wrong if wrong else 'right'} {note}".rstrip())
     return faults
 
 
-def order_faults(files, listed):
+def true_order(files, name):
+    """The given name of each shot, in the order in which they were taken."""
     shots = [file for file in files if not file["isDependent"]]
-    true_order = [file["path"] for file in sorted(shots, key=instant)]
-    found = ["/".join(pathlib.PurePath(entry["path"]).parts[-2:]) for entry in listed]
-    return sum(a != b for a, b in zip(true_order, found)) + abs(len(true_order) - len(found))
+    return [file[name] for file in sorted(shots, key=instant)]
+
+
+def differences(wanted, found):
+    return sum(a != b for a, b in zip(wanted, found)) + abs(len(wanted) - len(found))
+
+
+def order_faults(files, listed, name="path"):
+    return differences(true_order(files, name), [tail(entry["path"]) for entry in listed])
+
+
+def judge_names(trip, files):
+    """How many files of the cameras there were; how many of them are not there exactly once under
+    the new name, or are sidecars that changed; how many left their companions; how many shots do
+    not sort by name as they were taken; and how many names the dry run foretold wrong."""
+    names = new_names(trip / "mended.jsonl")
+    folders = sorted({file["path"].split("/")[0] for file in files})
+    old, new = ({tail(path) for folder in folders for path in (trip / state / folder).iterdir()}
+                for state in ("untouched", "photos"))
+    wanted = [names.get(path, "") for path in old]
+    lost = len(set(wanted) ^ new) + len(wanted) - len(set(wanted))
+    sidecars = old - {file["path"] for file in files}
+    lost += sum(names[path] in new and not is_same_file(trip / "photos" / names[path],
+                                                        trip / "untouched" / path)
+                for path in sidecars if path in names)
+    bases = {(base_of(path), base_of(names[path])) for path in old if path in names}
+    parted = len(bases) - len({before for before, _ in bases})
+    by_name = [name for name in sorted(new, key=lambda path: path.split("/")[1])
+               if name in true_order(files, "now")]
+    foretold = new_names(trip / "planned.jsonl")
+    wrong = sum(foretold.get(path) != name for path, name in names.items())
+    return len(old), lost, parted, differences(true_order(files, "now"), by_name), wrong
+
+
+def base_of(path):
+    """Folder and name without what stands behind the first dot."""
+    folder, name = path.split("/")
+    return folder, name.split(".")[0]
 
 
 def png_checksums(data):
@@ -96,8 +145,7 @@ def value_ranges(trip):
     """Begin and end of each value of each file, as the program said that they stand."""
     ranges = {}
     for entry in json_lines(trip / "info.jsonl"):
-        key = "/".join(pathlib.PurePath(entry["path"]).parts[-2:])
-        ranges[key] = [(value["offset"], value["offset"] + value["room"])
+        ranges[tail(entry["path"])] = [(value["offset"], value["offset"] + value["room"])
                        for value in entry["values"]]
     return ranges
 
@@ -109,7 +157,7 @@ def judge_bytes(trip, files):
     ranges = value_ranges(trip)
     changed_files = changed_bytes = strays = resized = rewritten = spoilt = 0
     for file in files:
-        old_path, new_path = (trip / state / file["path"] for state in ("untouched", "photos"))
+        old_path, new_path = trip / "untouched" / file["path"], trip / "photos" / file["now"]
         if file["isRewritten"]:
             rewritten += 1
             spoilt += picture_of(old_path) != picture_of(new_path)
@@ -130,8 +178,9 @@ def is_same_file(path, other):
 
 def right_ones_are_untouched(trip, files):
     """Files whose clock was right all the time: the phone's, and those of the night at home."""
-    paths = [file["path"] for file in files if file["isAtHome"] or file["path"].startswith("phone/")]
-    return all(is_same_file(trip / "photos" / path, trip / "untouched" / path) for path in paths)
+    right = [file for file in files if file["isAtHome"] or file["path"].startswith("phone/")]
+    return all(is_same_file(trip / "photos" / file["now"], trip / "untouched" / file["path"])
+               for file in right)
 
 
 def judge_drag(trip, first, dragged, last):
@@ -152,22 +201,31 @@ def judge_drag(trip, first, dragged, last):
 def main():
     trip = pathlib.Path(sys.argv[1])
     files = json.loads((trip / "photos" / "plan.json").read_text())["files"]
+    names = new_names(trip / "mended.jsonl")
+    for file in files:
+        file["now"] = names.get(file["path"], file["path"])
     date_faults = judge_dates(trip / "photos", files)
     trip_files = [file for file in files if not file["isAtHome"]]
     night_files = [file for file in files if file["isAtHome"]]
     shots = sum(not file["isDependent"] for file in trip_files)
     before = order_faults(trip_files, json_lines(trip / "before.jsonl"))
-    after = order_faults(trip_files, json_lines(trip / "after.jsonl"))
+    after = order_faults(trip_files, json_lines(trip / "after.jsonl"), "now")
     night_before = order_faults(night_files, json_lines(trip / "night-before.jsonl"))
     night_after = order_faults(night_files, json_lines(trip / "night-after.jsonl"))
     changed_files, changed_bytes, strays, resized, rewritten, spoilt = judge_bytes(trip, files)
-    dates, drag_strays, drag_changed = judge_drag(trip, "nikon/DSC_0240.JPG", "lent/P0007.JPG",
-                                                  "nikon/DSC_0241.JPG")
+    dates, drag_strays, drag_changed = judge_drag(trip, names["nikon/DSC_0240.JPG"],
+                                                  "lent/P0007.JPG", names["nikon/DSC_0241.JPG"])
+    count, lost, parted, unsorted, wrong = judge_names(trip, trip_files)
     verdicts = [
         (date_faults == 0, f"dates: {len(files) - date_faults} of {len(files)} files hold the true "
                            "time in every stamp and zone stamp that they have"),
         (before > 0 and after == 0,
          f"order: {before} of {shots} shots stood out of place before, {after} do now"),
+        (count > 0 and lost == parted == wrong == 0,
+         f"names: {count} files were renamed, {lost} of them are not there exactly once, {parted} "
+         f"left their shot, {wrong} names are others than the dry run said"),
+        (unsorted == 0, f"sorting: {unsorted} of {shots} shots stand out of place when the names of "
+                        "all cameras are sorted"),
         (night_before > 0 and night_after == 0,
          f"night: {night_before} of {len(night_files)} shots stood out of place when both times "
          f"were read as the later, {night_after} with the other reading of one"),
