@@ -84,6 +84,12 @@
     <message id="cli_error_alignWithoutPics">
         <translation>Geben Sie an, was ausgerichtet wird: --pics NAME… oder --pics all.</translation>
     </message>
+    <message id="cli_error_badAddOn">
+        <translation>%1 kann nicht Teil eines Namens werden, denn es enthält einen Schrägstrich.</translation>
+    </message>
+    <message id="cli_error_badCounter">
+        <translation>--counter %1: gib all (eine Nummer läuft durch alle Ordner) oder folder (jeder Ordner zählt von vorn) an.</translation>
+    </message>
     <message id="cli_error_badDateSequence">
         <translation>%1 ist keine Folge von Daten. Angegeben werden das erste Datum und ein Schritt, etwa 2024-05-01T10:00+60.</translation>
     </message>
@@ -113,6 +119,9 @@
     </message>
     <message id="cli_error_badSlot">
         <translation>%1 ist keine Zeit zum Übernehmen. Möglich sind %2.</translation>
+    </message>
+    <message id="cli_error_badTemplateText">
+        <translation>--template-text, Zeichen %1: %2</translation>
     </message>
     <message id="cli_error_betweenNeedsTwo">
         <translation>--between braucht zwei Aufnahmen: --between NAME NAME.</translation>
@@ -177,11 +186,17 @@
     <message id="cli_error_notAmbiguous">
         <translation>Die Zeit von %1 meint nur einen Zeitpunkt; es gibt keinen anderen zu wählen. Nichts wurde geschrieben.</translation>
     </message>
+    <message id="cli_error_noTemplate">
+        <translation>Es gibt keine Vorlage %1. Welche es gibt: %2</translation>
+    </message>
     <message id="cli_error_notFound">
         <translation>%1 gibt es nicht.</translation>
     </message>
     <message id="cli_error_nothingWritten">
         <translation>Es wurde nichts geschrieben.</translation>
+    </message>
+    <message id="cli_error_onlyOnce">
+        <translation>%1 kann nur einmal angegeben werden.</translation>
     </message>
     <message id="cli_error_optionTwice">
         <translation>%1 steht zweimal für %2.</translation>
@@ -198,6 +213,9 @@
     <message id="cli_error_picWithoutCorrection">
         <translation>--pic %1 braucht ein --shift, --source-zone oder --target-zone dahinter.</translation>
     </message>
+    <message id="cli_error_renameOverUnsaved">
+        <translation>Die Daten dieser Ordner sind andere als die in den Dateien, und Namen entstehen aus dem, was die Dateien enthalten. In einem Zug speichern und umbenennen: %1. Nichts wurde umbenannt.</translation>
+    </message>
     <message id="cli_error_settingNotAllowed">
         <translation>Die Einstellung %1 kann nicht %2 sein; möglich ist %3.</translation>
     </message>
@@ -210,6 +228,9 @@
     <message id="cli_error_shiftOutOfBounds">
         <translation>Die Verschiebung würde %1 aus den Jahren 1 bis 4999 hinausführen.</translation>
     </message>
+    <message id="cli_error_templatesWithPaths">
+        <translation>--templates listet nur die Vorlagen auf; lass die Pfade weg.</translation>
+    </message>
     <message id="cli_error_twoAlignments">
         <translation>Nur eine Ausrichtung auf einmal: eins von --gaps, --pack, --by-name, --reverse, --mirror und --copy.</translation>
     </message>
@@ -218,6 +239,9 @@
     </message>
     <message id="cli_error_twoFilters">
         <translation>%1 hat --filter-ext und --filter-ext-not. Nur eines davon kann angegeben werden.</translation>
+    </message>
+    <message id="cli_error_twoTemplates">
+        <translation>Gib nur eins von --template und --template-text an.</translation>
     </message>
     <message id="cli_error_unknownProblem">
         <translation>Ein Bedenken %1 gibt es nicht. Bedenken werden genannt, wenn sie auftreten.</translation>
@@ -231,11 +255,23 @@
     <message id="cli_error_unknownZoneNear">
         <translation>Eine Zeitzone %1 gibt es nicht. Ähnlich: %2.</translation>
     </message>
+    <message id="cli_error_withoutRename">
+        <translation>Optionen für Namen brauchen --rename. Nichts wurde geschrieben.</translation>
+    </message>
     <message id="cli_filterKeys">
         <translation>Es gibt die Schlüssel %1.</translation>
     </message>
     <message id="cli_help_accept">
         <translation>Speichern, obwohl es dieses Bedenken gibt</translation>
+    </message>
+    <message id="cli_help_addOn">
+        <translation>Der erste Zusatztext der Vorlage</translation>
+    </message>
+    <message id="cli_help_addOn2">
+        <translation>Der zweite</translation>
+    </message>
+    <message id="cli_help_addOn3">
+        <translation>Der dritte</translation>
     </message>
     <message id="cli_help_after">
         <translation>Eine Sekunde hinter diese Aufnahme</translation>
@@ -270,6 +306,12 @@ Beispiele:
     <message id="cli_help_copy">
         <translation>Datiert jede Aufnahme nach einer anderen ihrer eigenen Zeiten: digitized, modification, file-creation oder file-modification, wie in der Datei oder, mit -new dahinter, wie nach dem Speichern</translation>
     </message>
+    <message id="cli_help_counter">
+        <translation>Eine Nummer läuft durch alle Ordner (all), oder jeder Ordner zählt von vorn (folder)</translation>
+    </message>
+    <message id="cli_help_counterStart">
+        <translation>Die erste Nummer (sonst 1)</translation>
+    </message>
     <message id="cli_help_dateSequence">
         <translation>Gibt den Bildern aller Ordner ein Datum nach dem anderen, in der Folge ihrer Namen: das erste Datum und den Schritt STEP (Sekunden oder H:MM:SS) zum nächsten</translation>
     </message>
@@ -286,7 +328,7 @@ Beispiele:
         <translation>Die Aufnahme, die gezogen wird: ein Name, oder ORDNER/NAME oder ein Pfad, wo ein Name in mehreren Ordnern steht; mit --between mehrmals möglich</translation>
     </message>
     <message id="cli_help_dryRun">
-        <translation>Jede Zeit alt und neu zeigen und nichts schreiben</translation>
+        <translation>Alle Daten oder Namen alt und neu zeigen und nichts schreiben</translation>
     </message>
     <message id="cli_help_emptyTags">
         <translation>Was leere Zeitfelder bedeuten: die Datei in Ruhe lassen (sonst üblich), das Datum der Datei nehmen, oder eine Zeit, von der STEP (Sekunden oder H:MM:SS) zur nächsten führt</translation>
@@ -374,6 +416,19 @@ Beispiele:
     <message id="cli_help_rating">
         <translation>Nur als Favorit markierte Aufnahmen auflisten, oder alle nicht verworfenen</translation>
     </message>
+    <message id="cli_help_rename">
+        <translation>Den Dateien Namen nach einer Vorlage geben</translation>
+    </message>
+    <message id="cli_help_rename_footer">
+        <translation>Nie wird eine Datei überschrieben: Wo ein Name vergeben ist, kommt eine Nummer hinzu. Alle Dateien einer Aufnahme behalten einen Namen.
+Beispiele:
+  mend rename --templates
+  mend rename canon phone --template-text '{year}_{month}_{day}_{counter:4}' --dry-run
+  mend rename canon --template 2 --counter-start 100</translation>
+    </message>
+    <message id="cli_help_renameAtSave">
+        <translation>Danach im selben Zug allen Dateien der Ordner Namen nach einer Vorlage geben</translation>
+    </message>
     <message id="cli_help_resume">
         <translation>Bringt in Ordnung, was unterbrochenes Sichern hinterließ</translation>
     </message>
@@ -418,6 +473,15 @@ Beispiele:
     </message>
     <message id="cli_help_targetZone">
         <translation>Zeitzone, in der die Zeiten stehen sollen; own lässt jeder Datei ihre eigene</translation>
+    </message>
+    <message id="cli_help_template">
+        <translation>Die Nummer einer Vorlage, wie --templates sie auflistet (sonst die in den Einstellungen gewählte)</translation>
+    </message>
+    <message id="cli_help_templates">
+        <translation>Die Vorlagen auflisten und enden</translation>
+    </message>
+    <message id="cli_help_templateText">
+        <translation>Eine Vorlage als Text, etwa '{year}_{month}_{day}_{counter:4}'</translation>
     </message>
     <message id="cli_help_version">
         <translation>Die Version ausgeben</translation>
@@ -523,6 +587,60 @@ Beispiele:
     </message>
     <message id="cli_progress_reading">
         <translation>Lesen von %1</translation>
+    </message>
+    <message id="cli_rename_interrupted">
+        <translation>Unterbrochen. Dateien, die oben nicht als umbenannt stehen, behielten ihre Namen.</translation>
+    </message>
+    <message id="cli_rename_leftOnTheWay">
+        <translation>%1 unter einem vorläufigen Namen geblieben</translation>
+    </message>
+    <message id="cli_rename_leftOnTheWayNote">
+        <translation>auf dem Weg zu %1 stehen geblieben</translation>
+    </message>
+    <message id="cli_rename_noteCompanion">
+        <translation>%1 fehlt oder konnte nicht mitkommen</translation>
+    </message>
+    <message id="cli_rename_noteDot">
+        <translation>der Name beginnt mit einem Punkt</translation>
+    </message>
+    <message id="cli_rename_noteNotRenamed">
+        <translation>sie konnte nicht umbenannt werden</translation>
+    </message>
+    <message id="cli_rename_noteNotWritable">
+        <translation>%1 ist nicht beschreibbar</translation>
+    </message>
+    <message id="cli_rename_nothingRenamed">
+        <translation>Probelauf: Nichts wurde umbenannt.</translation>
+    </message>
+    <message id="cli_rename_notReached">
+        <translation>%1 nicht erreicht</translation>
+    </message>
+    <message id="cli_rename_notReachedNote">
+        <translation>nicht erreicht</translation>
+    </message>
+    <message id="cli_rename_numbered">
+        <translation>%1 mit einer Nummer hinter einem vergebenen Namen</translation>
+    </message>
+    <message id="cli_rename_numberNote">
+        <translation>Nummer %1, denn %2 ist vergeben</translation>
+    </message>
+    <message id="cli_rename_planned">
+        <translation>%1 werden umbenannt</translation>
+    </message>
+    <message id="cli_rename_refused">
+        <translation>%1 abgelehnt</translation>
+    </message>
+    <message id="cli_rename_refusedNote">
+        <translation>abgelehnt: Es wäre %1</translation>
+    </message>
+    <message id="cli_rename_renamed">
+        <translation>%1 umbenannt</translation>
+    </message>
+    <message id="cli_rename_unchanged">
+        <translation>%1 heißen schon so</translation>
+    </message>
+    <message id="cli_rename_unchangedNote">
+        <translation>heißt schon so</translation>
     </message>
     <message id="cli_result_failed">
         <translation>%1 misslungen</translation>
@@ -1291,6 +1409,12 @@ Beispiele:
     </message>
     <message id="confirmSaveBeforeRenameMessageTextCurrent_single">
         <translation>Der Ordner hat ungesicherte Änderungen. Vor dem Umbenennen der Dateien sichern?</translation>
+    </message>
+    <message id="templateStatusText1">
+        <translation>Diese Vorlage gibt allen Dateien denselben Namen. Füge ein Datum, den Zähler oder den Dateinamen hinzu.</translation>
+    </message>
+    <message id="templateStatusText2">
+        <translation>Mehrere Dateien können denselben Namen bekommen; dann kommt eine Nummer hinzu. Ein Zähler oder der Dateiname verhindert das.</translation>
     </message>
 </context>
 </TS>

@@ -84,6 +84,12 @@
     <message id="cli_error_alignWithoutPics">
         <translation>Say what to align: --pics NAME…, or --pics all.</translation>
     </message>
+    <message id="cli_error_badAddOn">
+        <translation>%1 cannot become part of a name, as it holds a slash.</translation>
+    </message>
+    <message id="cli_error_badCounter">
+        <translation>--counter %1: give all (one number runs through all folders) or folder (each folder counts from the start).</translation>
+    </message>
     <message id="cli_error_badDateSequence">
         <translation>%1 is no sequence of dates. Give the first date and a step, such as 2024-05-01T10:00+60.</translation>
     </message>
@@ -113,6 +119,9 @@
     </message>
     <message id="cli_error_badSlot">
         <translation>%1 is no date to copy. Give one of %2.</translation>
+    </message>
+    <message id="cli_error_badTemplateText">
+        <translation>--template-text, character %1: %2</translation>
     </message>
     <message id="cli_error_betweenNeedsTwo">
         <translation>--between needs two items: --between NAME NAME.</translation>
@@ -177,11 +186,17 @@
     <message id="cli_error_notAmbiguous">
         <translation>The date of %1 means one instant only, so there is no other to choose. Nothing was written.</translation>
     </message>
+    <message id="cli_error_noTemplate">
+        <translation>There is no template %1. What there is: %2</translation>
+    </message>
     <message id="cli_error_notFound">
         <translation>%1 does not exist.</translation>
     </message>
     <message id="cli_error_nothingWritten">
         <translation>Nothing was written.</translation>
+    </message>
+    <message id="cli_error_onlyOnce">
+        <translation>%1 can be given once only.</translation>
     </message>
     <message id="cli_error_optionTwice">
         <translation>%1 is given twice for %2.</translation>
@@ -198,6 +213,9 @@
     <message id="cli_error_picWithoutCorrection">
         <translation>--pic %1 needs a --shift, a --source-zone or a --target-zone behind it.</translation>
     </message>
+    <message id="cli_error_renameOverUnsaved">
+        <translation>The dates of these folders differ from those in the files, and names are made of what the files hold. Save and rename in one pass: %1. Nothing was renamed.</translation>
+    </message>
     <message id="cli_error_settingNotAllowed">
         <translation>The preference %1 cannot be %2; it accepts %3.</translation>
     </message>
@@ -210,6 +228,9 @@
     <message id="cli_error_shiftOutOfBounds">
         <translation>The shift would move %1 out of the years 1 to 4999.</translation>
     </message>
+    <message id="cli_error_templatesWithPaths">
+        <translation>--templates only lists the templates; leave the paths out.</translation>
+    </message>
     <message id="cli_error_twoAlignments">
         <translation>Only one alignment at a time: one of --gaps, --pack, --by-name, --reverse, --mirror and --copy.</translation>
     </message>
@@ -218,6 +239,9 @@
     </message>
     <message id="cli_error_twoFilters">
         <translation>%1 has --filter-ext and --filter-ext-not. Give one of them.</translation>
+    </message>
+    <message id="cli_error_twoTemplates">
+        <translation>Give one of --template and --template-text.</translation>
     </message>
     <message id="cli_error_unknownProblem">
         <translation>There is no problem %1 that could be accepted. Problems are named when they are found.</translation>
@@ -231,11 +255,23 @@
     <message id="cli_error_unknownZoneNear">
         <translation>There is no time zone %1. Similar: %2.</translation>
     </message>
+    <message id="cli_error_withoutRename">
+        <translation>Options about names need --rename. Nothing was written.</translation>
+    </message>
     <message id="cli_filterKeys">
         <translation>There are the keys %1.</translation>
     </message>
     <message id="cli_help_accept">
         <translation>Save although this problem was found</translation>
+    </message>
+    <message id="cli_help_addOn">
+        <translation>The first add-on text of the template</translation>
+    </message>
+    <message id="cli_help_addOn2">
+        <translation>The second one</translation>
+    </message>
+    <message id="cli_help_addOn3">
+        <translation>The third one</translation>
     </message>
     <message id="cli_help_after">
         <translation>One second after this item</translation>
@@ -270,6 +306,12 @@ Examples:
     <message id="cli_help_copy">
         <translation>Date each item by another of its own dates: digitized, modification, file-creation or file-modification, each as in the file or, with -new behind it, as a save would leave it</translation>
     </message>
+    <message id="cli_help_counter">
+        <translation>One number runs through all folders (all), or each folder counts from the start (folder)</translation>
+    </message>
+    <message id="cli_help_counterStart">
+        <translation>The first number (else 1)</translation>
+    </message>
     <message id="cli_help_dateSequence">
         <translation>Gives the items of all folders one date after the other, in the order of their names: the first date, and the STEP (seconds or H:MM:SS) to the next</translation>
     </message>
@@ -286,7 +328,7 @@ Examples:
         <translation>The item to be dragged: a name, or FOLDER/NAME or a path where a name stands in several folders; with --between it may be repeated</translation>
     </message>
     <message id="cli_help_dryRun">
-        <translation>Show every date old and new, and write nothing</translation>
+        <translation>Show every date, or name, old and new, and write nothing</translation>
     </message>
     <message id="cli_help_emptyTags">
         <translation>What empty date tags mean: leave the file alone (default), take the file’s date, or a date from which STEP (seconds or H:MM:SS) leads to the next</translation>
@@ -374,6 +416,19 @@ Examples:
     <message id="cli_help_rating">
         <translation>List only items marked as keepers, or those not rejected</translation>
     </message>
+    <message id="cli_help_rename">
+        <translation>Give the files names by a template</translation>
+    </message>
+    <message id="cli_help_rename_footer">
+        <translation>No file is ever overwritten: where a name is taken, a number is added. All files of a shot keep one name.
+Examples:
+  mend rename --templates
+  mend rename canon phone --template-text '{year}_{month}_{day}_{counter:4}' --dry-run
+  mend rename canon --template 2 --counter-start 100</translation>
+    </message>
+    <message id="cli_help_renameAtSave">
+        <translation>Then give all files of the folders names by a template, in the same pass</translation>
+    </message>
     <message id="cli_help_resume">
         <translation>Puts right what interrupted saves left</translation>
     </message>
@@ -418,6 +473,15 @@ Examples:
     </message>
     <message id="cli_help_targetZone">
         <translation>Time zone in which dates are to be written; own keeps each file’s own</translation>
+    </message>
+    <message id="cli_help_template">
+        <translation>The number of a template, as --templates lists them (else the one chosen in the preferences)</translation>
+    </message>
+    <message id="cli_help_templates">
+        <translation>List the templates and end</translation>
+    </message>
+    <message id="cli_help_templateText">
+        <translation>A template as text, such as '{year}_{month}_{day}_{counter:4}'</translation>
     </message>
     <message id="cli_help_version">
         <translation>Print the version and end</translation>
@@ -523,6 +587,60 @@ Examples:
     </message>
     <message id="cli_progress_reading">
         <translation>Reading %1</translation>
+    </message>
+    <message id="cli_rename_interrupted">
+        <translation>Interrupted. Files that are not named above as renamed kept their names.</translation>
+    </message>
+    <message id="cli_rename_leftOnTheWay">
+        <translation>%1 left at a temporary name</translation>
+    </message>
+    <message id="cli_rename_leftOnTheWayNote">
+        <translation>left on the way to %1</translation>
+    </message>
+    <message id="cli_rename_noteCompanion">
+        <translation>%1 is missing or could not come along</translation>
+    </message>
+    <message id="cli_rename_noteDot">
+        <translation>the name begins with a dot</translation>
+    </message>
+    <message id="cli_rename_noteNotRenamed">
+        <translation>it could not be renamed</translation>
+    </message>
+    <message id="cli_rename_noteNotWritable">
+        <translation>%1 cannot be written</translation>
+    </message>
+    <message id="cli_rename_nothingRenamed">
+        <translation>Dry run: nothing was renamed.</translation>
+    </message>
+    <message id="cli_rename_notReached">
+        <translation>%1 not reached</translation>
+    </message>
+    <message id="cli_rename_notReachedNote">
+        <translation>not reached</translation>
+    </message>
+    <message id="cli_rename_numbered">
+        <translation>%1 with a number behind a name that is taken</translation>
+    </message>
+    <message id="cli_rename_numberNote">
+        <translation>number %1, as %2 is taken</translation>
+    </message>
+    <message id="cli_rename_planned">
+        <translation>%1 to be renamed</translation>
+    </message>
+    <message id="cli_rename_refused">
+        <translation>%1 refused</translation>
+    </message>
+    <message id="cli_rename_refusedNote">
+        <translation>refused: it would be %1</translation>
+    </message>
+    <message id="cli_rename_renamed">
+        <translation>%1 renamed</translation>
+    </message>
+    <message id="cli_rename_unchanged">
+        <translation>%1 named so already</translation>
+    </message>
+    <message id="cli_rename_unchangedNote">
+        <translation>is named so already</translation>
     </message>
     <message id="cli_result_failed">
         <translation>%1 failed</translation>
@@ -1291,6 +1409,12 @@ Examples:
     </message>
     <message id="confirmSaveBeforeRenameMessageTextCurrent_single">
         <translation>The folder has changes that are not saved. Save them before its files are renamed?</translation>
+    </message>
+    <message id="templateStatusText1">
+        <translation>This template gives all files one name. Add a date, the counter or the file’s own name.</translation>
+    </message>
+    <message id="templateStatusText2">
+        <translation>Several files may get one name; then a number is added. A counter or the file’s own name prevents that.</translation>
     </message>
 </context>
 </TS>

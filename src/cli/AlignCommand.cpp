@@ -9,7 +9,6 @@
 #include "Utf8Text.h"
 
 #include <algorithm>
-#include <set>
 
 namespace chronomender {
 namespace {
@@ -54,34 +53,21 @@ public:
 private:
     /// In display order, with the main item, which must be one of them.
     std::optional<Complaint> select(AlignSelection &selection) {
-        std::set<MySinglePicPtr> chosen;
-        for (const std::string &name : m_wish.pics)
-            if (name == "all")
-                chosen.insert(allPics().begin(), allPics().end());
-            else if (auto complaint = insert(name, chosen))
-                return complaint;
-        std::ranges::copy_if(allPics(), std::back_inserter(selection.sortedSelectedThumbsArray),
-                             [&](const auto &pic) { return chosen.contains(pic); });
+        auto chosen = m_lookup.select(m_wish.pics, m_session.controller().source_full());
+        if (const auto *complaint = std::get_if<Complaint>(&chosen))
+            return *complaint;
+        auto &pics = selection.sortedSelectedThumbsArray;
+        pics = std::get<std::vector<MySinglePicPtr>>(std::move(chosen));
         if (!m_wish.mainPic)
             return std::nullopt;
-        std::set<MySinglePicPtr> anchors;
-        if (auto complaint = insert(*m_wish.mainPic, anchors))
-            return complaint;
-        selection.picSelection = *anchors.begin();
-        if (!chosen.contains(selection.picSelection))
+        auto mainPic = m_lookup.find(*m_wish.mainPic);
+        if (const auto *complaint = std::get_if<Complaint>(&mainPic))
+            return *complaint;
+        selection.picSelection = std::get<MySinglePicPtr>(std::move(mainPic));
+        if (std::ranges::find(pics, selection.picSelection) == pics.end())
             return Complaint{2, text("cli_error_mainNotSelected", {printable(*m_wish.mainPic)})};
         return std::nullopt;
     }
-
-    std::optional<Complaint> insert(const std::string &name, std::set<MySinglePicPtr> &pics) const {
-        auto found = m_lookup.find(name);
-        if (const auto *complaint = std::get_if<Complaint>(&found))
-            return *complaint;
-        pics.insert(std::get<MySinglePicPtr>(std::move(found)));
-        return std::nullopt;
-    }
-
-    const std::vector<MySinglePicPtr> &allPics() { return m_session.controller().source_full(); }
 
     MendSession &m_session;
     const AlignWish &m_wish;

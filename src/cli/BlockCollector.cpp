@@ -2,6 +2,7 @@
 #include "BlockCollector.h"
 
 #include "FilterOption.h"
+#include "RenameOptions.h"
 #include "Texts.h"
 #include "Utf8Text.h"
 
@@ -134,8 +135,7 @@ const BlockCollector::RunHandler BlockCollector::runHandlers[] = {
     {OptionId::Mirror,
      [](BlockCollector &c, const std::string &) { c.addAlignment(AlignCommand::ReversingAlt); }},
     {OptionId::Copy, [](BlockCollector &c, const std::string &value) { c.addCopy(value); }},
-    {OptionId::Pics,
-     [](BlockCollector &c, const std::string &value) { c.m_line.align.pics.push_back(value); }},
+    {OptionId::Pics, [](BlockCollector &c, const std::string &value) { c.addPics(value); }},
     {OptionId::Main,
      [](BlockCollector &c, const std::string &value) { c.m_line.align.mainPic = value; }},
     {OptionId::Dragged, [](BlockCollector &c, const std::string &value) { c.addDragged(value); }},
@@ -162,6 +162,7 @@ const BlockCollector::RunHandler BlockCollector::runHandlers[] = {
 BlockCollector::BlockCollector(Command command) {
     m_line.command = command;
     m_line.isDryRun = command == Command::Align || command == Command::Drag;
+    m_line.rename.isWanted = command == Command::Rename;
 }
 
 void BlockCollector::fail(std::string message) {
@@ -174,6 +175,10 @@ void BlockCollector::add(OptionId id, const char *name, const std::string &value
         return;
     if (id == OptionId::Path || id == OptionId::Folder) {
         openBlock(value, id == OptionId::Path);
+        return;
+    }
+    if (renameOption(id)) {
+        addRenameOption(id, {name, value});
         return;
     }
     const auto handler = std::ranges::find(blockHandlers, id, &BlockHandler::id);
@@ -198,12 +203,15 @@ void BlockCollector::openBlock(const std::string &path, bool isPlain) {
 
 void BlockCollector::finish() {
     closePic();
-    if (m_line.blocks.empty() && m_line.command != Command::Resume)
+    const bool needsNoPath = m_line.command == Command::Resume || m_line.rename.listsTemplates;
+    if (m_line.blocks.empty() && !needsNoPath)
         fail(text("cli_error_noPaths"));
     if (m_line.command == Command::Align)
         checkAlignment();
     if (m_line.command == Command::Drag)
         checkDrag();
+    if (auto error = checkRename(m_line, m_renameOptions))
+        fail(std::move(*error));
 }
 
 void BlockCollector::checkAlignment() {
@@ -242,6 +250,18 @@ void BlockCollector::checkDrag() {
         fail(text("cli_error_betweenNeedsTwo"));
     else if (wish.pics.size() > 1 && wish.dragType != DragType::Between)
         fail(text("cli_error_severalDragged"));
+}
+
+void BlockCollector::addRenameOption(OptionId id, const Typed &typed) {
+    if (!m_renameOptions.insert(id).second)
+        fail(text("cli_error_onlyOnce", {typed.name}));
+    else if (auto error = renameOption(id)->take(m_line, typed.value))
+        fail(std::move(*error));
+}
+
+void BlockCollector::addPics(const std::string &name) {
+    const bool isRename = m_line.command == Command::Rename;
+    (isRename ? m_line.rename.pics : m_line.align.pics).push_back(name);
 }
 
 void BlockCollector::addAlignment(AlignCommand command) {

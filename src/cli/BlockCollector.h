@@ -5,6 +5,7 @@
 #include "OptionTable.h"
 
 #include <optional>
+#include <set>
 #include <string>
 
 namespace chronomender {
@@ -53,6 +54,8 @@ private:
     void addFilterPredicate(const std::string &value);
     void addRating(const std::string &value);
     void addAccepted(const std::string &value);
+    void addRenameOption(OptionId id, const Typed &typed);
+    void addPics(const std::string &name);
     void addAlignment(AlignCommand command);
     void addCopy(const std::string &slot);
     void checkAlignment();
@@ -67,7 +70,8 @@ private:
     void closePic();
 
     CommandLine m_line;
-    bool m_takesFolderOptions = false; ///< of the block that was opened last
+    bool m_takesFolderOptions = false;  ///< of the block that was opened last
+    std::set<OptionId> m_renameOptions; ///< those that were taken
     std::optional<std::string> m_error;
 };
 

@@ -29,6 +29,7 @@ constexpr CommandDescription commandTable[]{
     {Command::Save, "save", "cli_help_save", "cli_help_save_footer"},
     {Command::Align, "align", "cli_help_align", "cli_help_align_footer"},
     {Command::Drag, "drag", "cli_help_drag", "cli_help_drag_footer"},
+    {Command::Rename, "rename", "cli_help_rename", "cli_help_rename_footer"},
     {Command::Resume, "resume", "cli_help_resume", "cli_help_resume_footer"},
 };
 

@@ -4,6 +4,7 @@
 #include "Alignment.h"
 #include "DragDates.h"
 #include "PredicateRewriting.h"
+#include "RenameTemplate.h"
 #include "SaveErrors.h"
 #include "ShiftSpec.h"
 
@@ -73,7 +74,15 @@ struct FilterWish {
     bool isAnything() const { return predicate || rating; }
 };
 
-enum class Command : std::uint8_t { List, Info, Save, Align, Drag, Resume };
+/// How files are to be named; all that a preference says as well stands with the settings.
+struct RenameWish {
+    bool isWanted = false; ///< by `mend rename`, or by a save that renames
+    bool listsTemplates = false;
+    std::optional<RenameTemplate> renameTemplate; ///< typed; none: the selected one
+    std::vector<std::string> pics; ///< names, FOLDER/NAME or paths; "all"; none: all, too
+};
+
+enum class Command : std::uint8_t { List, Info, Save, Align, Drag, Rename, Resume };
 
 /// What the user asked for, checked as far as that goes without looking at the disk.
 struct CommandLine {
@@ -86,6 +95,7 @@ struct CommandLine {
     AlignWish align;
     DragWish drag;
     FilterWish filter;
+    RenameWish rename;
     bool isJson = false, isDryRun = false, savesAll = false;
     bool acceptsAll = false;
     bool isForgetting = false; ///< (resume) files that cannot be put right are given up

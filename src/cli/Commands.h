@@ -20,6 +20,7 @@ int runInfo(const CommandLine &line);
 int runSave(const CommandLine &line);
 int runAlign(const CommandLine &line);
 int runDrag(const CommandLine &line);
+int runRename(const CommandLine &line);
 int runResume(const CommandLine &line);
 
 } // namespace chronomender

@@ -16,20 +16,10 @@ std::string keyNames() {
     return names;
 }
 
-/// The text with a mark below the place, where both fit into a line of a terminal.
-std::string pointedAt(const std::string &typed, std::size_t column) {
-    constexpr std::size_t kWidth = 100;
-    const std::string line = printable(typed);
-    if (columnCount(line) > kWidth)
-        return {};
-    return "\n  " + line + "\n  " + std::string(column, ' ') + '^';
-}
-
 std::string complaint(const std::string &typed, const PredicateError &error) {
-    const std::size_t column = columnCount(printable(typed.substr(0, error.position)));
-    return text("cli_error_badFilter",
-                {std::to_string(column + 1), text(error.textKey, {printable(error.found)})}) +
-           pointedAt(typed, column) + '\n' + text("cli_filterKeys", {keyNames()});
+    return text("cli_error_badFilter", {std::to_string(columnOfByte(typed, error.position) + 1),
+                                        text(error.textKey, {printable(error.found)})}) +
+           pointedAt(typed, error.position) + '\n' + text("cli_filterKeys", {keyNames()});
 }
 
 } // namespace

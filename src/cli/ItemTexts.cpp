@@ -101,7 +101,7 @@ std::vector<std::string> sidecarNames(const MySinglePic &pic) {
     return names;
 }
 
-std::string spNameComplete(const MySinglePic &pic) {
+std::string nameWithCompanions(const MySinglePic &pic) {
     const MySinglePicPtr &dependent = pic.group.bundleDependentImage;
     std::string companions = dependent ? dependent->extension() : std::string();
     const std::size_t stem = pic.spBaseName().size() + 1;

@@ -41,7 +41,7 @@ std::string locationText(const MySinglePic &pic);
 std::vector<std::string> sidecarNames(const MySinglePic &pic);
 
 /// "IMG_1.CR3 + JPG, xmp": the name with the extensions of its other half and its sidecars.
-std::string spNameComplete(const MySinglePic &pic);
+std::string nameWithCompanions(const MySinglePic &pic);
 
 /// "dependent" with the name of the other half, and "sidecars"; each only where there is one.
 void appendCompanions(JsonLine &line, const MySinglePic &pic);

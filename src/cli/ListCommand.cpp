@@ -39,7 +39,7 @@ public:
             if (const MySingleFolderPtr folder = pic->spSingleRealFolder())
                 table.add(
                     {readableText(pic->spDateTimeModified(), displayZone(*pic, *folder, m_zones)),
-                     printable(folder->sfFolder), printable(spNameComplete(*pic)),
+                     printable(folder->sfFolder), printable(nameWithCompanions(*pic)),
                      printable(pic->camera.pivMakeModel), noteText(*pic),
                      printable(alertsText(dateAlerts(*pic, *folder, m_zones), *pic))});
         const auto unsaved = std::count_if(m_items.begin(), m_items.end(),

@@ -38,7 +38,7 @@ const char *complaintKey(OpenFolderResult result) {
 std::optional<int> MendSession::open(const Opening &opening) {
     AppServices services = systemServices();
     services.runName = m_line.typed;
-    auto complaint = applySettings(services);
+    auto complaint = applySettings(m_line, services);
     FolderPlans plans;
     if (!complaint) {
         auto planned = planFolders(m_line.blocks, *services.zones);
@@ -72,30 +72,6 @@ std::optional<int> MendSession::open(const Opening &opening) {
     filterBy(m_line.filter, m_controller->filters(), m_controller->defaults());
     tellLeftAlone();
     tellMissingTags();
-    return std::nullopt;
-}
-
-std::optional<Complaint> MendSession::applySettings(AppServices &services) const {
-    if (m_line.systemZone) {
-        auto zone = lookUpZone(*m_line.systemZone, *services.zones);
-        if (const auto *complaint = std::get_if<Complaint>(&zone))
-            return *complaint;
-        services.zones->setSystemZone(std::get<Zone>(std::move(zone)));
-    }
-    forgetStoredFilters(*services.defaults);
-    for (const auto &[key, value] : m_line.settings) {
-        switch (services.defaults->setForThisRun(key, value)) {
-        case UserDefaults::Outcome::UnknownKey:
-            return Complaint{2, text("cli_error_unknownSetting", {printable(key)})};
-        case UserDefaults::Outcome::ValueNotAllowed:
-            return Complaint{2, text("cli_error_settingNotAllowed",
-                                     {key, printable(value),
-                                      UserDefaults::allowedText(*findDefaultEntry(key))})};
-        case UserDefaults::Outcome::Done:
-        case UserDefaults::Outcome::NotStored: // a value for this run is never stored
-            break;
-        }
-    }
     return std::nullopt;
 }
 
@@ -237,6 +213,30 @@ MovieOptions MendSession::movieOptions(const MySingleFolder &folder) {
 
 PerFolderImportOptions MendSession::emptyTagOptions(const MySingleFolder &folder) {
     return m_importOptions.at(&folder);
+}
+
+std::optional<Complaint> applySettings(const CommandLine &line, AppServices &services) {
+    if (line.systemZone) {
+        auto zone = lookUpZone(*line.systemZone, *services.zones);
+        if (const auto *complaint = std::get_if<Complaint>(&zone))
+            return *complaint;
+        services.zones->setSystemZone(std::get<Zone>(std::move(zone)));
+    }
+    forgetStoredFilters(*services.defaults);
+    for (const auto &[key, value] : line.settings) {
+        switch (services.defaults->setForThisRun(key, value)) {
+        case UserDefaults::Outcome::UnknownKey:
+            return Complaint{2, text("cli_error_unknownSetting", {printable(key)})};
+        case UserDefaults::Outcome::ValueNotAllowed:
+            return Complaint{2, text("cli_error_settingNotAllowed",
+                                     {key, printable(value),
+                                      UserDefaults::allowedText(*findDefaultEntry(key))})};
+        case UserDefaults::Outcome::Done:
+        case UserDefaults::Outcome::NotStored: // a value for this run is never stored
+            break;
+        }
+    }
+    return std::nullopt;
 }
 
 int settledCode(const MendSession &session, int code) {

@@ -44,7 +44,6 @@ private:
     PerFolderImportOptions emptyTagOptions(const MySingleFolder &folder) override;
     MovieOptions movieOptions(const MySingleFolder &folder) override;
 
-    std::optional<Complaint> applySettings(AppServices &services) const;
     std::optional<Complaint> addFolders(const FolderPlans &plans);
     std::optional<Complaint> addFolder(const FolderPlan &plan);
     void addInnerFolder(const MySingleFolderPtr &folder, const MySingleFolderPtr &parent);
@@ -66,6 +65,9 @@ private:
     std::map<const MySingleFolder *, PerFolderImportOptions> m_importOptions;
     bool m_hasFailedPaths = false;
 };
+
+/// Gives the preferences of the command line, and its system zone, to a run.
+std::optional<Complaint> applySettings(const CommandLine &line, AppServices &services);
 
 /// The exit code of a command whose own work ended with `code`: an interruption, or a path that
 /// failed, makes a good end a bad one.

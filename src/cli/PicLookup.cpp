@@ -78,4 +78,24 @@ std::variant<MySinglePicPtr, Complaint> PicLookup::find(const std::string &typed
                           {printable(typed), namesOf(files, fs::path(typed).filename().native())})};
 }
 
+std::variant<std::vector<MySinglePicPtr>, Complaint>
+PicLookup::select(const std::vector<std::string> &names,
+                  const std::vector<MySinglePicPtr> &all) const {
+    std::set<MySinglePicPtr> chosen;
+    for (const std::string &name : names) {
+        if (name == "all") {
+            chosen.insert(all.begin(), all.end());
+            continue;
+        }
+        auto found = find(name);
+        if (const auto *complaint = std::get_if<Complaint>(&found))
+            return *complaint;
+        chosen.insert(std::get<MySinglePicPtr>(std::move(found)));
+    }
+    std::vector<MySinglePicPtr> pics;
+    std::ranges::copy_if(all, std::back_inserter(pics),
+                         [&](const auto &pic) { return chosen.contains(pic); });
+    return pics;
+}
+
 } // namespace chronomender

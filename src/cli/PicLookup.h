@@ -20,6 +20,9 @@ public:
     /// `typed` is a name, FOLDER/NAME with the folder's shown name, or a path. A name that means
     /// none or several items is a complaint, which names those.
     std::variant<MySinglePicPtr, Complaint> find(const std::string &typed) const;
+    /// The items of `all` that the names mean, in the order of `all`; the name "all" means each.
+    std::variant<std::vector<MySinglePicPtr>, Complaint>
+    select(const std::vector<std::string> &names, const std::vector<MySinglePicPtr> &all) const;
 
 private:
     struct File {

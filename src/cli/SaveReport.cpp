@@ -46,11 +46,6 @@ void appendProblems(JsonLine &line, const std::vector<PreSaveFinding> &problems)
     line.end();
 }
 
-std::string descriptionOf(const SaveError &error) {
-    const std::string id = std::to_string(static_cast<int>(error.id));
-    return error.systemText.empty() ? text("errorPanelDescriptionText_ID" + id) : error.systemText;
-}
-
 /// Why nothing was written to the file, or would be.
 std::string reasonOf(const ItemOutcome &outcome) {
     if (!outcome.errors.empty())
@@ -66,6 +61,11 @@ bool isNothingWritten(ReportedResult result) {
 
 } // namespace
 
+std::string descriptionOf(const SaveError &error) {
+    const std::string id = std::to_string(static_cast<int>(error.id));
+    return error.systemText.empty() ? text("errorPanelDescriptionText_ID" + id) : error.systemText;
+}
+
 std::string_view resultName(ReportedResult result) {
     for (const ResultName &named : resultNames)
         if (named.result == result)
@@ -75,13 +75,13 @@ std::string_view resultName(ReportedResult result) {
 
 SaveReport::SaveReport(AppController &controller, const std::vector<MySingleFolderPtr> &folders,
                        const std::vector<ItemOutcome> &items, Stage stage,
-                       std::set<PreSaveProblem> accepted, const ItemZones &zones)
+                       std::set<PreSaveProblem> accepted, const Before &before)
     : m_controller(controller),
       m_paths(folders),
       m_items(items),
       m_stage(stage),
       m_accepted(std::move(accepted)),
-      m_zones(zones) {
+      m_before(before) {
     for (const ItemOutcome &outcome : items)
         m_outcomes.emplace(outcome.pic.get(), &outcome);
 }
@@ -118,7 +118,12 @@ const ItemOutcome *SaveReport::outcomeOf(const MySinglePic &pic) const {
 
 std::string SaveReport::path(const MySinglePic &pic) const {
     const MySingleFolderPtr folder = pic.spSingleRealFolder();
-    return folder ? m_paths.path(*folder, pic) : pic.spName;
+    return folder ? path(pic, *folder) : pic.spName;
+}
+
+std::string SaveReport::path(const MySinglePic &pic, const MySingleFolder &folder) const {
+    const auto before = m_before.paths.find(&pic);
+    return before == m_before.paths.end() ? m_paths.path(folder, pic) : before->second;
 }
 
 std::set<PreSaveProblem> SaveReport::problems() const {
@@ -145,7 +150,7 @@ void SaveReport::appendItem(std::string &buffer, const MySinglePic &pic,
                             const MySingleFolder &folder) const {
     const ItemOutcome *outcome = outcomeOf(pic);
     JsonLine line(buffer);
-    line.field("path", m_paths.path(folder, pic));
+    line.field("path", path(pic, folder));
     line.field("result", resultName(outcome ? resultOf(*outcome) : ReportedResult::Unchanged));
     line.beginArray("errorIds");
     if (outcome)
@@ -161,30 +166,28 @@ void SaveReport::appendItem(std::string &buffer, const MySinglePic &pic,
     line.finish();
 }
 
-std::string SaveReport::jsonLines(const Summary &summary) const {
-    std::string buffer;
+void SaveReport::appendLines(std::string &buffer) const {
     for (const MySinglePicPtr &pic : m_controller.source_full())
         if (const MySingleFolderPtr folder = pic->spSingleRealFolder()) {
             appendItem(buffer, *pic, *folder);
             if (const MySinglePicPtr &dependent = pic->group.bundleDependentImage)
                 appendItem(buffer, *dependent, *folder);
         }
-    JsonLine line(buffer);
-    line.beginObject("summary");
+}
+
+void SaveReport::appendSummary(JsonLine &line, const Summary &summary) const {
     for (const ResultName &named : resultNames)
         line.field(named.name, static_cast<std::int64_t>(count(named.result)));
     line.flag("dryRun", summary.isDryRun)
         .flag("interrupted", summary.wasInterrupted)
-        .field("exitCode", static_cast<std::int64_t>(summary.exitCode))
-        .finish();
-    return buffer;
+        .field("exitCode", static_cast<std::int64_t>(summary.exitCode));
 }
 
 /// Of a file that was not written, no slot is.
 std::vector<SlotView> SaveReport::slotsOf(const ItemOutcome &outcome) const {
-    const auto zones = m_zones.find(outcome.pic.get());
+    const auto zones = m_before.zones.find(outcome.pic.get());
     std::vector<SlotView> slots =
-        slotViews(outcome, zones == m_zones.end() ? SlotZones() : zones->second);
+        slotViews(outcome, zones == m_before.zones.end() ? SlotZones() : zones->second);
     if (isNothingWritten(resultOf(outcome)))
         for (SlotView &slot : slots)
             if (slot.result == SlotResult::WrittenInPlace ||
@@ -198,7 +201,7 @@ void SaveReport::appendTable(std::string &buffer, const ItemOutcome &outcome) co
     const ReportedResult result = resultOf(outcome);
     if (!folder || result == ReportedResult::Unchanged || result == ReportedResult::NotReached)
         return;
-    buffer += printable(m_paths.path(*folder, *outcome.pic)) + '\n';
+    buffer += printable(path(*outcome.pic, *folder)) + '\n';
     Table table("    ");
     addSlotRows(table, slotsOf(outcome),
                 m_stage == Stage::Run ? SlotTense::Done : SlotTense::Planned);

@@ -24,25 +24,33 @@ enum class ReportedResult : std::uint8_t {
 };
 std::string_view resultName(ReportedResult result);
 
+/// An error in words, for a line that names its file.
+std::string descriptionOf(const SaveError &error);
+
 /// Everything that a save has to say, as a text for people or as JSON Lines.
 class SaveReport {
 public:
     enum class Stage : bool { Plan, Run };
-    /// Of each item, as they were before the run; needed for a text alone.
-    using ItemZones = std::unordered_map<const MySinglePic *, SlotZones>;
-    /// `items` are those of the plan, or of the run once there was one; they and the zones outlive
+    /// Items as they were before the run.
+    struct Before {
+        std::unordered_map<const MySinglePic *, SlotZones> zones; ///< needed for a text alone
+        /// Needed where the run renames; an item that is not here has the path that it had.
+        std::unordered_map<const MySinglePic *, std::string> paths;
+    };
+    /// `items` are those of the plan, or of the run once there was one; they and `before` outlive
     /// the report.
     SaveReport(AppController &controller, const std::vector<MySingleFolderPtr> &folders,
                const std::vector<ItemOutcome> &items, Stage stage,
-               std::set<PreSaveProblem> accepted, const ItemZones &zones);
+               std::set<PreSaveProblem> accepted, const Before &before);
 
     struct Summary {
         bool isDryRun = false, wasInterrupted = false;
         int exitCode = 0;
     };
-    /// A line for each file of the session, in display order (a dependent behind its master), and
-    /// a summary.
-    std::string jsonLines(const Summary &summary) const;
+    /// A line for each file of the session, in display order (a dependent behind its master).
+    void appendLines(std::string &buffer) const;
+    /// What a summary tells of a save.
+    void appendSummary(JsonLine &line, const Summary &summary) const;
     /// Every slot of each file old → new, with what became of it, or would; files with nothing to
     /// do are left out, and so are those that were not reached.
     std::vector<std::string> slotTable() const;
@@ -66,13 +74,14 @@ private:
     std::vector<SlotView> slotsOf(const ItemOutcome &outcome) const;
     std::string affectedText(PreSaveProblem problem) const;
     std::string path(const MySinglePic &pic) const;
+    std::string path(const MySinglePic &pic, const MySingleFolder &folder) const;
 
     AppController &m_controller;
     FolderPaths m_paths;
     const std::vector<ItemOutcome> &m_items;
     Stage m_stage;
     std::set<PreSaveProblem> m_accepted;
-    const ItemZones &m_zones;
+    const Before &m_before;
     std::unordered_map<const MySinglePic *, const ItemOutcome *> m_outcomes;
 };
 

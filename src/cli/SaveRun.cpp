@@ -2,10 +2,9 @@
 #include "SaveRun.h"
 
 #include "Commands.h"
-#include "EventLoopWait.h"
 #include "Output.h"
-#include "ProgressBar.h"
-#include "SaveReport.h"
+#include "RenameReport.h"
+#include "SaveStages.h"
 #include "Texts.h"
 
 #include <algorithm>
@@ -13,29 +12,27 @@
 namespace chronomender {
 namespace {
 
-/// The two stages of one save, and what is said about them.
+/// The two stages of one save, with the rename behind it, and what is said about them.
 class Save {
 public:
     explicit Save(MendSession &session) : m_session(session) {
         m_request.savingAll = session.line().savesAll;
+        if (isRenaming())
+            m_request.type = SaveProcessType::SaveThenRenameAll;
     }
 
     int run() {
-        m_plan = preProcess();
+        m_plan = preProcess(m_session, m_request);
         if (m_plan.wasCancelled || m_session.wasInterrupted())
             return finish(m_plan.items, Stage::Plan, exitInterrupted);
-        if (!m_session.line().isJson)
-            takeZones();
-        if (m_plan.items.empty())
+        rememberItems();
+        if (m_plan.items.empty() && !isRenaming())
             return finish(m_plan.items, Stage::Plan, exitDone);
         const bool needsConsent = hasUnacceptedProblem();
-        if (m_session.line().isDryRun || needsConsent) {
-            foretellMissingTool();
-            return finish(m_plan.items, Stage::Plan,
-                          needsConsent ? exitProblems : exitCodeOf(m_plan.items),
-                          actionErrorText(plannedErrors()));
-        }
-        const SaveRunResult result = continueProcess();
+        if (m_session.line().isDryRun || needsConsent)
+            return finishPlan(needsConsent);
+        SaveRunResult result = continueProcess(m_session, m_request, m_plan);
+        m_renames = std::move(result.renames);
         return finish(result.items, Stage::Run,
                       result.wasCancelled ? exitInterrupted : exitCodeOf(result.items),
                       actionErrorText(result.errors, result.toolErrors));
@@ -44,34 +41,32 @@ public:
 private:
     using Stage = SaveReport::Stage;
 
-    PreProcessResult preProcess() {
-        ProgressBar bar(text("workPanelPreSave"));
-        return waitFor<PreProcessResult>([&](auto finished) {
-            m_session.controller().startPreProcess(m_request, progressTo(bar), finished);
-        });
+    bool isRenaming() const { return m_session.line().rename.isWanted; }
+
+    int finishPlan(bool needsConsent) {
+        foretellMissingTool();
+        if (isRenaming() && m_session.line().isDryRun)
+            foretellNames();
+        return finish(m_plan.items, Stage::Plan,
+                      needsConsent ? exitProblems : exitCodeOf(m_plan.items),
+                      actionErrorText(plannedErrors()));
     }
 
-    void takeZones() {
-        for (const ItemOutcome &item : m_plan.items)
-            if (const MySingleFolderPtr folder = item.pic->spSingleRealFolder())
-                m_zones.emplace(item.pic.get(),
-                                slotZones(*item.pic, *folder, m_session.controller().zones()));
-    }
-
-    SaveRunResult continueProcess() {
-        ProgressBar bar(text("workPanelSave"));
-        m_session.controller().setSaveStepBegins(
-            [&bar](std::string_view titleKey) { bar.begin(text(titleKey)); });
-        auto result = waitFor<SaveRunResult>([&](auto finished) {
-            m_session.controller().startContinueProcess(m_request, m_plan, progressTo(bar),
-                                                        finished);
-        });
-        m_session.controller().setSaveStepBegins({});
-        return result;
-    }
-
-    static AppController::Progress progressTo(ProgressBar &bar) {
-        return [&bar](std::size_t done, std::size_t total) { bar.update(done, total); };
+    /// A text tells zones as they are read now, and all reports the names that are now.
+    void rememberItems() {
+        if (!m_session.line().isJson)
+            for (const ItemOutcome &item : m_plan.items)
+                if (const MySingleFolderPtr folder = item.pic->spSingleRealFolder())
+                    m_before.zones.emplace(
+                        item.pic.get(),
+                        slotZones(*item.pic, *folder, m_session.controller().zones()));
+        if (!isRenaming())
+            return;
+        const FolderPaths paths(m_session.folders());
+        for (const MySinglePicPtr &pic : m_session.controller().source_full())
+            for (const MySinglePicPtr &half : {pic, pic->group.bundleDependentImage})
+                if (const MySingleFolderPtr folder = pic->spSingleRealFolder(); half && folder)
+                    m_before.paths.emplace(half.get(), paths.path(*folder, *half));
     }
 
     bool isAccepted(PreSaveProblem problem) const {
@@ -86,12 +81,14 @@ private:
         });
     }
 
-    static int exitCodeOf(const std::vector<ItemOutcome> &items) {
+    int exitCodeOf(const std::vector<ItemOutcome> &items) const {
         const bool isWhole = std::none_of(items.begin(), items.end(), [](const auto &item) {
             return item.result == ItemResult::Refused || item.result == ItemResult::Failed ||
                    !item.errors.empty();
         });
-        return isWhole ? exitDone : exitItemFailed;
+        // What a rename refuses is the same in either stage.
+        return isWhole && !RenameReport(m_renames, Stage::Run).hasFailure() ? exitDone
+                                                                            : exitItemFailed;
     }
 
     void foretellMissingTool() {
@@ -108,11 +105,33 @@ private:
         }
     }
 
+    /// What a save would leave undone is not renamed either.
+    void foretellNames() {
+        m_renames = renamePreview(m_session, m_request);
+        PicSet failing;
+        for (const ItemOutcome &item : m_plan.items)
+            if (item.result == ItemResult::Failed || item.result == ItemResult::Refused)
+                for (const MySinglePicPtr &master : {item.pic, item.pic->bundleMasterImage()})
+                    failing.insert(master);
+        for (ItemRename &rename : m_renames)
+            if (failing.contains(rename.pic) && rename.result == RenameResult::Renamed)
+                refuse(rename);
+    }
+
+    static void refuse(ItemRename &rename) {
+        rename.result = RenameResult::Refused;
+        rename.addedNumber = 0;
+        for (RenamedFile &file : rename.files)
+            file.newName = file.oldName;
+    }
+
     /// What a save would fail with, known without writing.
     std::vector<SaveError> plannedErrors() const {
         std::vector<SaveError> errors;
         for (const ItemOutcome &item : m_plan.items)
             errors.insert(errors.end(), item.errors.begin(), item.errors.end());
+        const auto ofRename = RenameReport(m_renames, Stage::Plan).errors();
+        errors.insert(errors.end(), ofRename.begin(), ofRename.end());
         return errors;
     }
 
@@ -120,14 +139,28 @@ private:
                const std::string &errors = {}) {
         const int exitCode = settledCode(m_session, code);
         const SaveReport report(m_session.controller(), m_session.folders(), items, stage,
-                                acceptedProblems(), m_zones);
-        const bool isInterrupted = exitCode == exitInterrupted;
-        const CommandLine &line = m_session.line();
-        const WriteResult written =
-            line.isJson ? writeOutput(report.jsonLines({line.isDryRun, isInterrupted, exitCode}))
-                        : writeOutput(reportText(report, stage, exitCode));
+                                acceptedProblems(), m_before);
+        const RenameReport renames(m_renames, stage);
+        const WriteResult written = m_session.line().isJson
+                                        ? writeOutput(jsonLines(report, renames, exitCode))
+                                        : writeOutput(reportText(report, renames, stage, exitCode));
         writeError(errors);
         return codeAfterWriting(written, exitCode);
+    }
+
+    std::string jsonLines(const SaveReport &report, const RenameReport &renames,
+                          int exitCode) const {
+        std::string buffer;
+        report.appendLines(buffer);
+        renames.appendLines(buffer);
+        JsonLine line(buffer);
+        line.beginObject("summary");
+        report.appendSummary(line,
+                             {m_session.line().isDryRun, exitCode == exitInterrupted, exitCode});
+        if (isRenaming())
+            renames.appendCounts(line);
+        line.finish();
+        return buffer;
     }
 
     /// Why nothing was written.
@@ -138,22 +171,32 @@ private:
                                                          : "cli_align_nothingWritten";
     }
 
-    std::vector<std::string> reportText(const SaveReport &report, Stage stage, int exitCode) const {
-        std::vector<std::string> pieces;
+    std::vector<std::string> reportText(const SaveReport &report, const RenameReport &renames,
+                                        Stage stage, int exitCode) const {
         // Where consent is missing, the problems are what counts, unless all was asked for.
-        if (stage == Stage::Run || m_session.line().isDryRun)
+        const bool tellsAll = stage == Stage::Run || m_session.line().isDryRun;
+        std::vector<std::string> pieces;
+        if (tellsAll)
             pieces = report.slotTable();
-        pieces.push_back(report.problemText() + report.notReachedText() + report.summaryText() +
-                         endingText(report, stage, exitCode));
+        pieces.push_back(report.problemText() + report.notReachedText() + report.summaryText());
+        if (isRenaming() && tellsAll) {
+            for (std::string &piece : renames.nameTable())
+                pieces.push_back(std::move(piece));
+            pieces.push_back(renames.summaryText());
+        }
+        pieces.push_back(endingText(report, renames, stage, exitCode));
         return pieces;
     }
 
-    std::string endingText(const SaveReport &report, Stage stage, int exitCode) const {
+    std::string endingText(const SaveReport &report, const RenameReport &renames, Stage stage,
+                           int exitCode) const {
         if (exitCode == exitInterrupted && stage == Stage::Plan)
             return text("cli_save_interruptedBefore") + '\n';
         if (report.count(ReportedResult::NotReached) > 0)
             return text("cli_save_interrupted") + '\n';
-        if (report.isEmpty())
+        if (renames.isInterrupted())
+            return text("cli_rename_interrupted") + '\n';
+        if (report.isEmpty() && !isRenaming())
             return text("cli_save_nothingToSave") + '\n';
         return stage == Stage::Plan ? text(planEndingKey(exitCode)) + '\n' : std::string();
     }
@@ -170,7 +213,8 @@ private:
     MendSession &m_session;
     SaveRequest m_request;
     PreProcessResult m_plan;
-    SaveReport::ItemZones m_zones;
+    SaveReport::Before m_before;
+    std::vector<ItemRename> m_renames;
 };
 
 } // namespace

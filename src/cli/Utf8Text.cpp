@@ -85,4 +85,16 @@ std::size_t columnCount(std::string_view text) {
         text.begin(), text.end(), [](char byte) { return (byte & '\xC0') != '\x80'; }));
 }
 
+std::size_t columnOfByte(const std::string &typed, std::size_t place) {
+    return columnCount(printable(typed.substr(0, place)));
+}
+
+std::string pointedAt(const std::string &typed, std::size_t place) {
+    constexpr std::size_t width = 100;
+    const std::string line = printable(typed);
+    if (columnCount(line) > width)
+        return {};
+    return "\n  " + line + "\n  " + std::string(columnOfByte(typed, place), ' ') + '^';
+}
+
 } // namespace chronomender

@@ -18,4 +18,11 @@ std::string printable(std::string_view text);
 /// Characters of well-formed UTF-8, as columns of a terminal (each counts as one).
 std::size_t columnCount(std::string_view text);
 
+/// Columns of a terminal before the byte at `place`, where `typed` is shown.
+std::size_t columnOfByte(const std::string &typed, std::size_t place);
+
+/// The text in a line of its own, with a mark below the byte at `place`; "" where both do not fit
+/// into a line of a terminal.
+std::string pointedAt(const std::string &typed, std::size_t place);
+
 } // namespace chronomender

@@ -23,6 +23,8 @@ int run(const CommandLine &line) {
         return runAlign(line);
     case Command::Drag:
         return runDrag(line);
+    case Command::Rename:
+        return runRename(line);
     case Command::Resume:
         return runResume(line);
     case Command::Save:
