@@ -32,7 +32,8 @@ std::vector<std::string> cellsOf(const std::string &row) {
 /// The rows "| list | `path` | string | always | … |" of the manual: what is promised there is what
 /// is tested here.
 Schema documentedSchema() {
-    static const std::set<std::string> kinds{"list", "info", "save", "summary", "resumed"};
+    static const std::set<std::string> kinds{"list",     "info",    "save",   "rename",
+                                             "template", "summary", "resumed"};
     Schema schema;
     std::ifstream manual(std::string(CHRONOMENDER_SOURCE_TREE) + "/docs/cli.md");
     for (std::string row; std::getline(manual, row);) {
@@ -137,11 +138,22 @@ TEST_F(JsonSchema, OfSaveIsTheDocumentedOne) {
         "save", "--json",   "--system-zone",           "UTC", "--folder", path("trip"), "--shift",
         "60",   "--accept", "error_13_unreadableStamp"};
     auto lines = mend(arguments).lines();
-    const Json summary = lines.back();
     lines.pop_back();
-    expectSchema("summary", {summary.at("summary")});
     expectSchema("save", lines);
     expectSchema("resumed", {mend({"resume", "--json"}).lines().at(0).at("summary")});
+}
+
+TEST_F(JsonSchema, OfRenameIsTheDocumentedOne) {
+    disk().write("trip/2024.jpg", "a stranger");
+    const auto lines = mend({"save", "--rename", "--json", "--system-zone", "UTC", path("trip"),
+                             "--template-text", "{year}", "--set", "frontDotHandlingMode=2"})
+                           .lines();
+    expectSchema("summary", {lines.back().at("summary")});
+    std::vector<Json> names;
+    std::ranges::copy_if(lines, std::back_inserter(names),
+                         [](const Json &line) { return line.contains("newPath"); });
+    expectSchema("rename", names);
+    expectSchema("template", mend({"rename", "--templates", "--json"}).lines());
 }
 
 } // namespace
