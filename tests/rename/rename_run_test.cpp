@@ -18,7 +18,6 @@ using namespace little;
 using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Names = std::map<std::string, std::string>;
 using Wishes = std::vector<std::pair<std::string, std::string>>;
 
 using enum RenameResult;
@@ -53,100 +52,93 @@ void expectModelFitsDisk(RenameSession &session) {
         }
 }
 
+/// Lists are texts: "a.jpg, b.jpg".
+std::vector<std::string> split(const std::string &list, const std::string &by = ", ") {
+    std::vector<std::string> parts;
+    for (std::size_t at = 0, end = 0; end < list.size(); at = end + by.size()) {
+        end = std::min(list.find(by, at), list.size());
+        parts.push_back(list.substr(at, end - at));
+    }
+    return parts;
+}
+/// "x.jpg<a.jpg": the present name and the first one of each file.
+std::vector<std::string> onDisk(const RenameSession &session) {
+    std::vector<std::string> list;
+    for (const auto &[present, first] : session.onDisk())
+        list.push_back(present + '<' + first);
+    return list;
+}
+
 struct RunCase {
     const char *what;
-    Wishes wishes;
-    std::vector<std::string> others;  ///< companions, imported with the items
-    std::vector<std::string> outside; ///< made behind the import
-    Names onDisk;                     ///< present and first name of each file
+    const char *wishes;  ///< "a.jpg>b" and so on, in order
+    const char *others;  ///< companions, imported with the items
+    const char *outside; ///< made behind the import
+    const char *onDisk;  ///< in order of the present names
     std::vector<int> errors = {};
     SuffixCase suffixChangeCase = SuffixCase::Leave;
 };
 
 const std::vector<RunCase> everywhere{
-    {"a swap", {{"a.jpg", "b"}, {"b.jpg", "a"}}, {}, {}, {{"a.jpg", "b.jpg"}, {"b.jpg", "a.jpg"}}},
-    {"a cycle of three, with companions",
-     {{"a.jpg", "b"}, {"b.jpg", "c"}, {"c.jpg", "a"}},
-     {"a.xmp", "c.xmp"},
-     {},
-     {{"b.jpg", "a.jpg"},
-      {"b.xmp", "a.xmp"},
-      {"c.jpg", "b.jpg"},
-      {"a.jpg", "c.jpg"},
-      {"a.xmp", "c.xmp"}}},
-    {"a chain", {{"a.jpg", "b"}, {"b.jpg", "c"}}, {}, {}, {{"b.jpg", "a.jpg"}, {"c.jpg", "b.jpg"}}},
-    {"letter case alone", {{"A.JPG", "a"}}, {}, {}, {{"a.JPG", "A.JPG"}}},
-    {"the extension's letter case alone",
-     {{"a.JPG", "a"}},
-     {"a.XMP"},
-     {},
-     {{"a.jpg", "a.JPG"}, {"a.xmp", "a.XMP"}},
+    {"a swap", "a.jpg>b, b.jpg>a", "", "", "a.jpg<b.jpg, b.jpg<a.jpg"},
+    {"a cycle of three", "a.jpg>b, b.jpg>c, c.jpg>a", "a.xmp, c.xmp", "",
+     "a.jpg<c.jpg, a.xmp<c.xmp, b.jpg<a.jpg, b.xmp<a.xmp, c.jpg<b.jpg"},
+    {"a chain", "a.jpg>b, b.jpg>c", "", "", "b.jpg<a.jpg, c.jpg<b.jpg"},
+    {"letter case alone", "A.JPG>a", "", "", "a.JPG<A.JPG"},
+    {"an extension's letter case alone",
+     "a.JPG>a",
+     "a.XMP",
+     "",
+     "a.jpg<a.JPG, a.xmp<a.XMP",
      {},
      SuffixCase::Lower},
     {"taken outside of the batch",
-     {{"a.jpg", "x"}, {"b.jpg", "x"}, {"c.jpg", "y"}},
-     {},
-     {"x.jpg", "x 3.jpg"},
-     {{"x.jpg", "x.jpg"},
-      {"x 2.jpg", "a.jpg"},
-      {"x 3.jpg", "x 3.jpg"},
-      {"x 4.jpg", "b.jpg"},
-      {"y.jpg", "c.jpg"}},
+     "a.jpg>x, b.jpg>x, c.jpg>y",
+     "",
+     "x.jpg, x 3.jpg",
+     "x 2.jpg<a.jpg, x 3.jpg<x 3.jpg, x 4.jpg<b.jpg, x.jpg<x.jpg, y.jpg<c.jpg",
      {8, 8}},
     {"a companion's name taken numbers all",
-     {{"a.jpg", "x"}},
-     {"a.xmp"},
-     {"x.xmp"},
-     {{"x.xmp", "x.xmp"}, {"x 2.jpg", "a.jpg"}, {"x 2.xmp", "a.xmp"}},
+     "a.jpg>x",
+     "a.xmp",
+     "x.xmp",
+     "x 2.jpg<a.jpg, x 2.xmp<a.xmp, x.xmp<x.xmp",
      {8}},
-    {"the number is counted on while the wish is the same, and begins anew behind another",
-     {{"a.jpg", "x"}, {"b.jpg", "x"}, {"c.jpg", "y"}, {"d.jpg", "x"}},
-     {},
-     {},
-     {{"x.jpg", "a.jpg"}, {"x 2.jpg", "b.jpg"}, {"y.jpg", "c.jpg"}, {"x 3.jpg", "d.jpg"}},
+    {"a wish again behind another one",
+     "a.jpg>x, b.jpg>x, c.jpg>y, d.jpg>x",
+     "",
+     "",
+     "x 2.jpg<b.jpg, x 3.jpg<d.jpg, x.jpg<a.jpg, y.jpg<c.jpg",
      {8, 8}},
-    {"temporary names that are there, and that are wished for",
-     {{"a.jpg", "b"}, {"b.jpg", "a"}, {"c.jpg", "a_"}},
-     {},
-     {"b_.jpg", "b_ 2.jpg"},
-     {{"b.jpg", "a.jpg"},
-      {"a.jpg", "b.jpg"},
-      {"a_.jpg", "c.jpg"},
-      {"b_.jpg", "b_.jpg"},
-      {"b_ 2.jpg", "b_ 2.jpg"}}},
-    {"a raw file, its JPEG and sidecars of both kinds",
-     {{"a.CR2", "x"}},
-     {"a.JPG", "a.CR2.xmp", "a.xmp"},
-     {},
-     {{"x.CR2", "a.CR2"}, {"x.JPG", "a.JPG"}, {"x.CR2.xmp", "a.CR2.xmp"}, {"x.xmp", "a.xmp"}}},
-    {"a name that is refused stays taken for the one that was to have it",
-     {{"a.jpg", "b"}, {"b.jpg", "con"}},
-     {},
-     {},
-     {{"b 2.jpg", "a.jpg"}, {"b.jpg", "b.jpg"}},
+    {"temporary names that are there, and that are wished for", "a.jpg>b, b.jpg>a, c.jpg>a_", "",
+     "b_.jpg, b_ 2.jpg",
+     "a.jpg<b.jpg, a_.jpg<c.jpg, b.jpg<a.jpg, b_ 2.jpg<b_ 2.jpg, b_.jpg<b_.jpg"},
+    {"a raw file, its JPEG and sidecars of both kinds", "a.CR2>x", "a.JPG, a.CR2.xmp, a.xmp", "",
+     "x.CR2<a.CR2, x.CR2.xmp<a.CR2.xmp, x.JPG<a.JPG, x.xmp<a.xmp"},
+    {"one that is refused keeps the name that another was to have",
+     "a.jpg>b, b.jpg>con",
+     "",
+     "",
+     "b 2.jpg<a.jpg, b.jpg<b.jpg",
      {8, 5}},
 };
-/// Folders that tell upper from lower case, and those that do not.
+/// On folders that tell upper from lower case, and on those that do not.
 const std::vector<RunCase> whereCaseCounts{
-    {"two names",
-     {{"a.jpg", "x"}, {"b.jpg", "X"}},
-     {},
-     {},
-     {{"x.jpg", "a.jpg"}, {"X.jpg", "b.jpg"}}},
+    {"two names", "a.jpg>x, b.jpg>X", "", "", "X.jpg<b.jpg, x.jpg<a.jpg"},
     {"companions that would become one keep their letters",
-     {{"a.jpg", "x"}},
-     {"a.xmp", "a.XMP"},
-     {},
-     {{"x.jpg", "a.jpg"}, {"x.xmp", "a.xmp"}, {"x.XMP", "a.XMP"}},
+     "a.jpg>x",
+     "a.xmp, a.XMP",
+     "",
+     "x.XMP<a.XMP, x.jpg<a.jpg, x.xmp<a.xmp",
      {},
      SuffixCase::Lower},
 };
 const std::vector<RunCase> whereCaseIsNothing{
     {"one name",
-     {{"a.jpg", "x"}, {"b.jpg", "X"}, {"c.jpg", "Ä"}, {"d.jpg", "a\u0308"}},
-     {},
-     {},
-     {{"x.jpg", "a.jpg"}, {"X 2.jpg", "b.jpg"}, {"Ä.jpg", "c.jpg"}, {"a\u0308 2.jpg", "d.jpg"}},
+     "a.jpg>x, b.jpg>X, c.jpg>Ä, d.jpg>a\u0308",
+     "",
+     "",
+     "X 2.jpg<b.jpg, a\u0308 2.jpg<d.jpg, x.jpg<a.jpg, Ä.jpg<c.jpg",
      {8, 8}},
 };
 
@@ -154,18 +146,22 @@ void expectRun(RenameSession &session, const RunCase &each) {
     SCOPED_TRACE(each.what);
     for (const auto &entry : std::filesystem::directory_iterator(session.folder().sfFolderPath()))
         std::filesystem::remove(entry.path());
-    for (const auto &[name, wanted] : each.wishes)
-        session.add(name);
-    for (const std::string &name : each.others)
+    Wishes wishes;
+    for (const std::string &wish : split(each.wishes)) {
+        const auto words = split(wish, ">");
+        wishes.emplace_back(words.at(0), words.at(1));
+        session.add(words[0]);
+    }
+    for (const std::string &name : split(each.others))
         session.add(name);
     session.import();
-    session.wish(each.wishes);
-    for (const std::string &name : each.outside)
+    session.wish(wishes);
+    for (const std::string &name : split(each.outside))
         session.add(name);
     session.choices.names.suffixChangeCase = each.suffixChangeCase;
     const auto foreseen = session.preview();
     const SaveRunResult run = session.rename();
-    EXPECT_EQ(session.onDisk(), each.onDisk);
+    EXPECT_EQ(onDisk(session), split(each.onDisk));
     EXPECT_EQ(ids(run.errors), each.errors);
     expectModelFitsDisk(session);
     ASSERT_EQ(foreseen.size(), run.renames.size());
@@ -220,21 +216,23 @@ public:
         wish({{"a.jpg", "x"}, {"b.jpg", "y"}});
     }
     FailingFileLayer &rig() { return layer == &files ? files : m_insensitive; }
-    /// Calls once, right before a file is moved to the name `at`.
-    void before(const std::string &at, std::function<void()> happens) {
-        rig().beforeRename = [=, isOver = false](const std::string &,
-                                                 const std::string &to) mutable {
-            if (!isOver && to.ends_with('/' + at)) {
-                isOver = true;
-                happens();
-            }
+    /// Right before a file is moved to the name `at`, somebody makes a file, or replaces one.
+    void intrude(const std::string &at, const std::string &name) {
+        rig().beforeRename = [=, this, isOver = false](const std::string &,
+                                                       const std::string &to) mutable {
+            if (isOver || !to.ends_with('/' + at))
+                return;
+            isOver = true;
+            std::filesystem::remove(path(name));
+            write(name, "\nsomebody");
         };
     }
-    /// Somebody makes a file, or puts another one in its place.
-    void intrude(const std::string &name) {
-        std::filesystem::remove(path(name));
-        write(name, "\nsomebody");
+    void failMoves(int first, int last) {
+        rig().failingRenamesFrom = first;
+        rig().lastFailingRename = last;
+        rig().renameError = EROFS;
     }
+    void recover() const { RunJournal::recover(disk.path("support"), *makeSystemFileLayer()); }
 
 private:
     CaseInsensitiveFileLayer m_insensitive;
@@ -244,99 +242,91 @@ class DisturbedRename : public testing::TestWithParam<bool> {};
 INSTANTIATE_TEST_SUITE_P(OnBothLayers, DisturbedRename, testing::Bool());
 
 TEST_P(DisturbedRename, WhatCannotBeMovedIsWhereTheModelSays) {
-    const std::vector<std::string> none, xmp{"xmp"};
     const struct {
-        int first, last;
-        Names onDisk;
+        int first, last; ///< moves that fail
+        const char *onDisk;
         std::vector<int> errors;
         std::vector<RenameResult> results;
-        bool isLeftToRecovery;
-        std::vector<std::string> sidecars;
+        const char *sidecars, *recovered;
     } cases[] = {
-        {1,
-         1,
-         {{"a.jpg", "a.jpg"}, {"a.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}},
-         {5},
-         {Refused, Renamed},
-         false,
-         xmp},
-        {2,
-         2,
-         {{"x.jpg", "a.jpg"}, {"a.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}},
-         {14},
-         {Renamed, Renamed},
-         false,
-         none},
+        {1, 1, "a.jpg<a.jpg, a.xmp<a.xmp, y.jpg<b.jpg", {5}, {Refused, Renamed}, "xmp", nullptr},
+        {2, 2, "a.xmp<a.xmp, x.jpg<a.jpg, y.jpg<b.jpg", {14}, {Renamed, Renamed}, "", nullptr},
         {4,
          4,
-         {{"x_.jpg", "a.jpg"}, {"x_.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}},
+         "x_.jpg<a.jpg, x_.xmp<a.xmp, y.jpg<b.jpg",
          {5},
          {LeftOnTheWay, Renamed},
-         true,
-         xmp},
+         "xmp",
+         "x.jpg<a.jpg, x.xmp<a.xmp, y.jpg<b.jpg"},
         {5,
          5,
-         {{"x.jpg", "a.jpg"}, {"x_.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}},
+         "x.jpg<a.jpg, x_.xmp<a.xmp, y.jpg<b.jpg",
          {14},
          {Renamed, Renamed},
-         true,
-         none},
+         "",
+         "x.jpg<a.jpg, x.xmp<a.xmp, y.jpg<b.jpg"},
         {3,
          1000,
-         {{"x_.jpg", "a.jpg"}, {"x_.xmp", "a.xmp"}, {"b.jpg", "b.jpg"}},
+         "b.jpg<b.jpg, x_.jpg<a.jpg, x_.xmp<a.xmp",
          {5, 5},
          {LeftOnTheWay, Refused},
-         true,
-         xmp},
+         "xmp",
+         "b.jpg<b.jpg, x.jpg<a.jpg, x.xmp<a.xmp"},
     };
     for (const auto &each : cases) {
         SCOPED_TRACE(each.first);
         DisturbedSession session(GetParam());
-        session.rig().failingRenamesFrom = each.first;
-        session.rig().lastFailingRename = each.last;
-        session.rig().renameError = EROFS;
+        session.failMoves(each.first, each.last);
         const SaveRunResult run = session.rename();
-        EXPECT_EQ(session.onDisk(), each.onDisk);
+        EXPECT_EQ(onDisk(session), split(each.onDisk));
         EXPECT_EQ(ids(run.errors), each.errors);
         EXPECT_EQ(results(run), each.results);
         for (const SaveError &error : run.errors)
             EXPECT_TRUE(std::filesystem::exists(error.path) &&
                         error.systemText == "Read-only file system")
                 << error.path;
-        EXPECT_EQ(session.hasUnfinished(), each.isLeftToRecovery);
-        EXPECT_EQ(run.renames.at(0).pic->spSidecarExtensions, each.sidecars);
+        EXPECT_EQ(run.renames.at(0).pic->spSidecarExtensions, split(each.sidecars));
         expectModelFitsDisk(session);
+        EXPECT_EQ(session.hasUnfinished(), each.recovered != nullptr);
+        session.recover();
+        EXPECT_EQ(onDisk(session), split(each.recovered ? each.recovered : each.onDisk));
     }
 }
 
 TEST_P(DisturbedRename, WhatSomebodyElsePutsThereIsNeverOverwritten) {
     const struct {
-        const char *at, *intruder;
-        Names onDisk;
+        const char *at, *intruder, *onDisk;
         std::vector<int> errors;
     } cases[] = {
-        {"x.jpg", "x.jpg", {{"x 2.jpg", "a.jpg"}, {"x 2.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}}, {8}},
-        {"x.xmp", "x.xmp", {{"x 2.jpg", "a.jpg"}, {"x 2.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}}, {8}},
-        {"x_.jpg", "x_.jpg", {{"x.jpg", "a.jpg"}, {"x.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}}, {}},
-        {"x_.xmp", "x_.xmp", {{"x.jpg", "a.jpg"}, {"x.xmp", "a.xmp"}, {"y.jpg", "b.jpg"}}, {}},
-        {"x_.jpg", "b.jpg", {{"x.jpg", "a.jpg"}, {"x.xmp", "a.xmp"}}, {11}},
-        {"x_.jpg", "a.xmp", {{"x.jpg", "a.jpg"}, {"y.jpg", "b.jpg"}}, {14}},
-        {"x.jpg", "x_.xmp", {{"x.jpg", "a.jpg"}, {"y.jpg", "b.jpg"}}, {14}},
+        {"x.jpg", "x.jpg", "x 2.jpg<a.jpg, x 2.xmp<a.xmp, x.jpg<somebody, y.jpg<b.jpg", {8}},
+        {"x.xmp", "x.xmp", "x 2.jpg<a.jpg, x 2.xmp<a.xmp, x.xmp<somebody, y.jpg<b.jpg", {8}},
+        {"x_.jpg", "x_.jpg", "x.jpg<a.jpg, x.xmp<a.xmp, x_.jpg<somebody, y.jpg<b.jpg", {}},
+        {"x_.xmp", "x_.xmp", "x.jpg<a.jpg, x.xmp<a.xmp, x_.xmp<somebody, y.jpg<b.jpg", {}},
+        {"x_.jpg", "b.jpg", "b.jpg<somebody, x.jpg<a.jpg, x.xmp<a.xmp", {11}},
+        {"x_.jpg", "a.xmp", "a.xmp<somebody, x.jpg<a.jpg, y.jpg<b.jpg", {14}},
+        {"x.jpg", "x_.xmp", "x.jpg<a.jpg, x_.xmp<somebody, y.jpg<b.jpg", {14}},
     };
     for (const auto &each : cases) {
         SCOPED_TRACE(std::string(each.intruder) + " before " + each.at);
         DisturbedSession session(GetParam());
-        session.before(each.at, [&] { session.intrude(each.intruder); });
+        session.intrude(each.at, each.intruder);
         const SaveRunResult run = session.rename();
-        Names expected = each.onDisk;
-        expected[each.intruder] = "somebody";
-        EXPECT_EQ(session.onDisk(), expected);
+        EXPECT_EQ(onDisk(session), split(each.onDisk));
         EXPECT_EQ(ids(run.errors), each.errors);
         if (each.errors == std::vector{8}) {
             EXPECT_EQ(run.renames.at(0).pic->rename.addonCounter, 3);
             expectModelFitsDisk(session);
         }
     }
+}
+
+TEST_P(DisturbedRename, AnInterruptedNumberIsRecordedAsWell) {
+    DisturbedSession session(GetParam());
+    session.intrude("x.jpg", "x.jpg");
+    session.failMoves(5, 5); // to "x 2.jpg"
+    session.rename();
+    session.recover();
+    EXPECT_EQ(onDisk(session), split("x 2.jpg<a.jpg, x 2.xmp<a.xmp, x.jpg<somebody, y.jpg<b.jpg"));
 }
 
 class RenameRunTest : public testing::Test {
@@ -423,8 +413,7 @@ TEST_F(RenameRunTest, ASelectionLeavesGapsAndItsOwnNumbers) {
     selection.onlyPics = {session.item("a.jpg").shared_from_this(),
                           session.item("c.jpg").shared_from_this()};
     session.rename(selection);
-    EXPECT_EQ(session.onDisk(),
-              (Names{{"n1.jpg", "c.jpg"}, {"b.jpg", "b.jpg"}, {"n3.jpg", "a.jpg"}}));
+    EXPECT_EQ(onDisk(session), split("b.jpg<b.jpg, n1.jpg<c.jpg, n3.jpg<a.jpg"));
 }
 
 TEST_F(RenameRunTest, NamesThatAreTooLongInBytes) {
@@ -441,10 +430,8 @@ TEST_F(RenameRunTest, NamesThatAreTooLongInBytes) {
     const SaveRunResult run = session.rename();
     EXPECT_THAT(ids(run.errors), ElementsAre(5, 5));
     EXPECT_EQ(run.errors.at(0).systemText, text("nameCheck_tooLong"));
-    EXPECT_EQ(session.onDisk(), (Names{{bytes(251) + ".jpg", "a.jpg"},
-                                       {"b.jpg", "b.jpg"},
-                                       {"c.jpg", "c.jpg"},
-                                       {"_.jpg", "d.jpg"}}));
+    EXPECT_EQ(onDisk(session),
+              split("_.jpg<d.jpg, b.jpg<b.jpg, c.jpg<c.jpg, " + bytes(251) + ".jpg<a.jpg"));
 }
 
 TEST_F(RenameRunTest, ALivePhotoMovesAsOne) {
@@ -457,7 +444,7 @@ TEST_F(RenameRunTest, ALivePhotoMovesAsOne) {
     session.item("a.jpg").spNameAtImport = ".x.jpg";
     session.choices.names.frontDotHandlingMode = FrontDotMode::Report;
     const SaveRunResult run = session.rename();
-    EXPECT_EQ(session.onDisk(), (Names{{".x.jpg", "a.jpg"}, {".x.mov", "a.mov"}}));
+    EXPECT_EQ(onDisk(session), split(".x.jpg<a.jpg, .x.mov<a.mov"));
     EXPECT_THAT(ids(run.errors), ElementsAre(18));
     expectModelFitsDisk(session);
 }
@@ -472,7 +459,7 @@ TEST_F(RenameRunTest, AFileWithoutExtensionIsNumberedAtItsEnd) {
     }
     session.wish({{"a", "x"}, {"b", "x"}});
     session.rename();
-    EXPECT_EQ(session.onDisk(), (Names{{"x", "a"}, {"x 2", "b"}}));
+    EXPECT_EQ(onDisk(session), split("x<a, x 2<b"));
 }
 
 TEST_F(RenameRunTest, WithoutRecordNothingIsMoved) {
