@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "CaseInsensitiveFileLayer.h"
 #include "FakeSession.h"
 #include "RenameRun.h"
 
@@ -72,6 +73,58 @@ public:
     }
 
     std::function<void(std::size_t done, std::size_t total)> progress;
+};
+
+/// Lists are texts: "a.jpg, b.jpg".
+inline std::vector<std::string> split(const std::string &list, const std::string &by = ", ") {
+    std::vector<std::string> parts;
+    for (std::size_t at = 0, end = 0; end < list.size(); at = end + by.size()) {
+        end = std::min(list.find(by, at), list.size());
+        parts.push_back(list.substr(at, end - at));
+    }
+    return parts;
+}
+/// "x.jpg<a.jpg": the present name and the first one of each file.
+inline std::vector<std::string> onDisk(const RenameSession &session) {
+    std::vector<std::string> list;
+    for (const auto &[present, first] : session.onDisk())
+        list.push_back(present + '<' + first);
+    return list;
+}
+
+/// "a.jpg" with its sidecar wishes for "x", and "b.jpg" for "y". Moves are counted from 1: three to
+/// temporary names, then three to final ones.
+class DisturbedSession : public RenameSession {
+public:
+    explicit DisturbedSession(bool isInsensitive) {
+        if (isInsensitive)
+            layer = &m_insensitive;
+        for (const char *name : {"a.jpg", "a.xmp", "b.jpg"})
+            add(name);
+        import();
+        wish({{"a.jpg", "x"}, {"b.jpg", "y"}});
+    }
+    FailingFileLayer &rig() { return layer == &files ? files : m_insensitive; }
+    /// Right before a file is moved to the name `at`, somebody makes a file, or replaces one.
+    void intrude(const std::string &at, const std::string &name) {
+        rig().beforeRename = [=, this, isOver = false](const std::string &,
+                                                       const std::string &to) mutable {
+            if (isOver || !to.ends_with('/' + at))
+                return;
+            isOver = true;
+            std::filesystem::remove(path(name));
+            write(name, "\nsomebody");
+        };
+    }
+    void failMoves(int first, int last) {
+        rig().failingRenamesFrom = first;
+        rig().lastFailingRename = last;
+        rig().renameError = EROFS;
+    }
+    void recover() const { RunJournal::recover(disk.path("support"), *makeSystemFileLayer()); }
+
+private:
+    CaseInsensitiveFileLayer m_insensitive;
 };
 
 } // namespace chronomender::little
