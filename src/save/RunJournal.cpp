@@ -87,6 +87,27 @@ private:
     std::set<std::size_t> m_left;                    ///< those that stay
 };
 
+/// A unit behind the first `kept` ones moves a file of the unit from where that could have left it.
+bool isRenamedSince(std::span<const RecordedUnit> units, std::size_t index, std::size_t kept) {
+    // Some file systems give a renamed file another number.
+    const auto takesOver = [](const MoveIntent &earlier, const MoveIntent &later) {
+        const bool looksAlike = earlier.before.size == later.before.size &&
+                                earlier.before.modificationDate == later.before.modificationDate;
+        return earlier.folder == later.folder &&
+               (earlier.before.isSameFile(later.before) ||
+                (earlier.temporaryName == later.oldName && looksAlike));
+    };
+    const auto &moves = units[index].unit.moves;
+    return std::any_of(units.begin() + static_cast<std::ptrdiff_t>(kept), units.end(),
+                       [&](const RecordedUnit &later) {
+                           return std::ranges::any_of(later.unit.moves, [&](const auto &move) {
+                               return std::ranges::any_of(moves, [&](const MoveIntent &earlier) {
+                                   return takesOver(earlier, move);
+                               });
+                           });
+                       });
+}
+
 } // namespace
 
 bool isLeft(RecoveredFile::Result result) {
@@ -145,16 +166,27 @@ bool RunJournal::append(std::span<const UnitIntent> units, FileError *error) {
     return isRecorded;
 }
 
+/// A file that was left at a temporary name, and has been renamed since, is no longer what the
+/// first record says: a recovery by it would undo what the user wanted last.
+std::vector<std::size_t> RunJournal::keptUnits() const {
+    const auto record = m_kept > 0 ? m_file->read() : std::nullopt;
+    std::vector<std::size_t> kept;
+    for (std::size_t i = 0; i < m_kept; ++i)
+        if (!record || !isRenamedSince(record->unsettled, i, m_kept))
+            kept.push_back(i);
+    return kept;
+}
+
 void RunJournal::settle(std::span<const std::size_t> unsettled) {
     if (!m_file || m_batch == 0)
         return;
-    if (unsettled.empty()) {
-        m_file->cut(m_batchStart);
+    std::vector<std::size_t> left = keptUnits();
+    if (unsettled.empty() && (left.empty() || left.size() == m_kept)) {
+        m_file->cut(left.empty() ? 0 : m_batchStart);
+        m_kept = left.size();
         m_batch = 0;
         return;
     }
-    std::vector<std::size_t> left(m_kept);
-    std::iota(left.begin(), left.end(), std::size_t{0});
     for (const std::size_t index : unsettled)
         left.push_back(m_kept + index);
     std::sort(left.begin(), left.end());

@@ -98,7 +98,8 @@ public:
     /// otherwise than recorded before is recorded again, and the last record of it holds.
     bool extend(std::span<const UnitIntent> units, FileError *error = nullptr);
     /// The batch is written and its files are safe, but for the units with these indices: they stay
-    /// recorded for `recover`.
+    /// recorded for `recover`. A file that an earlier
+    /// batch has left on its way, and this one has moved from there, is recorded no more.
     void settle(std::span<const std::size_t> unsettled = {});
 
     /// Puts right what interrupted runs left: a unit of which any value is new is completed, unless
@@ -117,6 +118,7 @@ public:
 
 private:
     bool append(std::span<const UnitIntent> units, FileError *error);
+    std::vector<std::size_t> keptUnits() const; ///< those that stay recorded
 
     std::string m_folder;
     Durability m_durability;
