@@ -2,8 +2,8 @@
 """witness.py TRIP: judges a mended sample trip without asking the program that mended it.
 
 TRIP holds photos/ (with plan.json, the truth), untouched/ (a copy from before), info.jsonl (where
-the program said that values stand), planned.jsonl and mended.jsonl (its reports of the dry run and of
-the run that saved and renamed), before.jsonl and after.jsonl (its lists), and the same two of the
+the program said that values stand), planned.jsonl and mended.jsonl (its reports of the dry run and
+of the run that saved and renamed), before.jsonl and after.jsonl (its lists), and the same two of the
 night at home, whose clocks were right; before-drag/ is photos/ as it was before one picture was
 dragged between two others. Exit code 1 when anything is not as it should be."""
 import datetime
@@ -68,7 +68,8 @@ def judge_dates(photos, files):
         now = next((found[tag] for tag in NAMING_TAGS if tag in found), "no date")
         now += " " + found.get("EXIF:OffsetTimeOriginal", "")
         note = "edited later: kept" if file["isEdited"] else ""
-        print(f"{file['now']:<27} {tail(file['path']).split('/')[1]:<14} {file['clock']:<20} {now:<27} {file['taken']:<26}"
+        was = file["path"].split("/")[1]
+        print(f"{file['now']:<27} {was:<14} {file['clock']:<20} {now:<27} {file['taken']:<26}"
               f" {'WRONG: ' + wrong if wrong else 'right'} {note}".rstrip())
     return faults
 
@@ -224,8 +225,8 @@ def main():
         (count > 0 and lost == parted == wrong == 0,
          f"names: {count} files were renamed, {lost} of them are not there exactly once, {parted} "
          f"left their shot, {wrong} names are others than the dry run said"),
-        (unsorted == 0, f"sorting: {unsorted} of {shots} shots stand out of place when the names of "
-                        "all cameras are sorted"),
+        (unsorted == 0, f"sorting: {unsorted} of {shots} shots stand out of place when the names "
+                        "of all cameras are sorted"),
         (night_before > 0 and night_after == 0,
          f"night: {night_before} of {len(night_files)} shots stood out of place when both times "
          f"were read as the later, {night_after} with the other reading of one"),

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <optional>
 
 namespace chronomender {
 namespace {
@@ -64,6 +66,16 @@ std::size_t fileOf(const SaveError &error, const ItemRename &rename) {
     return 0;
 }
 
+/// Errors that are about a file of the item, as a line of that file says them. The number that was
+/// added is told by itself.
+std::string reasonOf(const ItemRename &rename, std::optional<std::size_t> file = std::nullopt) {
+    std::string reason;
+    for (const SaveError &error : rename.errors)
+        if (error.id != SaveErrorId::NumberAdded && (!file || fileOf(error, rename) == *file))
+            reason += (reason.empty() ? "" : "; ") + noteOf(error);
+    return reason;
+}
+
 void appendLine(std::string &buffer, const ItemRename &rename, std::size_t index,
                 std::string_view result) {
     const RenamedFile &file = rename.files[index];
@@ -81,7 +93,7 @@ void appendLine(std::string &buffer, const ItemRename &rename, std::size_t index
     for (const SaveError &error : rename.errors)
         if (fileOf(error, rename) == index)
             line.element(static_cast<std::int64_t>(error.id));
-    line.finish();
+    line.end().fieldIfAny("reason", reasonOf(rename, index)).finish();
 }
 
 } // namespace
@@ -117,10 +129,8 @@ std::string RenameReport::noteOf(const ItemRename &rename) const {
         note = text("cli_rename_numberNote", {std::to_string(rename.addedNumber), wanted});
     else if (rename.result == RenameResult::Unchanged)
         note = text("cli_rename_unchangedNote");
-    for (const SaveError &error : rename.errors)
-        if (error.id != SaveErrorId::NumberAdded)
-            note += (note.empty() ? "" : "; ") + chronomender::noteOf(error);
-    return note;
+    const std::string reason = reasonOf(rename);
+    return note + (note.empty() || reason.empty() ? "" : "; ") + reason;
 }
 
 std::vector<std::string> RenameReport::nameTable() const {

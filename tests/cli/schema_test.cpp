@@ -144,9 +144,9 @@ TEST_F(JsonSchema, OfSaveIsTheDocumentedOne) {
 }
 
 TEST_F(JsonSchema, OfRenameIsTheDocumentedOne) {
-    disk().write("trip/2024.jpg", "a stranger");
+    disk().write("trip/.2024.jpg/x", "a stranger");
     const auto lines = mend({"save", "--rename", "--json", "--system-zone", "UTC", path("trip"),
-                             "--template-text", "{year}", "--set", "frontDotHandlingMode=2"})
+                             "--template-text", ".{year}", "--set", "frontDotHandlingMode=2"})
                            .lines();
     expectSchema("summary", {lines.back().at("summary")});
     std::vector<Json> names;
