@@ -3,8 +3,8 @@
 
 TRIP holds photos/ (with plan.json, the truth), untouched/ (a copy from before), info.jsonl (where
 the program said that values stand), planned.jsonl and mended.jsonl (its reports of the dry run and
-of the run that saved and renamed), before.jsonl and after.jsonl (its lists), and the same two of the
-night at home, whose clocks were right; before-drag/ is photos/ as it was before one picture was
+of the run that saved and renamed), before.jsonl and after.jsonl (its lists), and the same two of
+the night at home, whose clocks were right; before-drag/ is photos/ as it was before one picture was
 dragged between two others. Exit code 1 when anything is not as it should be."""
 import datetime
 import json
