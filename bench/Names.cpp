@@ -64,8 +64,9 @@ BuiltNames buildNames(const std::string &path) {
     names.reserve(itemCount);
     const auto begin = Clock::now();
     std::int64_t counter = 0;
+    KnownFolderNames folderNames;
     for (const MySinglePicPtr &pic : folder->sfPicDetails_fullArray)
-        if (const auto facts = nameFactsOf(*pic, true, zones))
+        if (const auto facts = nameFactsOf(*pic, true, zones, folderNames))
             names.push_back(nameString(*facts, ++counter, {}, settings));
     const auto time = Clock::now() - begin;
     return {time, areRight(names, *folder, zones) ? names.size() : 0};

@@ -20,20 +20,33 @@ std::string lastPathComponent(std::string_view path) {
 
 } // namespace
 
+const std::string &KnownFolderNames::nameOf(const MySingleFolder &folder) {
+    const auto [known, isNew] = m_names.try_emplace(&folder);
+    if (isNew)
+        known->second = lastPathComponent(folder.sfFolderPath());
+    return known->second;
+}
+
 std::optional<NameFacts> nameFactsOf(const MySinglePic &pic, bool useNameAtImport,
-                                     const Zones &zones) {
+                                     const Zones &zones, KnownFolderNames &folderNames) {
     const MySingleFolderPtr folder = pic.spSingleRealFolder();
     if (!folder)
         return std::nullopt;
     NameFacts facts{pic.spDateTimeModified_sort(),
                     targetTimeZoneForPic(pic, *folder, zones).rules,
-                    lastPathComponent(folder->sfFolderPath()),
+                    folderNames.nameOf(*folder),
                     useNameAtImport ? pic.spNameAtImport : pic.spTargetName(),
                     pic.spName,
                     {}};
     if (pic.group.bundleDependentImage || !pic.spSidecarExtensions.empty())
         facts.spNameComplete = spNameComplete(pic);
     return facts;
+}
+
+std::optional<NameFacts> nameFactsOf(const MySinglePic &pic, bool useNameAtImport,
+                                     const Zones &zones) {
+    KnownFolderNames folderNames;
+    return nameFactsOf(pic, useNameAtImport, zones, folderNames);
 }
 
 std::string nameString(const NameFacts &facts, std::int64_t counter, const AddOnTexts &addOns,

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace chronomender {
@@ -45,9 +46,22 @@ struct NameFacts {
     std::string spNameComplete;
 };
 
+/// The names of folders, each asked of the system once, which takes longer than the rest of a name.
+/// For one thread's work on many items, while their folders live.
+class KnownFolderNames {
+public:
+    const std::string &nameOf(const MySingleFolder &folder);
+
+private:
+    std::unordered_map<const MySingleFolder *, std::string> m_names;
+};
+
 /// None when the item stands in no folder. With `useNameAtImport` the source is the name at import,
 /// else the name that the user wanted last, else the present one. Any thread while nothing changes
 /// the item.
+std::optional<NameFacts> nameFactsOf(const MySinglePic &pic, bool useNameAtImport,
+                                     const Zones &zones, KnownFolderNames &folderNames);
+/// The same for one item.
 std::optional<NameFacts> nameFactsOf(const MySinglePic &pic, bool useNameAtImport,
                                      const Zones &zones);
 

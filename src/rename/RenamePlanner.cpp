@@ -187,10 +187,11 @@ RenamePlan RenamePlanner::wantedNames() const {
     for (const MySingleFolderPtr &folder : m_scope.workList())
         if (places.try_emplace(folder.get(), plan.folders.size()).second)
             plan.folders.emplace_back().folder = folder;
+    KnownFolderNames folderNames;
     walkCounters(m_scope, m_choices, [&](const MySinglePicPtr &pic, std::int64_t counter) {
         const auto place = places.find(pic->spSingleRealFolder().get());
         if (place != places.end() && pic->positions.indexInSource_full >= 0)
-            plan.folders[place->second].items.push_back(wishOf(pic, counter));
+            plan.folders[place->second].items.push_back(wishOf(pic, counter, folderNames));
     });
     for (FolderMoves &folder : plan.folders)
         std::ranges::stable_sort(folder.items, {}, [](const ItemMoves &item) {
@@ -201,11 +202,13 @@ RenamePlan RenamePlanner::wantedNames() const {
 
 /// The builder takes the extension from the present name; without one it answers the base, which
 /// the companions share.
-ItemMoves RenamePlanner::wishOf(const MySinglePicPtr &pic, std::int64_t counter) const {
+ItemMoves RenamePlanner::wishOf(const MySinglePicPtr &pic, std::int64_t counter,
+                                KnownFolderNames &folderNames) const {
     ItemMoves item;
     item.pic = pic;
     item.files = filesOf(pic);
-    if (auto facts = nameFactsOf(*pic, m_choices.useNameAtImportAsSourceName, m_services.zones)) {
+    if (auto facts = nameFactsOf(*pic, m_choices.useNameAtImportAsSourceName, m_services.zones,
+                                 folderNames)) {
         facts->spName.clear();
         item.wantedBase =
             nameString(*facts, counter, addOnsOfPic(*pic, m_choices), m_choices.names);

@@ -27,7 +27,8 @@ public:
     void giveNames(RenamePlan &plan) const;
 
 private:
-    ItemMoves wishOf(const MySinglePicPtr &pic, std::int64_t counter) const;
+    ItemMoves wishOf(const MySinglePicPtr &pic, std::int64_t counter,
+                     KnownFolderNames &folderNames) const;
     bool isKeptOut(const MySinglePic &pic) const;
     void refuseUnreachable(FolderMoves &folder) const;
     void collectFiles(FolderMoves &folder) const;
