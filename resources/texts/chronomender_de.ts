@@ -448,7 +448,8 @@ Beispiele:
         <translation>Beispiele:
   mend save --folder canon --shift -1:00:00 --dry-run
   mend save --folder canon --shift -1:00:00
-  mend save --folder canon --target-zone own --pic IMG_0007.JPG --shift +0:05</translation>
+  mend save --folder canon --target-zone own --pic IMG_0007.JPG --shift +0:05
+  mend save --folder canon --shift -1:00:00 phone --rename --template-text '{year}_{month}_{day}_{counter:4}'</translation>
     </message>
     <message id="cli_help_set">
         <translation>Eine Einstellung für diesen Lauf setzen</translation>

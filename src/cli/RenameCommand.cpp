@@ -55,7 +55,7 @@ int report(const MendSession &session, const std::vector<ItemRename> &renames, S
     }
     std::vector<std::string> pieces = report.nameTable();
     pieces.push_back(report.summaryText());
-    if (code == exitInterrupted)
+    if (isDryRun ? code == exitInterrupted : report.isInterrupted())
         pieces.push_back(text("cli_rename_interrupted") + '\n');
     else if (isDryRun)
         pieces.push_back(text("cli_rename_nothingRenamed") + '\n');
