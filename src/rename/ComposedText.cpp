@@ -2,8 +2,9 @@
 #include "ComposedText.h"
 
 #include "AsciiText.h"
+#include "FolderAccess.h"
 
-#include <QString>
+#include <QStringDecoder>
 #include <QTextBoundaryFinder>
 
 namespace chronomender {
@@ -38,10 +39,16 @@ QString withFlagsAsLetters(QString text) {
 
 } // namespace
 
-ComposedText::ComposedText(std::string_view text) : m_text(text), m_isAscii(isAscii(text)) {
-    if (m_isAscii)
+QString wideText(std::string_view utf8) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
+}
+
+ComposedText::ComposedText(std::string_view text)
+    : m_text(text), m_isBytewise(isAscii(text) || !isValidUtf8(text)) {
+    if (m_isBytewise)
         return;
-    const QString wide = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const QString wide = wideText(text);
     const QString shown = withFlagsAsLetters(wide);
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, shown);
     m_starts.reserve(static_cast<std::size_t>(wide.size()) + 1);

@@ -12,10 +12,6 @@
 namespace chronomender {
 namespace {
 
-QString wide(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 std::string modified(const std::string &text, const CharCount &row) {
     const ComposedText characters(text);
     const std::size_t length = characters.count();
@@ -60,7 +56,7 @@ std::vector<std::string> canonicalCharacters(const ComposedText &text, bool isAs
     for (std::size_t i = 0; i < text.count(); ++i)
         characters.push_back(
             isAscii ? std::string(text.at(i))
-                    : wide(text.at(i)).normalized(QString::NormalizationForm_D).toStdString());
+                    : wideText(text.at(i)).normalized(QString::NormalizationForm_D).toStdString());
     return characters;
 }
 
@@ -97,7 +93,7 @@ std::vector<std::size_t> chosen(std::vector<std::size_t> found, const ReplaceWit
 }
 
 std::string modified(const std::string &text, const ReplaceWith &row) {
-    if (row.value.empty())
+    if (row.value.empty() || !isValidUtf8(row.value))
         return text;
     const ComposedText characters(text), wanted(row.value);
     const bool isPlain = isAscii(text) && isAscii(row.value);
@@ -144,11 +140,11 @@ std::string modified(const std::string &text, const ChangeCase &row) {
     const bool isPlain = isAscii(text);
     switch (row.value) {
     case Capitalised:
-        return capitalised(wide(text)).toStdString();
+        return capitalised(wideText(text)).toStdString();
     case Lower:
-        return isPlain ? inCaseOf('a', text) : wide(text).toLower().toStdString();
+        return isPlain ? inCaseOf('a', text) : wideText(text).toLower().toStdString();
     case Upper:
-        return isPlain ? inCaseOf('A', text) : wide(text).toUpper().toStdString();
+        return isPlain ? inCaseOf('A', text) : wideText(text).toUpper().toStdString();
     default:
         return text;
     }

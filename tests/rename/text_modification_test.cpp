@@ -28,7 +28,8 @@ TEST(TextModificationTest, CountsComposedCharacters) {
         return CharCount{true, type, direction, count};
     };
     const std::string pictures = thumb + family + german + french;
-    expectAll({{row(removes, front, 1), {{"abc", "bc"}, {accented + "t", "t"}, {"", ""}}},
+    expectAll({{row(removes, front, 1),
+                {{"abc", "bc"}, {"\uFEFF\u00E9t", "\u00E9t"}, {accented + "t", "t"}, {"", ""}}},
                {row(removes, front, 5), {{"abc", ""}, {"\xFF\u00E9", "\xFF\u00E9"}}},
                {row(removes, back, 1), {{"abc", "ab"}, {pictures, thumb + family + german}}},
                {row(removes, back, 0), {{"abc", "abc"}}},
@@ -63,6 +64,7 @@ TEST(TextModificationTest, ReplacesOccurrences) {
                {row("-", "+", 1, back), {{"a-b-c", "a-b+c"}}},
                {row("-", "+", -1), {{"a-b-c", "a-b-c"}}},
                {row("", "+", 0), {{"a-b-c", "a-b-c"}}},
+               {row("\xC3", "+", 0), {{"\u00E9\uFFFD", "\u00E9\uFFFD"}}},
                {row("aa", "x", 0), {{"aaa", "xa"}, {"a", "a"}, {"AA", "AA"}}},
                {row("aa", "x", 2), {{"aaa", "ax"}}},
                {row("aa", "x", 2, back), {{"aaa", "xa"}}},
