@@ -430,10 +430,10 @@ Beispiele:
         <translation>Danach im selben Zug allen Dateien der Ordner Namen nach einer Vorlage geben</translation>
     </message>
     <message id="cli_help_resume">
-        <translation>Bringt in Ordnung, was unterbrochenes Sichern hinterließ</translation>
+        <translation>Bringt in Ordnung, was unterbrochenes Sichern und Umbenennen hinterließ</translation>
     </message>
     <message id="cli_help_resume_footer">
-        <translation>Jede Datei wird ganz alt oder ganz neu. Die anderen Befehle tun das ebenfalls, wenn sie beginnen. Rückgabewert 1: Eine Datei war nicht in Ordnung zu bringen.</translation>
+        <translation>Jede Datei wird ganz alt oder ganz neu und bekommt ihren neuen oder ihren alten Namen. Die anderen Befehle tun das ebenfalls, wenn sie beginnen. Rückgabewert 1: Eine Datei war nicht in Ordnung zu bringen.</translation>
     </message>
     <message id="cli_help_reverse">
         <translation>Kehrt die Zeiten der Auswahl um: Die erste bekommt die der letzten</translation>
@@ -471,6 +471,9 @@ Beispiele:
     </message>
     <message id="cli_help_tagMissing">
         <translation>Ergänzt fehlende Datumsfelder, wo ExifTool das kann</translation>
+    </message>
+    <message id="cli_help_takeBack">
+        <translation>Kehrt zu den alten Daten und Namen zurück, statt Begonnenes zu beenden</translation>
     </message>
     <message id="cli_help_targetZone">
         <translation>Zeitzone, in der die Zeiten stehen sollen; own lässt jeder Datei ihre eigene</translation>
@@ -557,7 +560,7 @@ Beispiele:
         <translation>Werte in der Datei</translation>
     </message>
     <message id="cli_interruptedRunWaits">
-        <translation>Ein unterbrochenes Sichern ist noch in Ordnung zu bringen, was ein Probelauf nicht tut: %1</translation>
+        <translation>Ein unterbrochener Lauf ist noch in Ordnung zu bringen, was ein Probelauf nicht tut: %1</translation>
     </message>
     <message id="cli_list_hidden">
         <translation>, vom Filter verborgen: %1</translation>
@@ -668,7 +671,7 @@ Beispiele:
         <translation>%1 nicht in Ordnung gebracht; sie bleiben für das nächste Mal vermerkt. Sind sie für immer fort: mend resume --forget</translation>
     </message>
     <message id="cli_resume_nothing">
-        <translation>Kein Sichern wurde unterbrochen.</translation>
+        <translation>Kein Lauf wurde unterbrochen.</translation>
     </message>
     <message id="cli_save_acceptWith">
         <translation>Trotzdem speichern: %1</translation>

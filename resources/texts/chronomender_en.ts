@@ -430,10 +430,10 @@ Examples:
         <translation>Then give all files of the folders names by a template, in the same pass</translation>
     </message>
     <message id="cli_help_resume">
-        <translation>Puts right what interrupted saves left</translation>
+        <translation>Puts right what interrupted saves and renames left</translation>
     </message>
     <message id="cli_help_resume_footer">
-        <translation>Each file becomes entirely old or entirely new. The other commands do the same when they start. Exit code 1: some file could not be put right.</translation>
+        <translation>Each file becomes entirely old or entirely new, and gets its new name or its old one. The other commands do the same when they start. Exit code 1: some file could not be put right.</translation>
     </message>
     <message id="cli_help_reverse">
         <translation>Swap the dates of the selection end for end</translation>
@@ -471,6 +471,9 @@ Examples:
     </message>
     <message id="cli_help_tagMissing">
         <translation>Adds the date tags that files lack, where ExifTool can</translation>
+    </message>
+    <message id="cli_help_takeBack">
+        <translation>Goes back to the old dates and names instead of finishing what was begun</translation>
     </message>
     <message id="cli_help_targetZone">
         <translation>Time zone in which dates are to be written; own keeps each file’s own</translation>
@@ -557,7 +560,7 @@ Examples:
         <translation>values in the file</translation>
     </message>
     <message id="cli_interruptedRunWaits">
-        <translation>An interrupted save waits to be put right, which a dry run leaves alone: %1</translation>
+        <translation>An interrupted run waits to be put right, which a dry run leaves alone: %1</translation>
     </message>
     <message id="cli_list_hidden">
         <translation>, hidden by the filter: %1</translation>
@@ -668,7 +671,7 @@ Examples:
         <translation>%1 not put right; they stay noted for the next time. Those that are gone for good: mend resume --forget</translation>
     </message>
     <message id="cli_resume_nothing">
-        <translation>No save was interrupted.</translation>
+        <translation>No run was interrupted.</translation>
     </message>
     <message id="cli_save_acceptWith">
         <translation>To save anyway: %1</translation>

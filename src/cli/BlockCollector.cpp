@@ -153,6 +153,8 @@ const BlockCollector::RunHandler BlockCollector::runHandlers[] = {
     {OptionId::SyncXmp,
      [](BlockCollector &c,
         const std::string &) { c.m_line.settings.emplace_back("syncXMPDataOnSave", "1"); }},
+    {OptionId::TakeBack,
+     [](BlockCollector &c, const std::string &) { c.m_line.isTakingBack = true; }},
     {OptionId::Forget,
      [](BlockCollector &c, const std::string &) { c.m_line.isForgetting = true; }},
     {OptionId::Save, [](BlockCollector &c, const std::string &) { c.m_line.isDryRun = false; }},

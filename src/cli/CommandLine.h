@@ -99,6 +99,7 @@ struct CommandLine {
     bool isJson = false, isDryRun = false, savesAll = false;
     bool acceptsAll = false;
     bool isForgetting = false; ///< (resume) files that cannot be put right are given up
+    bool isTakingBack = false; ///< (resume) what was begun is not finished
     std::set<PreSaveProblem> accepted;
     std::string typed; ///< the whole line as it could be typed, without what a terminal obeys
 };

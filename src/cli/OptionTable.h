@@ -57,6 +57,7 @@ enum class OptionId : std::uint8_t {
     AddOn3,
     Counter,
     CounterStart,
+    TakeBack,
 };
 
 /// How many values follow an option: several are all up to the next option.
@@ -88,7 +89,7 @@ inline constexpr unsigned ofCorrections = ofList | ofInfo | ofSave | ofAlign | o
 inline constexpr unsigned ofFolders = ofCorrections | ofRename;
 inline constexpr unsigned ofNames = ofSave | ofRename;
 
-inline constexpr std::array<OptionDescription, 47> optionTable{{
+inline constexpr std::array<OptionDescription, 48> optionTable{{
     {OptionId::Folder, "--folder", "PATH", "cli_help_folder", true, ofFolders},
     {OptionId::Shift, "--shift", "SPEC", "cli_help_shift", true, ofCorrections},
     {OptionId::Pic, "--pic", "NAME", "cli_help_pic", true, ofCorrections & ~ofDrag},
@@ -135,6 +136,7 @@ inline constexpr std::array<OptionDescription, 47> optionTable{{
     {OptionId::AddOn3, "--addon3", "TEXT", "cli_help_addOn3", false, ofNames},
     {OptionId::Counter, "--counter", "all|folder", "cli_help_counter", false, ofNames},
     {OptionId::CounterStart, "--counter-start", "N", "cli_help_counterStart", false, ofNames},
+    {OptionId::TakeBack, "--take-back", "", "cli_help_takeBack", false, ofResume},
     {OptionId::Forget, "--forget", "", "cli_help_forget", false, ofResume},
     {OptionId::Json, "--json", "", "cli_help_json", false, ofFolders | ofResume},
     {OptionId::Set, "--set", "KEY=VALUE", "cli_help_set", false, ofFolders},

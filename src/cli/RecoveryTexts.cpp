@@ -32,11 +32,13 @@ std::string_view resultName(Result result) {
     return std::ranges::find(results, result, &RecoveryResult::result)->name;
 }
 
+bool hasOtherPath(const RecoveredFile &file) {
+    return file.isRenamed() && file.oldPath != file.path;
+}
+
 std::string recoveryText(const RecoveredFile &file) {
-    const bool hasOtherName = file.isRenamed() && file.oldPath != file.path;
-    const std::string path = hasOtherName ? printable(file.oldPath) + " → " + printable(file.path)
-                                          : printable(file.path);
-    const std::string line = path + ": " + text(textKey(file));
+    std::string line = hasOtherPath(file) ? printable(file.oldPath) + " → " : std::string();
+    line += printable(file.path) + ": " + text(textKey(file));
     return file.systemText.empty() ? line : line + " (" + file.systemText + ')';
 }
 

@@ -21,12 +21,14 @@ struct Resumed {
     int exitCode() const { return left > 0 ? exitItemFailed : exitDone; }
 };
 
-Resumed resume(bool isForgetting) {
+Resumed resume(const CommandLine &line) {
     Resumed resumed;
-    resumed.files = RunJournal::recover(supportFolder(), *makeSystemFileLayer());
+    resumed.files = RunJournal::recover(supportFolder(), *makeSystemFileLayer(),
+                                        line.isTakingBack ? RecoveryDirection::TakeBack
+                                                          : RecoveryDirection::Finish);
     resumed.left = static_cast<std::size_t>(
         std::ranges::count_if(resumed.files, isLeft, &RecoveredFile::result));
-    if (isForgetting) {
+    if (line.isForgetting) {
         resumed.forgotten = RunJournal::forget(supportFolder());
         resumed.left = 0;
     }
@@ -38,6 +40,7 @@ std::string jsonLines(const Resumed &resumed) {
     for (const RecoveredFile &file : resumed.files)
         JsonLine(buffer)
             .field("path", file.path)
+            .fieldIfAny("oldPath", hasOtherPath(file) ? file.oldPath : std::string())
             .field("result", resultName(file.result))
             .fieldIfAny("detail", file.systemText)
             .finish();
@@ -67,7 +70,7 @@ std::string resumedText(const Resumed &resumed) {
 } // namespace
 
 int runResume(const CommandLine &line) {
-    const Resumed resumed = resume(line.isForgetting);
+    const Resumed resumed = resume(line);
     const WriteResult written =
         writeOutput(line.isJson ? jsonLines(resumed) : resumedText(resumed));
     return codeAfterWriting(written, resumed.exitCode());

@@ -82,9 +82,10 @@ TEST_F(CommandLineUse, MistakesAreNamedAndNothingIsWritten) {
 TEST_F(CommandLineUse, ResumeTakesNoFolderAndHasNothingToDo) {
     expectUsageError({"resume", path("canon")}, "canon");
     expectUsageError({"list", "--forget", path("canon")}, "--forget");
+    expectUsageError({"list", "--take-back", path("canon")}, "--take-back");
     const RunResult run = mend({"resume", "--forget"});
     EXPECT_EQ(run.exitCode, 0);
-    EXPECT_EQ(run.output, "No save was interrupted.\n");
+    EXPECT_EQ(run.output, "No run was interrupted.\n");
 }
 
 TEST_F(CommandLineUse, OneFolderTwiceIsAMistakeUnderWhateverPath) {

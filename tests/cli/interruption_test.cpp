@@ -133,7 +133,7 @@ TEST_F(KilledSave, CanBeGivenUp) {
     const RunResult run = mend({"resume", "--forget"});
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_THAT(run.output, HasSubstr("1 given up"));
-    EXPECT_EQ(mend({"resume"}).output, "No save was interrupted.\n");
+    EXPECT_EQ(mend({"resume"}).output, "No run was interrupted.\n");
 }
 
 } // namespace
