@@ -3,6 +3,7 @@
 
 #include "MainThread.h"
 #include "PreProcess.h"
+#include "RenameProof.h"
 #include "RunStep.h"
 #include "SaveStep.h"
 #include "XmpSyncStep.h"
@@ -18,6 +19,23 @@ constexpr std::size_t kPreProcessStep = 100;
 
 bool isSavingType(SaveProcessType type) {
     return type != SaveProcessType::Rename;
+}
+bool isRenamingType(SaveProcessType type) {
+    return type != SaveProcessType::Save;
+}
+
+/// What stage one looks at in one folder.
+struct FolderItems {
+    std::vector<MySinglePicPtr> saved, onlyRenamed;
+};
+
+FolderItems itemsOf(const MySingleFolder &folder, const SaveRequest &request) {
+    FolderItems items;
+    if (isSavingType(request.type))
+        items.saved = itemsToSave(folder, request.savingAll);
+    if (isRenamingType(request.type))
+        items.onlyRenamed = itemsToRename(folder, request, items.saved);
+    return items;
 }
 
 } // namespace
@@ -54,7 +72,8 @@ std::vector<MySingleFolderPtr> SaveDriver::foldersToSave(const SaveRequest &requ
         return request.onlyFolders;
     std::vector<MySingleFolderPtr> folders;
     for (const MySingleFolderPtr &folder : m_folders) {
-        const bool isAll = request.type == SaveProcessType::SaveThenRenameAll;
+        const bool isAll = request.type == SaveProcessType::SaveThenRenameAll ||
+                           request.type == SaveProcessType::Rename;
         const bool hasWork = request.savingAll || folder->isUnsavedFolder();
         if (folder->count() > 0 && (isAll || (hasWork && !folder->isEXIFIgnored)))
             folders.push_back(folder);
@@ -64,28 +83,31 @@ std::vector<MySingleFolderPtr> SaveDriver::foldersToSave(const SaveRequest &requ
 
 PreProcessResult SaveDriver::preProcessThread(const SaveRequest &request) {
     PreProcessResult result;
-    if (!isSavingType(request.type))
-        return result;
     result.savingInProgress = beginPartOfSave();
-    std::vector<std::vector<MySinglePicPtr>> items;
+    std::vector<FolderItems> items;
     std::size_t total = 0;
     mainThread::callAndWait([&] {
         result.folders = foldersToSave(request);
+        items.reserve(result.folders.size());
         for (const MySingleFolderPtr &folder : result.folders) {
             // From here on every proof that was taken before is out of date.
             folder->lastLocalChange = absl::Now();
-            items.push_back(itemsToSave(*folder, request.savingAll));
-            total += items.back().size();
+            items.push_back(itemsOf(*folder, request));
+            total += items.back().saved.size() + items.back().onlyRenamed.size();
         }
     });
     const DateChangeOptions options =
         cachedSaveOptions(m_services.defaults, m_services.now(), request.savingAll);
     ProgressCounter progress(m_services.progress, total, kPreProcessStep);
-    result.items.reserve(total);
-    for (std::size_t i = 0; i < items.size() && !result.wasCancelled; ++i)
+    for (std::size_t i = 0; i < items.size() && !result.wasCancelled; ++i) {
+        const MySingleFolderPtr &folder = result.folders[i];
         result.wasCancelled =
-            !FolderPreProcess(result.folders[i], std::move(items[i]), request, m_services, options)
-                 .run(progress, result);
+            (!items[i].saved.empty() &&
+             !FolderPreProcess(folder, std::move(items[i].saved), request, m_services, options)
+                  .run(progress, result)) ||
+            (!items[i].onlyRenamed.empty() &&
+             !proveForRename(*folder, items[i].onlyRenamed, m_services, progress, result));
+    }
     return result;
 }
 

@@ -138,7 +138,7 @@ TEST_F(MoveRecoveryTest, AllFilesGetWhereTheyAreToGoFromWhereverTheyAre) {
         return std::uniform_int_distribution<std::size_t>(0, most)(random);
     };
     for (const auto &row : table)
-        for (int round = 0; round < 300; ++round) {
+        for (int round = 0; round < 80; ++round) {
             SCOPED_TRACE(std::string(row.medium) + ' ' + std::to_string(round));
             startAgain();
             hasLastingInodes = row.hasLastingInodes;

@@ -287,6 +287,24 @@ TEST_F(RunJournalTest, ObstacleStopsTheWholeUnitAndSaysWhetherItWaits) {
     }
 }
 
+TEST_F(RunJournalTest, AllIsTakenBackWhereThatIsWantedUnlessTheToolHasDoneItsPart) {
+    interrupt({{{intent("a"), intent("b")}}, {{intent("c", true), intent("d")}}});
+    leave("a", fileWith(torn(newText, oldText, 9), oldTime));
+    leave("b", newFile);
+    leave("c_copy", newFile + "added tags");
+    fs::rename(path("c_copy"), path("c"));
+    std::vector<Result> results;
+    for (const RecoveredFile &each :
+         RunJournal::recover(support, files, RecoveryDirection::TakeBack))
+        results.push_back(each.result);
+    EXPECT_THAT(results, ElementsAre(Result::TakenBack, Result::TakenBack, Result::Completed,
+                                     Result::Completed));
+    expectWhole("a", false);
+    expectWhole("b", false);
+    expectWhole("d", true);
+    EXPECT_TRUE(isSettled());
+}
+
 TEST_F(RunJournalTest, FileThatSomebodyChangedDoesNotKeepTheOtherHalfWritten) {
     interrupt({{{intent("a"), intent("b")}}});
     leave("a", fileWith("2024:05:06 09:08:09", newTime));

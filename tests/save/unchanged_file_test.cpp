@@ -76,8 +76,32 @@ TEST_F(ChangedFile, IsAProblemOfTheDryRunAndThenRefused) {
         const PreProcessResult dry = session.preProcess();
         EXPECT_THAT(kinds(dry), ElementsAre(row.problem));
         EXPECT_EQ(dry.items.at(0).result, ItemResult::Refused);
+        const PreProcessResult rename = session.preProcess({.type = SaveProcessType::Rename});
+        EXPECT_EQ(kinds(rename), kinds(dry));
+        EXPECT_THAT(rename.items, IsEmpty());
         expectRefusedAndUntouched(dry, row.id);
     }
+}
+
+TEST_F(ChangedFile, IsAProblemOfARenameWhetherItIsSavedOrNot) {
+    session.photo("b.jpg", fullPhotoFields());
+    begin();
+    shift(absl::ZeroDuration());
+    changeOneByte();
+    SaveRequest request{.type = SaveProcessType::SaveThenRename, .onlyFolders = session.folders};
+    const PreProcessResult dry = session.preProcess(request);
+    EXPECT_THAT(kinds(dry), ElementsAre(error_06_modifiedAfterImport));
+    EXPECT_THAT(dry.items, IsEmpty());
+    session.folder().sfPicDetails_fullArray[1]->positions.indexInSource_full = -1;
+    request.savingAll = true;
+    const PreProcessResult all = session.preProcess(request);
+    EXPECT_THAT(kinds(all), ElementsAre(error_06_modifiedAfterImport)) << "told once";
+    EXPECT_EQ(all.items.size(), 1U);
+    request = {.type = SaveProcessType::Rename,
+               .onlyPics = {{session.folder().sfPicDetails_fullArray[1]}}};
+    EXPECT_THAT(kinds(session.preProcess(request)), IsEmpty());
+    session.cancellation.request();
+    EXPECT_TRUE(session.preProcess({.type = SaveProcessType::Rename}).wasCancelled);
 }
 
 TEST_F(ChangedFile, ChangeBetweenTheStagesIsSeenAndTheFileStays) {
