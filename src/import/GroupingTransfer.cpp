@@ -3,6 +3,7 @@
 
 #include "DateModifications.h"
 #include "MovieFilling.h"
+#include "NameParts.h"
 #include "ZoneLookup.h"
 
 #include <algorithm>
@@ -37,6 +38,33 @@ void moveShift(MySinglePic &dependent, MySinglePic &master, MySingleFolder &fold
     ofDependent = ofMaster;
 }
 
+/// A name that was wanted for one file of a pair, for the other one.
+std::string adaptedTargetName(const std::string &wantedName, const MySinglePic &pic) {
+    const std::string_view old = extensionOfName(wantedName);
+    std::string name = wantedName;
+    if (!old.empty())
+        name.erase(name.size() - old.size() - 1);
+    const std::string own = pic.extension();
+    return own.empty() ? name : name + '.' + own;
+}
+
+/// The folder counts items of its main list that have an error. The number that was to be tried
+/// next goes along with the wanted name.
+void moveRenameError(MySinglePic &dependent, MySinglePic &master, MySingleFolder &folder) {
+    RenameState &from = dependent.rename, &to = master.rename;
+    if (from.hasRenameError != 0 && to.hasRenameError != 0) {
+        --folder.renameErrors;
+    } else if (from.hasRenameError != 0) {
+        to.hasRenameError = from.hasRenameError;
+        to.addonCounter = from.addonCounter;
+        to.wantedName = from.wantedName ? std::optional(adaptedTargetName(*from.wantedName, master))
+                                        : std::nullopt;
+    }
+    from.hasRenameError = 0;
+    from.wantedName.reset();
+    from.addonCounter.reset();
+}
+
 } // namespace
 
 void makeTheDependentImageTo(const MySinglePicPtr &dependent, const MySinglePicPtr &master) {
@@ -58,6 +86,7 @@ void moveInfosFromDependentToMaster(MySinglePic &dependent, MySinglePic &master,
     moveShift(dependent, master, folder);
     if (hasImportOptionChanges(dependent.spType) && !hasImportOptionChanges(master.spType))
         --folder.fixedDates;
+    moveRenameError(dependent, master, folder);
 }
 
 void changeDependentAndMaster(MySinglePic &dependent, MySinglePic &master, MySingleFolder &folder,

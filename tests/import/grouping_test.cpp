@@ -162,12 +162,22 @@ TEST_F(GroupingTest, MasterTakesWhatAPersonDidToTheDependent) {
     addPicWithZone(*ofA, ZoneChoice::named(zone("Asia/Tokyo")), folder->sourceTimeZones);
     a->spSidecarExtensions = {"CR2.xmp"};
     ofA->spSidecarExtensions = {"AAE", "JPG.xmp"};
+    for (const auto &pic : {ofA, b, ofB}) {
+        pic->rename.hasRenameError = 1;
+        pic->rename.wantedName = "x." + pic->extension();
+        pic->rename.addonCounter = 3;
+    }
+    folder->renameErrors = 3;
     defaults.setForThisRun("harmonizingRawJpgsTypeDefault", "2");
     groups();
     EXPECT_TRUE(a->marks.isKeeper && a->marks.marker == 3 && !ofA->marks.isKeeper);
     EXPECT_EQ(a->shift.singlePicModification, absl::Hours(1));
     EXPECT_EQ(ofB->shift.singlePicModification, absl::Hours(2));
     EXPECT_EQ(folder->singlePicModeImages, 2) << "one shifted item less in the main list";
+    EXPECT_EQ(a->rename.cachedTargetName(), "x.CR2000003");
+    EXPECT_EQ(a->rename.hasRenameError, 1);
+    EXPECT_EQ(ofA->rename.cachedTargetName(), std::nullopt);
+    EXPECT_EQ(folder->renameErrors, 2);
     EXPECT_EQ(utcText(a->spDateTimeOriginal), "2024-05-05 22:08:09") << "read again";
     EXPECT_EQ(folder->sourceTimeZones.ofItems.count(a->sessionUniqueId), 1U);
     EXPECT_THAT(a->spSidecarExtensions, ElementsAre("CR2.xmp", "AAE", "JPG.xmp", "JPG"));
