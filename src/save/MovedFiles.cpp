@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
-#include <tuple>
 #include <unordered_map>
+#include <utility>
 
 namespace chronomender {
 namespace {
@@ -147,14 +147,15 @@ private:
     std::unordered_map<std::string, std::vector<std::size_t>> m_wanting;
 };
 
-/// Brings together what is recorded of one item.
+/// Brings together what is recorded of one item. A file that was recorded under a name which an
+/// earlier record gives it is that file.
 class ItemCollection {
 public:
     void add(std::size_t unit, const std::vector<MoveIntent> &moves) {
         std::size_t item = m_items.size();
         for (const MoveIntent &move : moves)
-            if (const auto known = m_places.find(identity(move)); known != m_places.end())
-                item = known->second.item;
+            if (const Place *known = placeOf(move))
+                item = known->item;
         if (item == m_items.size())
             m_items.emplace_back();
         for (const MoveIntent &move : moves)
@@ -163,30 +164,39 @@ public:
     std::vector<MovedItem> take() { return std::move(m_items); }
 
 private:
-    using Identity = std::tuple<std::string, std::string, std::uint64_t>;
     struct Place {
         std::size_t item, file;
     };
-    static Identity identity(const MoveIntent &move) {
-        return {move.folder, move.oldName, move.before.inode};
+    using Inode = std::pair<std::string, std::uint64_t>; ///< with its folder
+
+    const Place *placeOf(const MoveIntent &move) const {
+        const auto found = m_places.find({move.folder, move.before.inode});
+        if (found == m_places.end())
+            return nullptr;
+        const auto &names = m_items[found->second.item].files[found->second.file].names;
+        return std::ranges::find(names, move.oldName) != names.end() ? &found->second : nullptr;
     }
 
     void add(std::size_t unit, const MoveIntent &move, std::size_t item) {
-        const auto [found, isNew] =
-            m_places.emplace(identity(move), Place{item, m_items[item].files.size()});
-        MovedItem &owner = m_items[found->second.item];
-        if (isNew)
+        const Place *known = placeOf(move);
+        const Place place = known ? *known : Place{item, m_items[item].files.size()};
+        MovedItem &owner = m_items[place.item];
+        if (!known) {
+            m_places.insert_or_assign(Inode(move.folder, move.before.inode), place);
             owner.files.push_back({move, {}});
+        }
         if (owner.units.empty() || owner.units.back() != unit)
             owner.units.push_back(unit);
-        MovedFile &file = owner.files[found->second.file];
+        MovedFile &file = owner.files[place.file];
+        const std::string firstName = file.intent.oldName;
         file.intent = move;
+        file.intent.oldName = firstName;
         for (const std::string *name : {&move.oldName, &move.temporaryName, &move.finalName})
             addName(file.names, *name);
     }
 
     std::vector<MovedItem> m_items;
-    std::map<Identity, Place> m_places;
+    std::map<Inode, Place> m_places;
 };
 
 } // namespace

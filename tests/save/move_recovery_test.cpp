@@ -286,10 +286,15 @@ TEST_F(MoveRecoveryTest, FileHasOneNameInTheEndAndItsLastRecordHolds) {
     again.moves[0].temporaryName = "b__.xmp";
     again.moves[0].finalName = "c.xmp";
     interrupt({first}, 2);
-    interrupt({again}, 0);
-    fs::create_hard_link(path("b_.CR2"), path("b.CR2"));
+    UnitIntent later = first; // a run of its own, from where the first one has stopped
+    later.moves.pop_back();
+    later.moves[0].oldName = "b_.CR2";
+    later.moves[0].temporaryName = "d_.CR2";
+    later.moves[0].finalName = "d.CR2";
+    interrupt({again, later}, 0);
+    fs::create_hard_link(path("b_.CR2"), path("d_.CR2"));
     recover(Finish);
-    EXPECT_EQ(present(), (Names{{"b.CR2", before.at("a.CR2")}, {"c.xmp", before.at("a.xmp")}}));
+    EXPECT_EQ(present(), (Names{{"d.CR2", before.at("a.CR2")}, {"c.xmp", before.at("a.xmp")}}));
 }
 
 } // namespace
