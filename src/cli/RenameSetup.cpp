@@ -3,29 +3,15 @@
 
 #include "Commands.h"
 #include "JsonLine.h"
+#include "RenameSamples.h"
 #include "Table.h"
 #include "TemplateStore.h"
 #include "TemplateText.h"
 #include "Texts.h"
 #include "Utf8Text.h"
 
-#include <absl/time/civil_time.h>
-
 namespace chronomender {
 namespace {
-
-/// The name that the template gives to a picture as a camera would make it.
-std::string sampleName(const RenameTemplate &renameTemplate, const AddOnTexts &addOns) {
-    NameFacts facts;
-    facts.zone = absl::UTCTimeZone();
-    facts.date = absl::FromCivil(absl::CivilSecond(2026, 4, 11, 9, 2, 40), facts.zone);
-    facts.folderName = "Kyoto";
-    facts.sourceName = facts.spName = "IMG_4101.JPG";
-    NameSettings settings;
-    settings.renameTemplate = renameTemplate;
-    settings.sheetMode = SheetMode::TemplateSample;
-    return nameString(facts, 1, addOns, settings);
-}
 
 AddOnTexts addOnTexts(const UserDefaults &defaults) {
     return {defaults.stringForKey("additionalText"), defaults.stringForKey("additionalText2"),
@@ -64,7 +50,8 @@ int listTemplates(const CommandLine &line) {
     Table table;
     for (std::size_t i = 0; i < templates.size(); ++i) {
         const std::string typed = textOf(templates[i]);
-        const std::string sample = sampleName(templates[i], addOnTexts(defaults));
+        const std::string sample =
+            plainText(sampleTextWithSettings(templates[i], addOnTexts(defaults), *services.zones));
         table.add({(i == selected ? "* " : "  ") + std::to_string(i), printable(typed),
                    printable(sample)});
         if (line.isJson)

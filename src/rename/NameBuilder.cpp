@@ -8,7 +8,6 @@
 namespace chronomender {
 namespace {
 
-constexpr char temporaryMarker = '_';
 constexpr std::string_view emptyName = "_";
 constexpr std::size_t usualLength = 64;
 
@@ -50,7 +49,7 @@ std::optional<NameFacts> nameFactsOf(const MySinglePic &pic, bool useNameAtImpor
 }
 
 std::string nameString(const NameFacts &facts, std::int64_t counter, const AddOnTexts &addOns,
-                       const NameSettings &settings, bool buildTempName) {
+                       const NameSettings &settings) {
     const NameValues values(facts, counter, addOns, settings, NameValues::Purpose::Disk);
     std::string name;
     name.reserve(usualLength);
@@ -59,23 +58,9 @@ std::string nameString(const NameFacts &facts, std::int64_t counter, const AddOn
     });
     if (name.empty())
         name = emptyName;
-    // Before the marker, so that both names of a file lose the same dots.
     if (settings.frontDotHandlingMode == FrontDotMode::Remove)
         name.erase(0, frontDotsToRemove(name));
-    if (buildTempName)
-        name += temporaryMarker;
     return name += dottedExtension(facts, settings);
-}
-
-std::string cleanedTempName(const std::string &name) {
-    std::string cleaned = name;
-    const std::size_t baseLength = baseOfName(name).size();
-    // What looks like an extension may be the end of a base with a dot in it: there, the marker
-    // stands behind everything.
-    for (const std::size_t end : {baseLength, name.size()})
-        if (end > 0 && name[end - 1] == temporaryMarker)
-            return cleaned.erase(end - 1, 1);
-    return cleaned;
 }
 
 std::string correctedExtension(const std::string &extension, SuffixCase suffixChangeCase) {

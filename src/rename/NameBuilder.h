@@ -68,10 +68,9 @@ std::optional<NameFacts> nameFactsOf(const MySinglePic &pic, bool useNameAtImpor
 /// Up to three add-on texts.
 using AddOnTexts = std::array<std::string, 3>;
 
-/// The name with extension, never without a base: "_" stands for an empty one. With
-/// `buildTempName` an underscore stands at the end of the base. Any thread.
+/// The name with extension, never without a base: "_" stands for an empty one. Any thread.
 std::string nameString(const NameFacts &facts, std::int64_t counter, const AddOnTexts &addOns,
-                       const NameSettings &settings, bool buildTempName = false);
+                       const NameSettings &settings);
 
 /// A run of a styled name.
 struct StyledRun {
@@ -94,8 +93,6 @@ using StyledName = std::vector<StyledRun>;
 StyledName styledNameString(const NameFacts &facts, std::int64_t counter, const AddOnTexts &addOns,
                             const NameSettings &settings);
 
-/// A temporary name without its marker.
-std::string cleanedTempName(const std::string &name);
 /// An extension in the case that the setting says.
 std::string correctedExtension(const std::string &extension, SuffixCase suffixChangeCase);
 /// The name with what moves along: "a.CR2 (+.JPG, .xmp)", "a.HEIC (+.MOV, [.xmp, .aae])".

@@ -41,7 +41,6 @@ struct RenameScope {
 
     /// The folders whose items may be renamed, in order.
     std::vector<MySingleFolderPtr> workList() const;
-    bool isCompound() const { return onlyFolders.size() > 1; }
 };
 /// For process types with a rename. All folders for SaveThenRenameAll, whatever the request says.
 RenameScope renameScope(const SaveRequest &request, const std::vector<MySingleFolderPtr> &folders,
