@@ -213,6 +213,9 @@
     <message id="cli_error_picWithoutCorrection">
         <translation>--pic %1 braucht ein --shift, --source-zone oder --target-zone dahinter.</translation>
     </message>
+    <message id="cli_error_renameOfFile">
+        <translation>%1 ist eine Datei: allein umbenannt, würde sie von dem getrennt, was zu ihr gehört. Bitte ihren Ordner angeben (und die Datei hinter --pics).</translation>
+    </message>
     <message id="cli_error_renameOverUnsaved">
         <translation>Die Daten dieser Ordner sind andere als die in den Dateien, und Namen entstehen aus dem, was die Dateien enthalten. In einem Zug speichern und umbenennen: %1. Nichts wurde umbenannt.</translation>
     </message>

@@ -213,6 +213,9 @@
     <message id="cli_error_picWithoutCorrection">
         <translation>--pic %1 needs a --shift, a --source-zone or a --target-zone behind it.</translation>
     </message>
+    <message id="cli_error_renameOfFile">
+        <translation>%1 is a file: renamed alone, it would be parted from what belongs to it. Name its folder (and the file behind --pics).</translation>
+    </message>
     <message id="cli_error_renameOverUnsaved">
         <translation>The dates of these folders differ from those in the files, and names are made of what the files hold. Save and rename in one pass: %1. Nothing was renamed.</translation>
     </message>

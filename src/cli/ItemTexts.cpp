@@ -2,9 +2,7 @@
 #include "ItemTexts.h"
 
 #include "DateAlertTexts.h"
-#include "SourceSlot.h"
 #include "Texts.h"
-#include "ZoneLookup.h"
 
 #include <array>
 #include <cstdio>
@@ -36,13 +34,6 @@ std::string wordsOf(const DateAlert &alert, const MySinglePic &pic) {
 }
 
 } // namespace
-
-absl::TimeZone displayZone(const MySinglePic &pic, const MySingleFolder &folder,
-                           const Zones &zones) {
-    const auto slot = sourceSlot(pic.spType);
-    return slot ? targetZoneForSlot(pic, *slot, folder, zones).rules
-                : targetTimeZoneForPic(pic, folder, zones).rules;
-}
 
 bool isUnsaved(const MySinglePic &pic) {
     return !pic.importState.isLeftAlone && pic.isUnsavedOrGroupHarmonized();

@@ -13,10 +13,6 @@
 
 namespace chronomender {
 
-/// The zone in which an item's date is shown: the target zone of the slot that the date comes from.
-absl::TimeZone displayZone(const MySinglePic &pic, const MySingleFolder &folder,
-                           const Zones &zones);
-
 /// A save would write this item.
 bool isUnsaved(const MySinglePic &pic);
 

@@ -2,6 +2,7 @@
 #include "Commands.h"
 
 #include "DateTexts.h"
+#include "DisplayZone.h"
 #include "ItemTexts.h"
 #include "JsonLine.h"
 #include "MendSession.h"

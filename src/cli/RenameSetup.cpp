@@ -10,6 +10,9 @@
 #include "Texts.h"
 #include "Utf8Text.h"
 
+#include <algorithm>
+#include <filesystem>
+
 namespace chronomender {
 namespace {
 
@@ -18,9 +21,22 @@ AddOnTexts addOnTexts(const UserDefaults &defaults) {
             defaults.stringForKey("additionalText3")};
 }
 
+/// What belongs to a file is looked for in its folder: alone, it would be parted from that.
+std::optional<Complaint> refuseFiles(const CommandLine &line) {
+    const auto file = std::ranges::find_if_not(line.blocks, [](const FolderBlock &block) {
+        std::error_code failure;
+        return std::filesystem::is_directory(block.path, failure);
+    });
+    if (file == line.blocks.end())
+        return std::nullopt;
+    return Complaint{2, text("cli_error_renameOfFile", {printable(file->path)})};
+}
+
 } // namespace
 
 std::optional<Complaint> settleRename(MendSession &session) {
+    if (auto complaint = refuseFiles(session.line()))
+        return complaint;
     UserDefaults &defaults = session.controller().defaults();
     const auto &typed = session.line().rename.renameTemplate;
     const auto renameTemplate = typed ? typed : selectedTemplate(defaults);

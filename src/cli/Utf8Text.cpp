@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Utf8Text.h"
 
+#include "DirectionSigns.h"
+
 #include <algorithm>
 #include <cstdint>
 
@@ -71,7 +73,7 @@ std::string printable(std::string_view text) {
     while (!text.empty()) {
         const std::size_t length = utf8SequenceLength(text);
         const std::string_view piece = text.substr(0, std::max<std::size_t>(length, 1));
-        if (length == 0 || isControl(piece))
+        if (length == 0 || isControl(piece) || isDirectionSign(piece))
             appendEscaped(out, piece);
         else
             out += piece;

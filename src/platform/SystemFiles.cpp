@@ -76,7 +76,18 @@ bool renameByLink(const char *from, const char *to) {
 }
 
 bool syncFolder(int directory) {
-    return retryInterrupted([&] { return fsync(directory); }) == 0;
+    return retryInterrupted([&] { return fsync(directory); }) == 0 || errno == EINVAL;
+}
+
+bool syncFolder(const std::string &path) {
+    const int directory = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (directory < 0)
+        return false;
+    const bool isSynced = syncFolder(directory);
+    const int reason = errno;
+    close(directory);
+    errno = reason;
+    return isSynced;
 }
 
 void copyExtendedAttributes(int from, int to) {

@@ -18,9 +18,10 @@ std::optional<FileAttributes> attributesOf(int directory, const char *name);
 /// nothing is renamed and the error is EOPNOTSUPP.
 bool renameByLink(const char *from, const char *to);
 
-/// Waits until the names in an open directory have reached the disk. False on an error, with errno
-/// EINVAL where the file system has no such thing.
+/// Waits until the names in a folder have reached the disk, where its file system knows such a
+/// thing for folders. False on an error, with errno.
 bool syncFolder(int directory);
+bool syncFolder(const std::string &path);
 
 /// Gives an open file the extended attributes of another: what other programs keep of a file beside
 /// it, such as ratings, and its access list. What the file system refuses is left out.

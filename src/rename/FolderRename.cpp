@@ -88,12 +88,12 @@ bool FolderRename::recordAgain(ItemMoves &item, FileError &error) {
 }
 
 /// Names that are not on the disk yet may be lost with the system: until they are, all stay
-/// recorded. Some file systems cannot be asked for it.
+/// recorded.
 bool FolderRename::sync() const {
     if (m_services.journal.durability() != RunJournal::Durability::Synced)
         return true;
     const auto reference = m_folder.folder->reference();
-    return reference && (systemFiles::syncFolder(reference->descriptor()) || errno == EINVAL);
+    return reference && systemFiles::syncFolder(reference->descriptor());
 }
 
 void FolderRename::settle() {

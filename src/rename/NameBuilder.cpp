@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "NameBuilder.h"
 
+#include "DisplayZone.h"
 #include "NameParts.h"
 #include "NameValues.h"
-#include "ZoneLookup.h"
 
 namespace chronomender {
 namespace {
@@ -32,7 +32,7 @@ std::optional<NameFacts> nameFactsOf(const MySinglePic &pic, bool useNameAtImpor
     if (!folder)
         return std::nullopt;
     NameFacts facts{pic.spDateTimeModified_sort(),
-                    targetTimeZoneForPic(pic, *folder, zones).rules,
+                    displayZone(pic, *folder, zones),
                     folderNames.nameOf(*folder),
                     useNameAtImport ? pic.spNameAtImport : pic.spTargetName(),
                     pic.spName,

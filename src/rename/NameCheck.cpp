@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "NameCheck.h"
 
+#include "DirectionSigns.h"
 #include "FolderAccess.h"
 
 #include <algorithm>
@@ -8,12 +9,6 @@
 
 namespace chronomender {
 namespace {
-
-/// ARABIC LETTER MARK, the two marks, the embeddings and overrides, and the isolates: they make a
-/// name look like another one.
-constexpr std::array<std::string_view, 12> directionSigns{"\u061C", "\u200E", "\u200F", "\u202A",
-                                                          "\u202B", "\u202C", "\u202D", "\u202E",
-                                                          "\u2066", "\u2067", "\u2068", "\u2069"};
 
 /// Device names of Windows; the ones with a star are followed by a digit from 1 to 9.
 constexpr std::array<std::string_view, 6> reservedNames{"con", "prn", "aux", "nul", "com*", "lpt*"};

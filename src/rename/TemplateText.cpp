@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "TemplateText.h"
 
+#include "DirectionSigns.h"
 #include "FolderAccess.h"
 #include "Texts.h"
 
@@ -170,13 +171,9 @@ bool isRefusedInTemplates(std::string_view character) {
         const auto byte = static_cast<unsigned char>(character[0]);
         return byte < 0x20 || byte == 0x7F || byte == ':' || byte == '/' || byte == '\\';
     }
-    // C1 controls, and those that turn the direction of writing: U+061C, U+200E, U+200F, U+202A to
-    // U+202E, U+2066 to U+2069.
-    if (character.size() == 2)
-        return (character[0] == '\xC2' && character[1] < '\xA0') || character == "\u061C";
-    return character == "\u200E" || character == "\u200F" ||
-           (character >= "\u202A" && character <= "\u202E") ||
-           (character >= "\u2066" && character <= "\u2069");
+    const bool isLateControl =
+        character.size() == 2 && character[0] == '\xC2' && character[1] < '\xA0';
+    return isLateControl || isDirectionSign(character);
 }
 
 std::variant<RenameTemplate, TemplateTextError> templateFromText(std::string_view text) {

@@ -16,6 +16,7 @@
 namespace chronomender {
 
 using systemFiles::retryInterrupted;
+using systemFiles::syncFolder;
 
 namespace {
 
@@ -29,18 +30,6 @@ std::string folderOf(const std::string &supportFolder) {
 void report(FileError *error, int code) {
     if (error != nullptr)
         error->code = code;
-}
-
-/// A new name outlives a loss of power only when its folder is on disk too.
-bool syncFolder(const std::string &folder) {
-    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        return false;
-    // EINVAL: the file system knows no such thing for folders.
-    const bool isSynced =
-        retryInterrupted([&] { return fsync(descriptor); }) == 0 || errno == EINVAL;
-    ::close(descriptor);
-    return isSynced;
 }
 
 /// Makes the folders that are missing and, where they must last, syncs those that hold a new one.
@@ -117,6 +106,7 @@ std::optional<JournalFile> JournalFile::create(const std::string &supportFolder,
         if (descriptor < 0)
             break;
         JournalFile file(path, descriptor, durability);
+        // A new name outlives a loss of power only when its folder is on disk too.
         if (file.lock() && (!isSynced || syncFolder(folder)))
             return file;
         const int reason = errno;

@@ -2,8 +2,8 @@
 #include "MoveRecovery.h"
 
 #include "MovedFiles.h"
+#include "SystemFiles.h"
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -51,17 +51,6 @@ struct Job {
     int way = wantedWay;
     std::optional<RecoveredFile> failure = {}; ///< its result and words; the item stays recorded
 };
-
-/// Waits until names have reached the disk.
-FileError syncFolder(const std::string &path) {
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        return {errno};
-    // EINVAL: the file system knows no such thing for folders.
-    const FileError error{fsync(descriptor) == 0 || errno == EINVAL ? 0 : errno};
-    ::close(descriptor);
-    return error;
-}
 
 class MoveRecovery {
 public:
@@ -323,10 +312,12 @@ private:
 
     void syncFolders() {
         for (const std::string &path : m_changedFolders)
-            if (const FileError error = syncFolder(path); error.code != 0)
+            if (!systemFiles::syncFolder(path)) {
+                const FileError error{errno};
                 for (Job &job : m_jobs)
                     if (job.item.files.front().intent.folder == path && !job.failure)
                         fail(job, Result::WriteFailed, error);
+            }
     }
 
     // ---- telling

@@ -83,6 +83,7 @@ TEST_F(Rename, MistakesAreNamedAndNothingIsRenamed) {
         {"save --rename --template-text picture", "all files one name"},
     };
     const Files before = files();
+    EXPECT_THAT(mend({"rename", path("a/live.jpg")}).errors, HasSubstr("is a file"));
     for (const auto &[line, message] : mistakes) {
         const RunResult result = run(line, "");
         EXPECT_EQ(result.exitCode, 2) << line;
