@@ -67,13 +67,16 @@ FreeNames::CaseRule caseRuleOf(const std::string &folderPath,
     std::unordered_set<std::string> names;
     for (const FolderEntry &entry : entries)
         names.insert(entry.name);
+    const auto attributesOf = [&, prefix = folderPath + '/'](const std::string &name) {
+        return files.attributes(std::string(prefix).append(name));
+    };
     for (const FolderEntry &entry : entries) {
         const std::string other = inOtherCase(entry.name);
         // Where both are listed they are two names, be they of one file.
         if (names.contains(other))
             continue;
-        const auto there = files.attributes(folderPath + '/' + other);
-        const auto self = there ? files.attributes(folderPath + '/' + entry.name) : std::nullopt;
+        const auto there = attributesOf(other);
+        const auto self = there ? attributesOf(entry.name) : std::nullopt;
         return self && self->isSameFile(*there) ? FreeNames::CaseRule::Insensitive
                                                 : FreeNames::CaseRule::Sensitive;
     }

@@ -192,7 +192,7 @@ std::string textOf(const RenameTemplate &renameTemplate) {
             continue;
         addOns += part.element == AddOn;
         if (part.element)
-            written = '{' + written + '}';
+            written.insert(0, 1, '{').append(1, '}');
         else if (isBehindText)
             written.insert(0, "{}");
         text += written;
