@@ -53,15 +53,30 @@ public:
 
     StartedProgram(const std::string &program, const Arguments &arguments,
                    const std::string &workFolder, User user = User::Same)
-        : m_user(user), m_output(workFolder + "/output"), m_errors(workFolder + "/errors") {
+        : m_output(workFolder + "/output"), m_errors(workFolder + "/errors") {
+        m_process = ::fork();
+        if (m_process == 0)
+            become(program, arguments, workFolder, user);
+    }
+    /// The present process becomes the program.
+    [[noreturn]] static void become(const std::string &program, const Arguments &arguments,
+                                    const std::string &workFolder, User user = User::Same) {
         Arguments all = joined({program}, arguments);
         std::vector<char *> pointers;
         for (std::string &argument : all)
             pointers.push_back(argument.data());
         pointers.push_back(nullptr);
-        m_process = ::fork();
-        if (m_process == 0)
-            become(pointers, workFolder);
+        constexpr int flags = O_WRONLY | O_CREAT | O_TRUNC;
+        ::dup2(::open((workFolder + "/output").c_str(), flags, 0600), STDOUT_FILENO);
+        ::dup2(::open((workFolder + "/errors").c_str(), flags, 0600), STDERR_FILENO);
+        ::setenv("CHRONOMENDER_HOME", (workFolder + "/home").c_str(), 1);
+        ::setenv("TZ", "UTC", 1);
+        ::setenv("LC_ALL", "C.UTF-8", 1);
+        constexpr uid_t nobody = 65534;
+        if (user == User::Nobody && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
+            ::_exit(127);
+        ::execvp(pointers[0], pointers.data());
+        ::_exit(127);
     }
 
     void signal(int number) const { ::kill(m_process, number); }
@@ -74,22 +89,6 @@ public:
     }
 
 private:
-    [[noreturn]] void become(const std::vector<char *> &arguments,
-                             const std::string &workFolder) const {
-        constexpr int flags = O_WRONLY | O_CREAT | O_TRUNC;
-        ::dup2(::open(m_output.c_str(), flags, 0600), STDOUT_FILENO);
-        ::dup2(::open(m_errors.c_str(), flags, 0600), STDERR_FILENO);
-        ::setenv("CHRONOMENDER_HOME", (workFolder + "/home").c_str(), 1);
-        ::setenv("TZ", "UTC", 1);
-        ::setenv("LC_ALL", "C.UTF-8", 1);
-        constexpr uid_t nobody = 65534;
-        if (m_user == User::Nobody && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
-            ::_exit(127);
-        ::execvp(arguments[0], arguments.data());
-        ::_exit(127);
-    }
-
-    User m_user;
     std::string m_output, m_errors;
     pid_t m_process = -1;
 };

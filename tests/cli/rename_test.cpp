@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "KilledChild.h"
 #include "LittleLivePhoto.h"
 #include "MendRun.h"
 
@@ -207,6 +208,44 @@ TEST_F(Rename, TemplatesAreListedWithTheirTexts) {
     EXPECT_EQ(lines[2].at("text"), "IMG{}_{counter:4}");
     EXPECT_EQ(lines[2].at("sample"), "IMG_0001.JPG");
     EXPECT_EQ(lines[2].at("selected"), true);
+}
+
+/// At every move the program dies, before it and behind it.
+TEST_F(Rename, KilledRunIsFinishedOrTakenBackByResume) {
+    // Each name but the last is one that another file has to leave.
+    const std::string line = "--template-text {counter:1} --counter folder --counter-start 2";
+    const Files before = files();
+    const Files after = renamed(before, namesOf(run("rename --dry-run", line), "planned"));
+    little::KilledChild child(
+        [&] {
+            StartedProgram::become(
+                MEND_PATH,
+                joined(words("rename --system-zone UTC " + line), {path("a"), path("b")}),
+                workFolder());
+        },
+        SYS_renameat2);
+    if (child.run(0) != little::KilledChild::End::Finished)
+        GTEST_SKIP() << "this system permits no tracing";
+    ASSERT_EQ(files(), after);
+    const auto restore = [&] {
+        for (const auto &[name, bytes] : files())
+            std::filesystem::remove(path(name));
+        for (const auto &[name, bytes] : before)
+            disk().write(name, bytes);
+    };
+    const std::pair<Arguments, Files> ways[]{{{"resume"}, after},
+                                             {{"resume", "--take-back"}, before}};
+    for (const auto &[arguments, wanted] : ways) {
+        restore();
+        int kills = 0;
+        for (; child.run(kills + 1) == little::KilledChild::End::Killed; ++kills) {
+            SCOPED_TRACE(arguments.back() + ' ' + std::to_string(kills));
+            EXPECT_EQ(mend(arguments).exitCode, 0);
+            ASSERT_EQ(files(), wanted);
+            restore();
+        }
+        EXPECT_EQ(kills, 20) << "five files, two moves each";
+    }
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <csignal>
 #include <cstdio>
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace chronomender::little {
@@ -21,7 +22,10 @@ class KilledChild {
 public:
     enum class End { Killed, Finished, Crashed, NotPermitted };
 
-    explicit KilledChild(std::function<void()> work) : m_work(std::move(work)) {}
+    static constexpr long anyCall = -1;
+    /// With `onlyCall`, entries and exits of that system call alone are counted.
+    explicit KilledChild(std::function<void()> work, long onlyCall = anyCall)
+        : m_work(std::move(work)), m_onlyCall(onlyCall) {}
 
     /// `n` from 1; 0 lets it finish. Returns when nothing of the child is left.
     End run(int n) {
@@ -34,7 +38,8 @@ public:
         if (::waitpid(m_pid, &status, 0) != m_pid || !WIFSTOPPED(status))
             return End::NotPermitted;
         ptrace(PTRACE_SETOPTIONS, m_pid, nullptr,
-               PTRACE_O_TRACESYSGOOD | PTRACE_O_TRACECLONE | PTRACE_O_EXITKILL);
+               PTRACE_O_TRACESYSGOOD | PTRACE_O_TRACECLONE | PTRACE_O_TRACEEXEC |
+                   PTRACE_O_EXITKILL);
         goOn(m_pid, 0);
         const End end = follow(n);
         while (::waitpid(-1, nullptr, __WALL) > 0)
@@ -57,6 +62,7 @@ private:
 
     End follow(int n) {
         m_stops = 0;
+        m_calls.clear();
         bool hasBegun = false, isKilled = false;
         for (;;) {
             int status = 0;
@@ -72,7 +78,12 @@ private:
             }
             const bool isSystemCall = WSTOPSIG(status) == (SIGTRAP | 0x80);
             const long entered = isSystemCall ? systemCall(thread) : -1;
-            if (hasBegun && isSystemCall && entered != SYS_exit_group && ++m_stops == n) {
+            long &call = m_calls[thread];
+            if (entered != anyCall)
+                call = entered;
+            const bool isCounted = hasBegun && isSystemCall && call != SYS_exit_group &&
+                                   (m_onlyCall == anyCall || call == m_onlyCall);
+            if (isCounted && ++m_stops == n) {
                 isKilled = true;
                 ::kill(m_pid, SIGKILL);
                 continue;
@@ -90,6 +101,8 @@ private:
     }
 
     std::function<void()> m_work;
+    long m_onlyCall;
+    std::map<pid_t, long> m_calls; ///< what each thread has entered last
     pid_t m_pid = -1;
     int m_stops = 0;
 };
