@@ -3,6 +3,7 @@
 
 #include "DateTexts.h"
 #include "DisplayZone.h"
+#include "ItemJson.h"
 #include "ItemTexts.h"
 #include "JsonLine.h"
 #include "MendSession.h"

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "AppController.h"
+#include "ItemJson.h"
 #include "ItemTexts.h"
 #include "SlotTexts.h"
 

@@ -2,6 +2,7 @@
 #include "SaveRun.h"
 
 #include "Commands.h"
+#include "ItemJson.h"
 #include "Output.h"
 #include "RenameReport.h"
 #include "SaveStages.h"

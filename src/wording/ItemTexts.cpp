@@ -27,12 +27,6 @@ constexpr std::array<Note, 6> notes{{
     {[](const MySinglePic &pic) { return pic.importState.isExtraHardLink; }, "cli_note_hardLinks"},
 }};
 
-std::string wordsOf(const DateAlert &alert, const MySinglePic &pic) {
-    const MySinglePicPtr &dependent = pic.group.bundleDependentImage;
-    return alert.isOfDependent && dependent ? dependent->spName + ": " + alertText(alert)
-                                            : alertText(alert);
-}
-
 } // namespace
 
 bool isUnsaved(const MySinglePic &pic) {
@@ -47,23 +41,17 @@ std::string noteText(const MySinglePic &pic) {
     return joined;
 }
 
+std::string wordsOf(const DateAlert &alert, const MySinglePic &pic) {
+    const MySinglePicPtr &dependent = pic.group.bundleDependentImage;
+    return alert.isOfDependent && dependent ? dependent->spName + ": " + alertText(alert)
+                                            : alertText(alert);
+}
+
 std::string alertsText(const std::vector<DateAlert> &alerts, const MySinglePic &pic) {
     std::string joined;
     for (const DateAlert &alert : alerts)
         joined += (joined.empty() ? "" : "; ") + wordsOf(alert, pic);
     return joined;
-}
-
-void appendAlerts(JsonLine &line, const std::vector<DateAlert> &alerts, const MySinglePic &pic) {
-    if (alerts.empty())
-        return;
-    line.beginArray("alerts");
-    for (const DateAlert &alert : alerts)
-        line.beginElement()
-            .field("name", alertName(alert.kind))
-            .field("text", wordsOf(alert, pic))
-            .end();
-    line.end();
 }
 
 std::string sourceText(const MySinglePic &pic) {
@@ -99,28 +87,6 @@ std::string nameWithCompanions(const MySinglePic &pic) {
     for (const std::string &name : sidecarNames(pic))
         companions += (companions.empty() ? "" : ", ") + name.substr(stem);
     return companions.empty() ? pic.spName : pic.spName + " + " + companions;
-}
-
-void appendCompanions(JsonLine &line, const MySinglePic &pic) {
-    if (const MySinglePicPtr &dependent = pic.group.bundleDependentImage)
-        line.field("dependent", dependent->spName);
-    const std::vector<std::string> sidecars = sidecarNames(pic);
-    if (sidecars.empty())
-        return;
-    line.beginArray("sidecars");
-    for (const std::string &name : sidecars)
-        line.element(name);
-    line.end();
-}
-
-FolderPaths::FolderPaths(const std::vector<MySingleFolderPtr> &folders) {
-    for (const MySingleFolderPtr &folder : folders)
-        m_paths.emplace(folder.get(), folder->sfFolderPath());
-}
-
-std::string FolderPaths::path(const MySingleFolder &folder, const MySinglePic &pic) const {
-    const std::string &folderPath = path(folder);
-    return folderPath + (folderPath.ends_with('/') ? "" : "/") + pic.spName;
 }
 
 } // namespace chronomender

@@ -2,13 +2,10 @@
 #pragma once
 
 #include "DateAlerts.h"
-#include "JsonLine.h"
 #include "MySingleFolder.h"
-#include "Zones.h"
 
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace chronomender {
@@ -20,12 +17,11 @@ bool isUnsaved(const MySinglePic &pic);
 /// file…
 std::string noteText(const MySinglePic &pic);
 
-/// Alerts of an item in words, separated by semicolons; "" for most items. What is about the other
-/// half of a group begins with that file's name.
+/// An alert of an item in words; what is about the other half of a group begins with that file's
+/// name.
+std::string wordsOf(const DateAlert &alert, const MySinglePic &pic);
+/// Alerts of an item in words, separated by semicolons; "" for most items.
 std::string alertsText(const std::vector<DateAlert> &alerts, const MySinglePic &pic);
-
-/// The same as "alerts"; nothing for an item without.
-void appendAlerts(JsonLine &line, const std::vector<DateAlert> &alerts, const MySinglePic &pic);
 
 /// Where an item's date comes from, in words.
 std::string sourceText(const MySinglePic &pic);
@@ -38,19 +34,5 @@ std::vector<std::string> sidecarNames(const MySinglePic &pic);
 
 /// "IMG_1.CR3 + JPG, xmp": the name with the extensions of its other half and its sidecars.
 std::string nameWithCompanions(const MySinglePic &pic);
-
-/// "dependent" with the name of the other half, and "sidecars"; each only where there is one.
-void appendCompanions(JsonLine &line, const MySinglePic &pic);
-
-/// The paths of a session's folders, asked for once.
-class FolderPaths {
-public:
-    explicit FolderPaths(const std::vector<MySingleFolderPtr> &folders);
-    const std::string &path(const MySingleFolder &folder) const { return m_paths.at(&folder); }
-    std::string path(const MySingleFolder &folder, const MySinglePic &pic) const;
-
-private:
-    std::unordered_map<const MySingleFolder *, std::string> m_paths;
-};
 
 } // namespace chronomender
