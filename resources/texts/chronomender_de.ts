@@ -1423,5 +1423,17 @@ Beispiele:
     <message id="templateStatusText2">
         <translation>Mehrere Dateien können denselben Namen bekommen; dann kommt eine Nummer hinzu. Ein Zähler oder der Dateiname verhindert das.</translation>
     </message>
+    <message id="dropRefusal_gpsTrack">
+        <translation>ist ein GPS-Track; Tracks können noch nicht verknüpft werden</translation>
+    </message>
+    <message id="dropRefusal_noAccess">
+        <translation>kann nicht gelesen werden: kein Zugriff</translation>
+    </message>
+    <message id="dropRefusal_notAMedium">
+        <translation>ist weder Foto noch Film</translation>
+    </message>
+    <message id="dropRefusal_notFound">
+        <translation>ist nicht mehr da</translation>
+    </message>
 </context>
 </TS>

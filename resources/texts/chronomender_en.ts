@@ -1423,5 +1423,17 @@ Examples:
     <message id="templateStatusText2">
         <translation>Several files may get one name; then a number is added. A counter or the file’s own name prevents that.</translation>
     </message>
+    <message id="dropRefusal_gpsTrack">
+        <translation>is a GPS track; tracks cannot be linked yet</translation>
+    </message>
+    <message id="dropRefusal_noAccess">
+        <translation>cannot be read: you have no access to it</translation>
+    </message>
+    <message id="dropRefusal_notAMedium">
+        <translation>is neither a photo nor a movie</translation>
+    </message>
+    <message id="dropRefusal_notFound">
+        <translation>is not there any more</translation>
+    </message>
 </context>
 </TS>

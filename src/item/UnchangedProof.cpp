@@ -81,6 +81,14 @@ FileUnchangedState stateOfFile(const MySinglePic &pic, const std::string &path, 
 
 } // namespace
 
+MySinglePicPtr provedCopy(const MySinglePic &pic, const MySingleFolder &folder,
+                          const std::string &folderPath, FileLayer &files) {
+    auto copy = std::make_shared<MySinglePic>(pic);
+    copy->save.fileUnchangedState =
+        updatedUnchangedFileState(*copy, folder, folderPath + '/' + copy->spName, files);
+    return copy;
+}
+
 bool areSidecarsPresent(const MySinglePic &pic, FileLayer &files) {
     if (pic.spSidecarExtensions.empty())
         return true;

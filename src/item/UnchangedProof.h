@@ -34,6 +34,9 @@ FileUnchangedState updatedUnchangedFileState(MySinglePic &pic, const MySingleFol
 /// The same for a caller that knows the item's path already.
 FileUnchangedState updatedUnchangedFileState(MySinglePic &pic, const MySingleFolder &folder,
                                              const std::string &path, FileLayer &files);
+/// A copy of the item with its proof: for workers, which leave the item itself alone.
+MySinglePicPtr provedCopy(const MySinglePic &pic, const MySingleFolder &folder,
+                          const std::string &folderPath, FileLayer &files);
 
 /// Every companion file of the item is there.
 bool areSidecarsPresent(const MySinglePic &pic, FileLayer &files);

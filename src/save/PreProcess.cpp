@@ -121,9 +121,12 @@ bool FolderPreProcess::run(ProgressCounter &progress, PreProcessResult &result) 
 /// The calculation writes into its item, and into the dependent that it reaches for. So it works on
 /// copies of both: views may be looking at the items.
 void FolderPreProcess::examine(const MySinglePicPtr &pic, Finding &finding) const {
-    const MySinglePicPtr copy = provedCopy(*pic);
+    const auto proved = [&](const MySinglePic &original) {
+        return provedCopy(original, *m_folder, m_path, m_services.files);
+    };
+    const MySinglePicPtr copy = proved(*pic);
     const MySinglePicPtr dependent = pic->group.bundleDependentImage;
-    const MySinglePicPtr copyOfDependent = dependent ? provedCopy(*dependent) : nullptr;
+    const MySinglePicPtr copyOfDependent = dependent ? proved(*dependent) : nullptr;
     if (dependent) {
         copy->group.bundleDependentImage = copyOfDependent;
         copyOfDependent->group.bundleMasterImage = copy;
@@ -145,13 +148,6 @@ void FolderPreProcess::examine(const MySinglePicPtr &pic, Finding &finding) cons
     if (isDriftingApart(*copy, *outcome.plan, *copyOfDependent, *finding.dependent->outcome.plan))
         outcome.problems.push_back({pic, PreSaveProblem::error_04_livePhotoDriftingApart, {}});
     alignResults(outcome, finding.dependent->outcome);
-}
-
-MySinglePicPtr FolderPreProcess::provedCopy(const MySinglePic &pic) const {
-    auto copy = std::make_shared<MySinglePic>(pic);
-    copy->save.fileUnchangedState =
-        updatedUnchangedFileState(*copy, *m_folder, m_path + '/' + copy->spName, m_services.files);
-    return copy;
 }
 
 FolderPreProcess::Side FolderPreProcess::found(const MySinglePicPtr &pic, const MySinglePic &copy,

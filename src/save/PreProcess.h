@@ -61,7 +61,6 @@ private:
     };
 
     void examine(const MySinglePicPtr &pic, Finding &finding) const;
-    MySinglePicPtr provedCopy(const MySinglePic &pic) const;
     Side found(const MySinglePicPtr &pic, const MySinglePic &copy, bool isPartOfSave) const;
     void judge(const MySinglePic &copy, Side &side) const;
     static void store(const Side &side);

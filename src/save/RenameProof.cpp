@@ -26,19 +26,13 @@ struct ItemProof {
 /// Works on copies: views may be looking at the items.
 ItemProof prove(const MySinglePic &pic, const MySingleFolder &folder, const std::string &path,
                 FileLayer &files) {
-    const auto provedCopy = [&](const MySinglePic &original) {
-        auto copy = std::make_shared<MySinglePic>(original);
-        copy->save.fileUnchangedState =
-            updatedUnchangedFileState(*copy, folder, path + '/' + copy->spName, files);
-        return copy;
-    };
     const auto proofOf = [](const MySinglePic &copy) {
         return Proof{copy.save.fileUnchangedState, copy.save.lastCheckedAt};
     };
-    const MySinglePicPtr copy = provedCopy(pic);
+    const MySinglePicPtr copy = provedCopy(pic, folder, path, files);
     ItemProof proved{proofOf(*copy), {}, {}};
     if (const MySinglePicPtr &dependent = pic.group.bundleDependentImage) {
-        copy->group.bundleDependentImage = provedCopy(*dependent);
+        copy->group.bundleDependentImage = provedCopy(*dependent, folder, path, files);
         proved.dependent = proofOf(*copy->group.bundleDependentImage);
     }
     proved.problem = checkFileUnchangedStateForSaveRenameErrors(*copy);

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "AppController.h"
+#include "Jobs.h"
+#include "MyCompoundFolder.h"
+#include "Previews.h"
+#include "RenameSheetItems.h"
+#include "SaveFlow.h"
+#include "SourceViews.h"
+#include "Thumbnails.h"
+#include "WindowQuestions.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <unordered_set>
+#include <vector>
+
+namespace chronomender {
+
+/// What one window shows and does, without a widget: the session's controller, what is selected,
+/// what is being read or written, and one road for every change, so that all views hear of it.
+///
+/// A view reads the session when a signal tells it to, and changes it through `edit` or `select`.
+/// While a save runs nothing can be changed; a folder that is being read stands in the list, but
+/// takes no part before it is there. Main thread.
+class WindowSession : public QObject, private ImportQuestions, private SourceViews {
+    Q_OBJECT
+public:
+    /// `questions` outlives the session.
+    WindowSession(AppServices services, WindowQuestions &questions, ThumbnailSettings thumbs = {},
+                  QObject *parent = nullptr);
+    ~WindowSession() override;
+
+    AppController &controller() { return *m_controller; }
+    const AppController &controller() const { return *m_controller; }
+    const Zones &zones() const { return m_controller->zones(); }
+    UserDefaults &defaults() { return m_controller->defaults(); }
+    MyTimelinesController &timelines() { return m_controller->timelines(); }
+    Thumbnails &thumbnails() { return *m_thumbnails; }
+    Previews &previews() { return *m_previews; }
+    Jobs &jobs() { return m_jobs; }
+    const Jobs &jobs() const { return m_jobs; }
+    SaveFlow &saveFlow() { return *m_saveFlow; }
+    const SaveFlow &saveFlow() const { return *m_saveFlow; }
+    WindowQuestions &questions() { return m_questions; }
+
+    /// Puts right what a killed run left, and watches the system's zone. Once, after the window is
+    /// there.
+    void start();
+
+    // ---- folders and items
+    const std::vector<MySingleFolderPtr> &folders() const;
+    bool isBeingRead(const MySingleFolder &folder) const { return m_reading.contains(&folder); }
+    /// In the order of the list; those that left are gone from it.
+    const std::vector<MySingleFolderPtr> &selectedFolders() const { return m_selectedFolders; }
+    MyCompoundFolder selectedCompound() const { return MyCompoundFolder(m_selectedFolders); }
+    void selectFolders(std::vector<MySingleFolderPtr> folders);
+    /// Of the strip that has the focus; null for none.
+    MySinglePicPtr mainPic() const;
+    /// In display order.
+    std::vector<MySinglePicPtr> selectedPics() const;
+    /// The one road for a change of what is selected on strips, or of the strips themselves. The
+    /// list of folders follows the main item.
+    void select(const std::function<void(MyTimelinesController &)> &change);
+
+    // ---- media
+    /// Folders and files, dropped or chosen: opens and reads what is new in them.
+    void openPaths(const std::vector<std::string> &paths, const KeyStates &keyStates = {});
+    /// The same after asking for the choices of this import.
+    void openPathsWithOptions(const std::vector<std::string> &paths);
+    /// Takes folders out of the session; asks first where changes would be lost. Nothing on disk
+    /// changes.
+    void removeFolders(const std::vector<MySingleFolderPtr> &folders);
+    /// Looks whether the folders can still be reached; for when the window comes to the front.
+    void checkFolders();
+
+    // ---- changes
+    /// The one road for every correction: refused (with a word in the status line) while a save
+    /// runs. Afterwards the list is built anew and all views are told. True when it was carried
+    /// out.
+    bool edit(const std::function<void(AppController &)> &change);
+    /// Something was refused as dates would leave their bounds, or nothing came of it: said in the
+    /// status line.
+    void tellOutcome(DateChangeOutcome outcome);
+    void undo();
+    void redo();
+    /// The shift of the selected folders, in together mode; absent parts stay each folder's own.
+    void shiftSelectedFolders(const CompoundFields &fields);
+    /// The selected folders show their original dates again, in their mode.
+    void resetShift();
+
+    // ---- save and rename
+    bool hasUnsavedChanges() const;
+    /// The selected folders, or all.
+    void save(bool ofAll, bool withoutChanges = false);
+    /// What a rename sheet goes by.
+    RenameSheetViews renameSheetViews() const;
+
+    /// A word for the status line.
+    void tell(const std::string &words) { Q_EMIT statusTold(QString::fromStdString(words)); }
+
+Q_SIGNALS:
+    void foldersChanged();   ///< they came, went, or say something else of themselves
+    void listChanged();      ///< the order or the values of items
+    void selectionChanged(); ///< of items or of folders
+    void stripsChanged();    ///< a second strip came or went
+    void scrolled();         ///< a strip is to be drawn elsewhere: its `scrollX` was set
+    void thumbsChanged();
+    void previewsChanged();
+    void undoChanged();
+    void statusTold(const QString &words);
+
+private:
+    struct ReadRequest;
+
+    // ImportQuestions, on the import thread
+    PerFolderImportOptions emptyTagOptions(const MySingleFolder &folder) override;
+    MovieOptions movieOptions(const MySingleFolder &folder) override;
+    // SourceViews
+    std::optional<FocusPlace> focusPlace(const MySinglePic &pic) const override;
+    MySinglePicPtr picToKeepFocusedDuringFilterAction() const override;
+    void sourceChanged() override;
+    void addDateTimeLayers() override;
+    void focusPic(const MySinglePicPtr &pic, std::optional<FocusPlace> keepingInPlaceAt) override;
+    void selectionIndexChanged() override;
+    void showFilterStatus(std::size_t hidden) override;
+    bool isOneFolderSelected() const override;
+
+    void openJob(const std::string &path, const std::vector<std::string> &names,
+                 const KeyStates &keyStates, std::vector<std::string> &refused);
+    void read(const MySingleFolderPtr &folder, std::vector<std::string> names,
+              const KeyStates &keyStates);
+    void readingEnded(const MySingleFolderPtr &folder, const ImportOutcome &outcome,
+                      bool namesWereGiven);
+    void followMainPic();
+    void tellEverything();
+    void saveEnded(const SaveRunResult *result);
+    void afterUndo();
+    void tellRecovered(const std::vector<RecoveredFile> &files);
+    bool isChangeRefused();
+
+    WindowQuestions &m_questions;
+    Jobs m_jobs;
+    std::unique_ptr<Thumbnails> m_thumbnails;
+    std::unique_ptr<Previews> m_previews;
+    std::vector<MySingleFolderPtr> m_selectedFolders;
+    std::unordered_set<const MySingleFolder *> m_reading;
+    std::size_t m_foldersBeingRead = 0;
+    std::unique_ptr<AppController> m_controller;
+    std::unique_ptr<SaveFlow> m_saveFlow;
+};
+
+} // namespace chronomender
