@@ -1435,5 +1435,14 @@ Beispiele:
     <message id="dropRefusal_notFound">
         <translation>ist nicht mehr da</translation>
     </message>
+    <message id="addMissingTags_undoRedo">
+        <translation>Fehlende Datumsfelder ergänzen</translation>
+    </message>
+    <message id="assignZones_undoRedo">
+        <translation>Zeitzonen setzen</translation>
+    </message>
+    <message id="movieClock_undoRedo">
+        <translation>Filmuhr ändern</translation>
+    </message>
 </context>
 </TS>

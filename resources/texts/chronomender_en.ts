@@ -1435,5 +1435,14 @@ Examples:
     <message id="dropRefusal_notFound">
         <translation>is not there any more</translation>
     </message>
+    <message id="addMissingTags_undoRedo">
+        <translation>Add Missing Date Tags</translation>
+    </message>
+    <message id="assignZones_undoRedo">
+        <translation>Set Time Zones</translation>
+    </message>
+    <message id="movieClock_undoRedo">
+        <translation>Change Movie Clock</translation>
+    </message>
 </context>
 </TS>

@@ -3,7 +3,6 @@
 
 #include "DateModifications.h"
 #include "MainThread.h"
-#include "MovieClock.h"
 
 #include <absl/time/clock.h>
 
@@ -130,29 +129,26 @@ DateChangeOutcome AppController::shiftItems(const std::vector<MySinglePicPtr> &i
     return dragMovesValuesBy(difference, items, m_undo);
 }
 
+ZoneUndo AppController::zoneUndo() {
+    return {m_undo, *m_services.zones, dateComparisonThresold()};
+}
+
 std::size_t AppController::setMovieClock(MySingleFolder &folder, bool isLocal) {
-    const std::size_t changed = setQuicktimeMVHDTimezoneCorrection(
-        folder, isLocal, *m_services.zones, dateComparisonThresold());
-    if (changed > 0)
-        sfUpdatePicsFromAndTill(folder);
-    return changed;
+    return changeMovieClock(folder, isLocal, zoneUndo());
 }
 
 std::size_t AppController::setZones(MySingleFolder &folder, const ZoneWish &wish) {
-    const std::size_t changed =
-        assignZones(folder, wish, *m_services.zones, dateComparisonThresold());
-    if (changed > 0)
-        sfUpdatePicsFromAndTill(folder);
-    return changed;
+    return setZones(std::vector{folder.shared_from_this()}, wish);
+}
+
+std::size_t AppController::setZones(const std::vector<MySingleFolderPtr> &folders,
+                                    const ZoneWish &wish) {
+    return assignZones(folders, wish, zoneUndo());
 }
 
 std::size_t AppController::setZones(const std::vector<MySinglePicPtr> &items,
                                     const ZoneWish &wish) {
-    const std::size_t changed =
-        assignZones(items, wish, *m_services.zones, dateComparisonThresold());
-    if (changed > 0)
-        updateFolderRanges(items);
-    return changed;
+    return assignZones(items, wish, zoneUndo());
 }
 
 std::size_t AppController::useAlternative(const std::vector<MySinglePicPtr> &items,
@@ -160,11 +156,12 @@ std::size_t AppController::useAlternative(const std::vector<MySinglePicPtr> &ite
     return useAmbiguityAlternative(items, target, isAlternative, *m_services.zones, m_undo);
 }
 
-void AppController::addMissingDateTags(const std::vector<MySinglePicPtr> &items) {
+void AppController::addMissingDateTags(const std::vector<MySinglePicPtr> &items, bool shouldAdd) {
+    const UndoGroup group(m_undo);
     for (const MySinglePicPtr &pic : items)
         for (const MySinglePicPtr &half : {pic, pic->group.bundleDependentImage})
             if (half)
-                setShouldAddExifDateTimeTags(*half, true);
+                changeMissingDateTags(*half, shouldAdd, m_undo);
 }
 
 AlignOutcome AppController::align(AlignCommand command, const AlignSelection &selection) {

@@ -119,18 +119,20 @@ public:
                                  absl::Duration difference);
 
     /// Says whether header times of the folder's movies are the camera's own clock or UTC, and
-    /// reads them again. The number of items that show another date now.
+    /// reads them again, undoably. The number of items that show another date now.
     std::size_t setMovieClock(MySingleFolder &folder, bool isLocal);
 
-    /// Assigns zones to a folder, or to single items of it; see assignZones. The number of items
-    /// that show another date now.
+    /// Assigns zones to folders, or to single items of them, undoably; see assignZones. The number
+    /// of items that show another date now.
     std::size_t setZones(MySingleFolder &folder, const ZoneWish &wish);
+    std::size_t setZones(const std::vector<MySingleFolderPtr> &folders, const ZoneWish &wish);
     std::size_t setZones(const std::vector<MySinglePicPtr> &items, const ZoneWish &wish);
     /// Picks the reading of stamps that mean two instants; see useAmbiguityAlternative.
     std::size_t useAlternative(const std::vector<MySinglePicPtr> &items, AlternativeTarget target,
                                bool isAlternative);
-    /// Asks for the missing date tags of items, and of their other halves, where they can be added.
-    void addMissingDateTags(const std::vector<MySinglePicPtr> &items);
+    /// Asks for the missing date tags of items, and of their other halves, where they can be added,
+    /// or takes that back; undoably.
+    void addMissingDateTags(const std::vector<MySinglePicPtr> &items, bool shouldAdd = true);
     /// Puts a selection in order; see realignSelection.
     AlignOutcome align(AlignCommand command, const AlignSelection &selection);
 
@@ -166,6 +168,7 @@ public:
 
 private:
     int dateComparisonThresold() const;
+    ZoneUndo zoneUndo();
     std::unique_ptr<RenameRun> makeRenameRun();
     void logErrors(const SaveRunResult &result) const;
 

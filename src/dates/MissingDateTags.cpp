@@ -93,6 +93,20 @@ bool setShouldAddExifDateTimeTags(MySinglePic &pic, bool shouldAdd) {
     return true;
 }
 
+bool changeMissingDateTags(MySinglePic &pic, bool shouldAdd, UndoManager &undo) {
+    const bool isSame = shouldAdd == pic.save.shouldAddExifDateTimeTags;
+    if (!setShouldAddExifDateTimeTags(pic, shouldAdd))
+        return false;
+    if (isSame)
+        return true;
+    undo.registerUndo(pic.shared_from_this(), [shouldAdd, &undo](MySinglePic &itself) {
+        changeMissingDateTags(itself, !shouldAdd, undo);
+        undo.recordAffected(itself.shared_from_this());
+    });
+    undo.setActionName("addMissingTags_undoRedo");
+    return true;
+}
+
 bool prepareExifDateTimeAddition(MySinglePic &pic) {
     if (!pic.save.shouldAddExifDateTimeTags)
         return false;

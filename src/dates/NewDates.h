@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MySingleFolder.h"
+#include "UndoManager.h"
 #include "UserDefaults.h"
 
 #include <optional>
@@ -78,6 +79,8 @@ bool areExifDateTimeTagsAddable(const MySinglePic &pic);
 /// Asks for the missing tags to be added, or takes that back, with the marks that it left. False
 /// when nothing can be added; nothing changes then.
 bool setShouldAddExifDateTimeTags(MySinglePic &pic, bool shouldAdd);
+/// The same as an undoable step.
+bool changeMissingDateTags(MySinglePic &pic, bool shouldAdd, UndoManager &undo);
 
 /// For an item with `shouldAddExifDateTimeTags`: decides once which tags are to be added
 /// (`tagAddType`) and lends their OLD slots a date for the length of one calculation. False when

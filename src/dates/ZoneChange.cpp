@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ZoneChange.h"
 
+#include "DateModifications.h"
+#include "MovieClock.h"
 #include "ZoneLookup.h"
 
 #include <algorithm>
@@ -96,6 +98,100 @@ std::size_t assignZones(const std::vector<MySinglePicPtr> &pics, const ZoneWish 
                                           for (const MySinglePicPtr &pic : wanted)
                                               applyToItem(wish, *pic, inFolder);
                                       });
+    return changed;
+}
+
+namespace {
+
+struct ZoneState {
+    ZoneAssignments source, target;
+};
+bool isSame(const ZoneAssignments &a, const ZoneAssignments &b) {
+    return a.folderDefault == b.folderDefault && a.ofItems == b.ofItems;
+}
+
+ZoneState zoneStateOf(const MySingleFolder &folder) {
+    return {folder.sourceTimeZones, folder.targetTimeZones};
+}
+
+void registerUndo(MySingleFolder &folder, const ZoneState &before, const ZoneUndo &undo);
+
+/// An undo's step, or a redo's: what was assigned before is assigned again, and every stamp that it
+/// concerns is read again.
+void restore(MySingleFolder &folder, const ZoneState &state, const ZoneUndo &undo) {
+    const ZoneState before = zoneStateOf(folder);
+    const auto put = [&] {
+        folder.sourceTimeZones = state.source;
+        folder.targetTimeZones = state.target;
+    };
+    changeAndReadAgain(folder, folder.sfPicDetails_fullArray, undo.zones,
+                       undo.dateComparisonThresold, put);
+    sfUpdatePicsFromAndTill(folder);
+    registerUndo(folder, before, undo);
+    undo.undo.recordAffected(folder.shared_from_this());
+}
+
+void registerUndo(MySingleFolder &folder, const ZoneState &before, const ZoneUndo &undo) {
+    if (isSame(before.source, folder.sourceTimeZones) &&
+        isSame(before.target, folder.targetTimeZones))
+        return;
+    undo.undo.registerUndo(folder.shared_from_this(), [before, undo](MySingleFolder &itself) {
+        restore(itself, before, undo);
+    });
+    undo.undo.setActionName("assignZones_undoRedo");
+}
+
+/// Makes a change of zones in some folders, as one step.
+template<class Change>
+std::size_t changeUndoably(const std::vector<MySingleFolderPtr> &folders, const ZoneUndo &undo,
+                           Change change) {
+    const UndoGroup group(undo.undo);
+    std::vector<ZoneState> before;
+    before.reserve(folders.size());
+    for (const MySingleFolderPtr &folder : folders)
+        before.push_back(zoneStateOf(*folder));
+    const std::size_t changed = change();
+    for (std::size_t i = 0; i < folders.size(); ++i)
+        registerUndo(*folders[i], before[i], undo);
+    return changed;
+}
+
+} // namespace
+
+std::size_t assignZones(const std::vector<MySingleFolderPtr> &folders, const ZoneWish &wish,
+                        const ZoneUndo &undo) {
+    return changeUndoably(folders, undo, [&] {
+        std::size_t changed = 0;
+        for (const MySingleFolderPtr &folder : folders) {
+            changed += assignZones(*folder, wish, undo.zones, undo.dateComparisonThresold);
+            sfUpdatePicsFromAndTill(*folder);
+        }
+        return changed;
+    });
+}
+
+std::size_t assignZones(const std::vector<MySinglePicPtr> &pics, const ZoneWish &wish,
+                        const ZoneUndo &undo) {
+    return changeUndoably(foldersOf(pics), undo, [&] {
+        const std::size_t changed =
+            assignZones(pics, wish, undo.zones, undo.dateComparisonThresold);
+        updateFolderRanges(pics);
+        return changed;
+    });
+}
+
+std::size_t changeMovieClock(MySingleFolder &folder, bool isLocal, const ZoneUndo &undo) {
+    const bool wasLocal = folder.isQuicktimeMVHDTimezoneCorrectionEnabled;
+    const std::size_t changed = setQuicktimeMVHDTimezoneCorrection(folder, isLocal, undo.zones,
+                                                                   undo.dateComparisonThresold);
+    sfUpdatePicsFromAndTill(folder);
+    if (wasLocal == isLocal)
+        return changed;
+    undo.undo.registerUndo(folder.shared_from_this(), [wasLocal, undo](MySingleFolder &itself) {
+        changeMovieClock(itself, wasLocal, undo);
+        undo.undo.recordAffected(itself.shared_from_this());
+    });
+    undo.undo.setActionName("movieClock_undoRedo");
     return changed;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MySingleFolder.h"
+#include "UndoManager.h"
 #include "Zones.h"
 
 #include <cstddef>
@@ -23,5 +24,21 @@ std::size_t assignZones(MySingleFolder &folder, const ZoneWish &wish, const Zone
                         int dateComparisonThresold);
 std::size_t assignZones(const std::vector<MySinglePicPtr> &pics, const ZoneWish &wish,
                         const Zones &zones, int dateComparisonThresold);
+
+/// What an undo step of zones works with; the references outlive the undo manager.
+struct ZoneUndo {
+    UndoManager &undo;
+    const Zones &zones;
+    int dateComparisonThresold = 0;
+};
+/// The same as undoable steps, the items of several folders as one. Nothing is registered where no
+/// assignment changed.
+std::size_t assignZones(const std::vector<MySingleFolderPtr> &folders, const ZoneWish &wish,
+                        const ZoneUndo &undo);
+std::size_t assignZones(const std::vector<MySinglePicPtr> &pics, const ZoneWish &wish,
+                        const ZoneUndo &undo);
+/// Says whether header times of the folder's movies are local, as an undoable step; see
+/// setQuicktimeMVHDTimezoneCorrection.
+std::size_t changeMovieClock(MySingleFolder &folder, bool isLocal, const ZoneUndo &undo);
 
 } // namespace chronomender

@@ -99,6 +99,16 @@ TEST_F(AutumnNight, SourceZonePutsTheOrderRightAndLeavesNothingUnsaved) {
     EXPECT_FALSE(m_party->isUnsavedFolder());
     app().useAlternative({photo("P0002")}, AlternativeTarget::Master, true);
     expectEarlierReading();
+
+    UndoManager &undo = app().undoManager();
+    undo.undo();
+    EXPECT_EQ(undo.undoActionName(), "assignZones_undoRedo");
+    undo.undo();
+    EXPECT_TRUE(m_party->sourceTimeZones.isEmpty() && m_party->targetTimeZones.isEmpty());
+    EXPECT_EQ(alertsOf("P0003"), "");
+    undo.redo();
+    EXPECT_THAT(alertsOf("P0003"), HasSubstr("happens twice"));
+    expectLaterReading();
 }
 
 } // namespace

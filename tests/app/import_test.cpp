@@ -69,6 +69,9 @@ TEST_F(Import, AMovieClockToldLaterReadsTheMoviesAgain) {
     const Date asUtc = folder->sfPicDetails_fullArray.at(0)->spDateTimeOriginal;
     EXPECT_EQ(app().setMovieClock(*folder, true), 1U);
     EXPECT_EQ(folder->sfFrom, asUtc - absl::Hours(9));
+    app().undoManager().undo();
+    EXPECT_FALSE(folder->isQuicktimeMVHDTimezoneCorrectionEnabled);
+    app().undoManager().redo();
     EXPECT_EQ(app().setMovieClock(*folder, false), 1U);
     EXPECT_EQ(folder->sfPicDetails_fullArray.at(0)->spDateTimeOriginal, asUtc);
 }
