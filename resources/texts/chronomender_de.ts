@@ -1444,5 +1444,11 @@ Beispiele:
     <message id="movieClock_undoRedo">
         <translation>Filmuhr ändern</translation>
     </message>
+    <message id="time_earlier">
+        <translation>%1 früher</translation>
+    </message>
+    <message id="time_later">
+        <translation>%1 später</translation>
+    </message>
 </context>
 </TS>

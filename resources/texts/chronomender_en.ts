@@ -1444,5 +1444,11 @@ Examples:
     <message id="movieClock_undoRedo">
         <translation>Change Movie Clock</translation>
     </message>
+    <message id="time_earlier">
+        <translation>%1 earlier</translation>
+    </message>
+    <message id="time_later">
+        <translation>%1 later</translation>
+    </message>
 </context>
 </TS>

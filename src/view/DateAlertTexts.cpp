@@ -3,63 +3,18 @@
 
 #include "StampConversions.h"
 #include "Texts.h"
+#include "TimeTexts.h"
 
-#include <algorithm>
 #include <array>
-#include <cstdlib>
 
 namespace chronomender {
 namespace {
-
-struct Unit {
-    std::int64_t seconds;
-    const char *symbol; ///< the international one, the same in every language
-};
-constexpr std::array<Unit, 4> kUnits{{{86400, "d"}, {3600, "h"}, {60, "min"}, {1, "s"}}};
-
-std::string padded(std::int64_t number, std::size_t width) {
-    const std::string digits = std::to_string(number);
-    return std::string(width - std::min(width, digits.size()), '0') + digits;
-}
-
-/// "7 h", "5 h 30 min": the largest unit and the one below it.
-std::string spanText(absl::Duration span) {
-    std::int64_t seconds = absl::ToInt64Seconds(absl::AbsDuration(span));
-    std::string joined;
-    int parts = 0;
-    for (const Unit &unit : kUnits) {
-        const std::int64_t count = seconds / unit.seconds;
-        seconds %= unit.seconds;
-        if (count > 0 && parts < 2)
-            joined += (joined.empty() ? "" : " ") + std::to_string(count) + ' ' + unit.symbol;
-        parts += parts > 0 || count > 0 ? 1 : 0;
-    }
-    return joined.empty() ? "0 s" : joined;
-}
-
-/// "27 Oct 2024"
-std::string dayText(const CivilFields &fields) {
-    return text("alert_day",
-                {std::to_string(fields.day), text("month_short_" + std::to_string(fields.month)),
-                 padded(fields.year, 4)});
-}
-
-std::string clockText(const CivilFields &fields) {
-    return padded(fields.hour, 2) + ':' + padded(fields.minute, 2);
-}
 
 /// The time alone where the day is the one just named.
 std::string clockTextAfter(const CivilFields &named, const CivilFields &fields) {
     const bool isSameDay =
         named.year == fields.year && named.month == fields.month && named.day == fields.day;
     return isSameDay ? clockText(fields) : dayText(fields) + ", " + clockText(fields);
-}
-
-/// "+09:00"; with seconds where an old offset has them.
-std::string offsetText(std::int64_t seconds) {
-    const std::int64_t amount = std::abs(seconds);
-    return (seconds < 0 ? '-' : '+') + padded(amount / 3600, 2) + ':' +
-           padded(amount / 60 % 60, 2) + (amount % 60 == 0 ? "" : ':' + padded(amount % 60, 2));
 }
 
 std::string zoneDisagreesText(const DateAlert &alert) {
