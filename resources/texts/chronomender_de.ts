@@ -1054,6 +1054,9 @@ Beispiele:
     <message id="recovery_inUse">
         <translation>diese oder die zugehörige Datei wird von einem anderen Programm benutzt und ist vielleicht nur zum Teil geschrieben; bitte dieses Programm schließen, beim nächsten Start wird es wieder versucht</translation>
     </message>
+    <message id="recovery_message">
+        <translation>Ein früherer Lauf wurde unterbrochen und ist bereinigt</translation>
+    </message>
     <message id="recovery_nothing">
         <translation>unversehrt; ein unterbrochener Lauf hatte noch nicht begonnen oder war schon fertig, und es musste nichts geschrieben werden</translation>
     </message>
@@ -1426,6 +1429,12 @@ Beispiele:
     <message id="dropRefusal_gpsTrack">
         <translation>ist ein GPS-Track; Tracks können noch nicht verknüpft werden</translation>
     </message>
+    <message id="dropRefusal_libraryOfAnotherProgram">
+        <translation>gehört zur Mediathek eines anderen Programms</translation>
+    </message>
+    <message id="dropRefusal_nameNotUtf8">
+        <translation>hat einen Namen, der kein gültiger Text ist</translation>
+    </message>
     <message id="dropRefusal_noAccess">
         <translation>kann nicht gelesen werden: kein Zugriff</translation>
     </message>
@@ -1449,6 +1458,51 @@ Beispiele:
     </message>
     <message id="time_later">
         <translation>%1 später</translation>
+    </message>
+    <message id="job_reading">
+        <translation>%1 wird gelesen</translation>
+    </message>
+    <message id="job_thumbnails">
+        <translation>Vorschaubilder</translation>
+    </message>
+    <message id="reading_message">
+        <translation>Nicht alles konnte aufgenommen werden</translation>
+    </message>
+    <message id="removeFolders_accept">
+        <translation>Entfernen</translation>
+    </message>
+    <message id="removeFolders_information">
+        <translation>Ihre Korrekturen gehen verloren. Die Dateien bleiben unverändert, wo sie sind.</translation>
+    </message>
+    <message id="removeFolders_message">
+        <translation>Ordner mit ungesicherten Änderungen entfernen?</translation>
+    </message>
+    <message id="status_hiddenByFilter">
+        <translation>%1 Medien sind durch Filter verborgen</translation>
+    </message>
+    <message id="status_nothingToSave">
+        <translation>Nichts zu sichern</translation>
+    </message>
+    <message id="status_nothingWritten">
+        <translation>Es wurde nichts geschrieben</translation>
+    </message>
+    <message id="status_outOfBounds">
+        <translation>Abgelehnt: Daten müssen zwischen den Jahren 1 und 4999 bleiben</translation>
+    </message>
+    <message id="status_read">
+        <translation>%1 Medien aus %2 gelesen</translation>
+    </message>
+    <message id="status_runEnded">
+        <translation>%1 Dateien gesichert, %2 umbenannt</translation>
+    </message>
+    <message id="status_thumbnailsStopped">
+        <translation>Der Speicher ist knapp: Vorschaubilder nur noch für das, was zu sehen ist</translation>
+    </message>
+    <message id="status_waitForReading">
+        <translation>Bitte warten, bis alle Ordner gelesen sind</translation>
+    </message>
+    <message id="status_waitForSave">
+        <translation>Bitte warten, bis das Sichern beendet ist</translation>
     </message>
 </context>
 </TS>

@@ -1054,6 +1054,9 @@ Examples:
     <message id="recovery_inUse">
         <translation>it, or the file that belongs with it, is in use by another program and may be written only in part; close that program, it is tried again at the next start</translation>
     </message>
+    <message id="recovery_message">
+        <translation>An earlier run was interrupted, and has been put right</translation>
+    </message>
     <message id="recovery_nothing">
         <translation>whole; an interrupted run had not begun with it, or was done with it, and nothing had to be written</translation>
     </message>
@@ -1426,6 +1429,12 @@ Examples:
     <message id="dropRefusal_gpsTrack">
         <translation>is a GPS track; tracks cannot be linked yet</translation>
     </message>
+    <message id="dropRefusal_libraryOfAnotherProgram">
+        <translation>belongs to the library of another program</translation>
+    </message>
+    <message id="dropRefusal_nameNotUtf8">
+        <translation>has a name that is no valid text</translation>
+    </message>
     <message id="dropRefusal_noAccess">
         <translation>cannot be read: you have no access to it</translation>
     </message>
@@ -1449,6 +1458,51 @@ Examples:
     </message>
     <message id="time_later">
         <translation>%1 later</translation>
+    </message>
+    <message id="job_reading">
+        <translation>Reading %1</translation>
+    </message>
+    <message id="job_thumbnails">
+        <translation>Thumbnails</translation>
+    </message>
+    <message id="reading_message">
+        <translation>Not everything could be taken in</translation>
+    </message>
+    <message id="removeFolders_accept">
+        <translation>Remove</translation>
+    </message>
+    <message id="removeFolders_information">
+        <translation>Their corrections are lost. The files stay where they are, unchanged.</translation>
+    </message>
+    <message id="removeFolders_message">
+        <translation>Remove folders with unsaved changes?</translation>
+    </message>
+    <message id="status_hiddenByFilter">
+        <translation>%1 items are hidden by filters</translation>
+    </message>
+    <message id="status_nothingToSave">
+        <translation>Nothing waits for a save</translation>
+    </message>
+    <message id="status_nothingWritten">
+        <translation>Nothing was written</translation>
+    </message>
+    <message id="status_outOfBounds">
+        <translation>Refused: dates must stay between the years 1 and 4999</translation>
+    </message>
+    <message id="status_read">
+        <translation>%1 items read from %2</translation>
+    </message>
+    <message id="status_runEnded">
+        <translation>%1 files saved, %2 renamed</translation>
+    </message>
+    <message id="status_thumbnailsStopped">
+        <translation>Memory is short: thumbnails are made only for what is on screen</translation>
+    </message>
+    <message id="status_waitForReading">
+        <translation>Please wait until all folders are read</translation>
+    </message>
+    <message id="status_waitForSave">
+        <translation>Please wait until the save has ended</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "AppController.h"
+#include "DropPlan.h"
 #include "Jobs.h"
 #include "MyCompoundFolder.h"
 #include "Previews.h"
@@ -10,13 +11,14 @@
 #include "SourceViews.h"
 #include "Thumbnails.h"
 #include "WindowQuestions.h"
+#include "WorkThread.h"
 
 #include <QObject>
 
 #include <functional>
 #include <memory>
 #include <string>
-#include <unordered_set>
+#include <unordered_map>
 #include <vector>
 
 namespace chronomender {
@@ -83,8 +85,7 @@ public:
     /// runs. Afterwards the list is built anew and all views are told. True when it was carried
     /// out.
     bool edit(const std::function<void(AppController &)> &change);
-    /// Something was refused as dates would leave their bounds, or nothing came of it: said in the
-    /// status line.
+    /// A change that was refused, as dates would leave their bounds, is told in the status line.
     void tellOutcome(DateChangeOutcome outcome);
     void undo();
     void redo();
@@ -112,11 +113,11 @@ Q_SIGNALS:
     void thumbsChanged();
     void previewsChanged();
     void undoChanged();
+    /// The system's zone changed: whoever holds a drag gives it up before dates move.
+    void dateChangeAborted();
     void statusTold(const QString &words);
 
 private:
-    struct ReadRequest;
-
     // ImportQuestions, on the import thread
     PerFolderImportOptions emptyTagOptions(const MySingleFolder &folder) override;
     MovieOptions movieOptions(const MySingleFolder &folder) override;
@@ -130,28 +131,35 @@ private:
     void showFilterStatus(std::size_t hidden) override;
     bool isOneFolderSelected() const override;
 
-    void openJob(const std::string &path, const std::vector<std::string> &names,
-                 const KeyStates &keyStates, std::vector<std::string> &refused);
-    void read(const MySingleFolderPtr &folder, std::vector<std::string> names,
+    void connectParts();
+    void openJob(const DropJob &job, const KeyStates &keyStates);
+    void read(const MySingleFolderPtr &folder, const std::vector<std::string> &names,
               const KeyStates &keyStates);
-    void readingEnded(const MySingleFolderPtr &folder, const ImportOutcome &outcome,
-                      bool namesWereGiven);
+    void readingEnded(const MySingleFolderPtr &folder, const ImportOutcome &outcome);
+    void noteReading(const ImportOutcome &outcome);
+    void tellReadingNotes();
+    void dropFolders(const std::vector<MySingleFolderPtr> &folders);
     void followMainPic();
+    void markSelectedFolder();
     void tellEverything();
     void saveEnded(const SaveRunResult *result);
     void afterUndo();
-    void tellRecovered(const std::vector<RecoveredFile> &files);
     bool isChangeRefused();
+    void thumbnailsProgressed();
 
     WindowQuestions &m_questions;
     Jobs m_jobs;
     std::unique_ptr<Thumbnails> m_thumbnails;
     std::unique_ptr<Previews> m_previews;
     std::vector<MySingleFolderPtr> m_selectedFolders;
-    std::unordered_set<const MySingleFolder *> m_reading;
-    std::size_t m_foldersBeingRead = 0;
+    /// Folders that are being read, each with the one whose reading found it.
+    std::unordered_map<const MySingleFolder *, const MySingleFolder *> m_reading;
+    std::size_t m_runningReads = 0;
+    std::vector<std::string> m_readingNotes; ///< told when the last reading has ended
+    std::shared_ptr<Job> m_thumbnailsJob;
     std::unique_ptr<AppController> m_controller;
     std::unique_ptr<SaveFlow> m_saveFlow;
+    WorkThread m_folderCheck;
 };
 
 } // namespace chronomender
