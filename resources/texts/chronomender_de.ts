@@ -892,17 +892,38 @@ Beispiele:
     <message id="mark_rejected">
         <translation>Als Abgelehnt markieren</translation>
     </message>
+    <message id="menu_align">
+        <translation>&amp;Anordnen</translation>
+    </message>
     <message id="menu_copyOtherFileDate_selection">
         <translation>Anderes Datum jeder Datei übernehmen</translation>
     </message>
     <message id="menu_copyOtherFileDate_single">
         <translation>Anderes Datum der Datei übernehmen</translation>
     </message>
+    <message id="menu_edit">
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message id="menu_file">
+        <translation>&amp;Datei</translation>
+    </message>
+    <message id="menu_folders">
+        <translation>&amp;Ordner</translation>
+    </message>
+    <message id="menu_help">
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message id="menu_items">
+        <translation>&amp;Fotos</translation>
+    </message>
     <message id="menu_redo">
         <translation>Wiederholen</translation>
     </message>
     <message id="menu_redo_named">
         <translation>Wiederholen: %1</translation>
+    </message>
+    <message id="menu_timeline">
+        <translation>&amp;Zeitleiste</translation>
     </message>
     <message id="menu_undo">
         <translation>Rückgängig</translation>
@@ -1480,6 +1501,9 @@ Beispiele:
     <message id="status_hiddenByFilter">
         <translation>%1 Medien sind durch Filter verborgen</translation>
     </message>
+    <message id="status_nothingToAlign">
+        <translation>Nichts anzuordnen</translation>
+    </message>
     <message id="status_nothingToSave">
         <translation>Nichts zu sichern</translation>
     </message>
@@ -1503,6 +1527,189 @@ Beispiele:
     </message>
     <message id="status_waitForSave">
         <translation>Bitte warten, bis das Sichern beendet ist</translation>
+    </message>
+    <message id="command_about">
+        <translation>&amp;Über chronoMender</translation>
+    </message>
+    <message id="command_addFolders">
+        <translation>Ordner &amp;hinzufügen …</translation>
+    </message>
+    <message id="command_addMissingTags">
+        <translation>Fehlende &amp;Datumsfelder ergänzen</translation>
+    </message>
+    <message id="command_addWithOptions">
+        <translation>Mit &amp;Optionen hinzufügen …</translation>
+    </message>
+    <message id="command_clearFilters">
+        <translation>&amp;Filter aufheben</translation>
+    </message>
+    <message id="command_copyDigitizedNew">
+        <translation>Digitalisierungsdatum (wie es wird) übernehmen</translation>
+    </message>
+    <message id="command_copyDigitizedOld">
+        <translation>Digitalisierungsdatum (in der Datei) übernehmen</translation>
+    </message>
+    <message id="command_copyFileCreationNew">
+        <translation>Erstelldatum der Datei (wie es wird) übernehmen</translation>
+    </message>
+    <message id="command_copyFileCreationOld">
+        <translation>Erstelldatum der Datei (wie es ist) übernehmen</translation>
+    </message>
+    <message id="command_copyFileModificationNew">
+        <translation>Änderungsdatum der Datei (wie es wird) übernehmen</translation>
+    </message>
+    <message id="command_copyFileModificationOld">
+        <translation>Änderungsdatum der Datei (wie es ist) übernehmen</translation>
+    </message>
+    <message id="command_copyTiffNew">
+        <translation>Änderungsfeld (wie es wird) übernehmen</translation>
+    </message>
+    <message id="command_copyTiffOld">
+        <translation>Änderungsfeld (in der Datei) übernehmen</translation>
+    </message>
+    <message id="command_deselect">
+        <translation>&amp;Nichts auswählen</translation>
+    </message>
+    <message id="command_earlierReading">
+        <translation>Als &amp;frühere Zeit lesen</translation>
+    </message>
+    <message id="command_errorLog">
+        <translation>Fehler&amp;protokoll</translation>
+    </message>
+    <message id="command_find">
+        <translation>&amp;Suchen …</translation>
+    </message>
+    <message id="command_focusFolders">
+        <translation>Zu den &amp;Ordnern</translation>
+    </message>
+    <message id="command_focusInspector">
+        <translation>Zu den &amp;Details</translation>
+    </message>
+    <message id="command_focusShift">
+        <translation>Zur &amp;Verschiebung</translation>
+    </message>
+    <message id="command_focusStrip">
+        <translation>Zur &amp;Zeitleiste</translation>
+    </message>
+    <message id="command_folderToShelf">
+        <translation>Ordner auf die A&amp;blage legen</translation>
+    </message>
+    <message id="command_folderZones">
+        <translation>&amp;Zeitzonen …</translation>
+    </message>
+    <message id="command_fromShelf">
+        <translation>&amp;Von der Ablage nehmen</translation>
+    </message>
+    <message id="command_fullScreen">
+        <translation>Voll&amp;bild</translation>
+    </message>
+    <message id="command_invertSelection">
+        <translation>Auswahl &amp;umkehren</translation>
+    </message>
+    <message id="command_itemZones">
+        <translation>&amp;Zeitzonen der Auswahl …</translation>
+    </message>
+    <message id="command_keeper">
+        <translation>&amp;Behalten</translation>
+    </message>
+    <message id="command_labels">
+        <translation>&amp;Daten unter Vorschaubildern</translation>
+    </message>
+    <message id="command_largerThumbs">
+        <translation>&amp;Größere Vorschaubilder</translation>
+    </message>
+    <message id="command_mirrorStrip">
+        <translation>&amp;Zweite Ansicht der Zeitleiste</translation>
+    </message>
+    <message id="command_moveWithArrows">
+        <translation>Mit &amp;Pfeiltasten in der Zeit bewegen</translation>
+    </message>
+    <message id="command_movieClock">
+        <translation>Filme nennen die &amp;Uhr der Kamera</translation>
+    </message>
+    <message id="command_nextChapter">
+        <translation>&amp;Nächster Tag</translation>
+    </message>
+    <message id="command_nextKeeper">
+        <translation>N&amp;ächstes behaltene</translation>
+    </message>
+    <message id="command_noMark">
+        <translation>&amp;Keine Markierung</translation>
+    </message>
+    <message id="command_oneStrip">
+        <translation>&amp;Eine Zeitleiste</translation>
+    </message>
+    <message id="command_onlyTheseFolders">
+        <translation>&amp;Nur diese Ordner zeigen</translation>
+    </message>
+    <message id="command_otherStrip">
+        <translation>Zur &amp;anderen Zeitleiste</translation>
+    </message>
+    <message id="command_preferences">
+        <translation>Ein&amp;stellungen …</translation>
+    </message>
+    <message id="command_previousChapter">
+        <translation>&amp;Voriger Tag</translation>
+    </message>
+    <message id="command_previousKeeper">
+        <translation>&amp;Voriges behaltene</translation>
+    </message>
+    <message id="command_quit">
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message id="command_recolor">
+        <translation>&amp;Farben nach Reihenfolge der Ordner</translation>
+    </message>
+    <message id="command_rejected">
+        <translation>&amp;Ausschuss</translation>
+    </message>
+    <message id="command_removeFolders">
+        <translation>Ordner &amp;entfernen</translation>
+    </message>
+    <message id="command_renameAll">
+        <translation>Alle &amp;Dateien umbenennen …</translation>
+    </message>
+    <message id="command_renameCurrent">
+        <translation>Dateien des Ordners &amp;umbenennen …</translation>
+    </message>
+    <message id="command_resetShift">
+        <translation>Verschiebung &amp;zurücksetzen</translation>
+    </message>
+    <message id="command_save">
+        <translation>Ordner &amp;sichern</translation>
+    </message>
+    <message id="command_saveAll">
+        <translation>&amp;Alles sichern</translation>
+    </message>
+    <message id="command_saveAndRename">
+        <translation>Alles sichern und umbe&amp;nennen …</translation>
+    </message>
+    <message id="command_saveWithoutChanges">
+        <translation>Ordner sichern, auch &amp;unverändert</translation>
+    </message>
+    <message id="command_selectAll">
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message id="command_selectFolderItems">
+        <translation>Alles im &amp;Ordner auswählen</translation>
+    </message>
+    <message id="command_shortcuts">
+        <translation>&amp;Tastaturkürzel</translation>
+    </message>
+    <message id="command_singleMode">
+        <translation>Jedes &amp;einzeln verschieben</translation>
+    </message>
+    <message id="command_smallerThumbs">
+        <translation>&amp;Kleinere Vorschaubilder</translation>
+    </message>
+    <message id="command_togetherMode">
+        <translation>Alle &amp;gemeinsam verschieben</translation>
+    </message>
+    <message id="command_toShelf">
+        <translation>Auf die A&amp;blage legen</translation>
+    </message>
+    <message id="menu_view">
+        <translation>&amp;Ansicht</translation>
     </message>
 </context>
 </TS>

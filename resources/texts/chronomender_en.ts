@@ -892,17 +892,38 @@ Examples:
     <message id="mark_rejected">
         <translation>Mark as Rejected</translation>
     </message>
+    <message id="menu_align">
+        <translation>&amp;Align</translation>
+    </message>
     <message id="menu_copyOtherFileDate_selection">
         <translation>Take Over Another Date of Each File</translation>
     </message>
     <message id="menu_copyOtherFileDate_single">
         <translation>Take Over Another Date of the File</translation>
     </message>
+    <message id="menu_edit">
+        <translation>&amp;Edit</translation>
+    </message>
+    <message id="menu_file">
+        <translation>&amp;File</translation>
+    </message>
+    <message id="menu_folders">
+        <translation>F&amp;olders</translation>
+    </message>
+    <message id="menu_help">
+        <translation>&amp;Help</translation>
+    </message>
+    <message id="menu_items">
+        <translation>&amp;Photos</translation>
+    </message>
     <message id="menu_redo">
         <translation>Redo</translation>
     </message>
     <message id="menu_redo_named">
         <translation>Redo %1</translation>
+    </message>
+    <message id="menu_timeline">
+        <translation>&amp;Timeline</translation>
     </message>
     <message id="menu_undo">
         <translation>Undo</translation>
@@ -1480,6 +1501,9 @@ Examples:
     <message id="status_hiddenByFilter">
         <translation>%1 items are hidden by filters</translation>
     </message>
+    <message id="status_nothingToAlign">
+        <translation>Nothing to align</translation>
+    </message>
     <message id="status_nothingToSave">
         <translation>Nothing waits for a save</translation>
     </message>
@@ -1503,6 +1527,189 @@ Examples:
     </message>
     <message id="status_waitForSave">
         <translation>Please wait until the save has ended</translation>
+    </message>
+    <message id="command_about">
+        <translation>&amp;About chronoMender</translation>
+    </message>
+    <message id="command_addFolders">
+        <translation>&amp;Add Folders…</translation>
+    </message>
+    <message id="command_addMissingTags">
+        <translation>Add Missing &amp;Date Tags</translation>
+    </message>
+    <message id="command_addWithOptions">
+        <translation>Add with &amp;Options…</translation>
+    </message>
+    <message id="command_clearFilters">
+        <translation>&amp;Clear Filters</translation>
+    </message>
+    <message id="command_copyDigitizedNew">
+        <translation>Take the Digitised Date (as It Will Be)</translation>
+    </message>
+    <message id="command_copyDigitizedOld">
+        <translation>Take the Digitised Date (in the File)</translation>
+    </message>
+    <message id="command_copyFileCreationNew">
+        <translation>Take the File’s Creation Date (as It Will Be)</translation>
+    </message>
+    <message id="command_copyFileCreationOld">
+        <translation>Take the File’s Creation Date (as It Is)</translation>
+    </message>
+    <message id="command_copyFileModificationNew">
+        <translation>Take the File’s Modification Date (as It Will Be)</translation>
+    </message>
+    <message id="command_copyFileModificationOld">
+        <translation>Take the File’s Modification Date (as It Is)</translation>
+    </message>
+    <message id="command_copyTiffNew">
+        <translation>Take the Modification Tag (as It Will Be)</translation>
+    </message>
+    <message id="command_copyTiffOld">
+        <translation>Take the Modification Tag (in the File)</translation>
+    </message>
+    <message id="command_deselect">
+        <translation>&amp;Select Nothing</translation>
+    </message>
+    <message id="command_earlierReading">
+        <translation>Read as the &amp;Earlier Time</translation>
+    </message>
+    <message id="command_errorLog">
+        <translation>Error &amp;Log</translation>
+    </message>
+    <message id="command_find">
+        <translation>&amp;Find…</translation>
+    </message>
+    <message id="command_focusFolders">
+        <translation>Go to &amp;Folders</translation>
+    </message>
+    <message id="command_focusInspector">
+        <translation>Go to &amp;Details</translation>
+    </message>
+    <message id="command_focusShift">
+        <translation>Go to &amp;Shift</translation>
+    </message>
+    <message id="command_focusStrip">
+        <translation>Go to &amp;Timeline</translation>
+    </message>
+    <message id="command_folderToShelf">
+        <translation>Put Folder on the &amp;Shelf</translation>
+    </message>
+    <message id="command_folderZones">
+        <translation>Time &amp;Zones…</translation>
+    </message>
+    <message id="command_fromShelf">
+        <translation>&amp;Take from the Shelf</translation>
+    </message>
+    <message id="command_fullScreen">
+        <translation>F&amp;ull Screen</translation>
+    </message>
+    <message id="command_invertSelection">
+        <translation>&amp;Invert Selection</translation>
+    </message>
+    <message id="command_itemZones">
+        <translation>Time &amp;Zones of Selection…</translation>
+    </message>
+    <message id="command_keeper">
+        <translation>&amp;Keeper</translation>
+    </message>
+    <message id="command_labels">
+        <translation>&amp;Dates below Thumbnails</translation>
+    </message>
+    <message id="command_largerThumbs">
+        <translation>&amp;Larger Thumbnails</translation>
+    </message>
+    <message id="command_mirrorStrip">
+        <translation>&amp;Second View of the Timeline</translation>
+    </message>
+    <message id="command_moveWithArrows">
+        <translation>&amp;Move in Time with Arrow Keys</translation>
+    </message>
+    <message id="command_movieClock">
+        <translation>Movies Tell the Camera’s &amp;Own Clock</translation>
+    </message>
+    <message id="command_nextChapter">
+        <translation>&amp;Next Day</translation>
+    </message>
+    <message id="command_nextKeeper">
+        <translation>Ne&amp;xt Keeper</translation>
+    </message>
+    <message id="command_noMark">
+        <translation>&amp;No Mark</translation>
+    </message>
+    <message id="command_oneStrip">
+        <translation>&amp;One Timeline</translation>
+    </message>
+    <message id="command_onlyTheseFolders">
+        <translation>Show &amp;Only These Folders</translation>
+    </message>
+    <message id="command_otherStrip">
+        <translation>Go to the O&amp;ther Timeline</translation>
+    </message>
+    <message id="command_preferences">
+        <translation>&amp;Preferences…</translation>
+    </message>
+    <message id="command_previousChapter">
+        <translation>&amp;Previous Day</translation>
+    </message>
+    <message id="command_previousKeeper">
+        <translation>&amp;Previous Keeper</translation>
+    </message>
+    <message id="command_quit">
+        <translation>&amp;Quit</translation>
+    </message>
+    <message id="command_recolor">
+        <translation>&amp;Colours in Order of Folders</translation>
+    </message>
+    <message id="command_rejected">
+        <translation>&amp;Rejected</translation>
+    </message>
+    <message id="command_removeFolders">
+        <translation>Re&amp;move Folders</translation>
+    </message>
+    <message id="command_renameAll">
+        <translation>Rename &amp;All Files…</translation>
+    </message>
+    <message id="command_renameCurrent">
+        <translation>&amp;Rename Folder’s Files…</translation>
+    </message>
+    <message id="command_resetShift">
+        <translation>&amp;Reset Shift</translation>
+    </message>
+    <message id="command_save">
+        <translation>&amp;Save Folder</translation>
+    </message>
+    <message id="command_saveAll">
+        <translation>Sa&amp;ve All</translation>
+    </message>
+    <message id="command_saveAndRename">
+        <translation>Save All and Re&amp;name…</translation>
+    </message>
+    <message id="command_saveWithoutChanges">
+        <translation>Save Folder, Even If &amp;Unchanged</translation>
+    </message>
+    <message id="command_selectAll">
+        <translation>Select &amp;All</translation>
+    </message>
+    <message id="command_selectFolderItems">
+        <translation>Select All of the &amp;Folder</translation>
+    </message>
+    <message id="command_shortcuts">
+        <translation>&amp;Keyboard Shortcuts</translation>
+    </message>
+    <message id="command_singleMode">
+        <translation>Shift Each by &amp;Itself</translation>
+    </message>
+    <message id="command_smallerThumbs">
+        <translation>S&amp;maller Thumbnails</translation>
+    </message>
+    <message id="command_togetherMode">
+        <translation>Shift All &amp;Together</translation>
+    </message>
+    <message id="command_toShelf">
+        <translation>Put on the &amp;Shelf</translation>
+    </message>
+    <message id="menu_view">
+        <translation>&amp;View</translation>
     </message>
 </context>
 </TS>

@@ -67,7 +67,9 @@ public:
     const std::vector<MySinglePicPtr> &source_full() const { return m_source->source_full(); }
     const Zones &zones() const { return *m_services.zones; }
     UserDefaults &defaults() { return *m_services.defaults; }
+    const UserDefaults &defaults() const { return *m_services.defaults; }
     UndoManager &undoManager() { return m_undo; }
+    const UndoManager &undoManager() const { return m_undo; }
     Cancellation &cancellation() { return m_cancellation; }
 
     /// Puts right what runs left that were killed, and tells of each file; nothing, at little cost,
@@ -99,10 +101,15 @@ public:
     void setSourceViews(SourceViews *views);
     SourceBuilder &sourceBuilder() { return *m_source; }
     MyTimelinesController &timelines() { return m_timelines; }
+    const MyTimelinesController &timelines() const { return m_timelines; }
     FilterSourceController &filters() { return *m_filters; }
+    const FilterSourceController &filters() const { return *m_filters; }
     /// Shows only items that a map has chosen, or that stand in these folders; none: all.
     void setSelectedPicsToFilter(std::optional<PicSet> pics);
     void setFoldersFilter(std::optional<std::vector<MySingleFolderPtr>> folders);
+    const std::optional<std::vector<MySingleFolderPtr>> &foldersFilter() const {
+        return m_foldersFilter;
+    }
     /// Marks items as keepers or rejected; the filters follow.
     Marking &marking() { return m_marking; }
     /// Starts the drag of a thumbnail; see DateDrag.

@@ -58,7 +58,6 @@ enum class CommandId : std::uint8_t {
     FolderZones,
     TogetherMode,
     SingleMode,
-    EditShift,
     ResetShift,
     MovieClock,
     OnlyTheseFolders,
@@ -125,6 +124,9 @@ CommandNeeds metNeeds(const WindowSession &session);
 constexpr bool isAvailable(const WindowCommand &command, CommandNeeds met) {
     return (command.needs & ~met) == 0;
 }
+
+/// A checkable command is on.
+bool isChecked(CommandId id, const WindowSession &session);
 
 /// Does what needs no window: corrections, selection, saving. False for the commands of a window.
 bool runInSession(CommandId id, WindowSession &session);

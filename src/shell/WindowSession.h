@@ -41,6 +41,7 @@ public:
     const AppController &controller() const { return *m_controller; }
     const Zones &zones() const { return m_controller->zones(); }
     UserDefaults &defaults() { return m_controller->defaults(); }
+    const UserDefaults &defaults() const { return controller().defaults(); }
     MyTimelinesController &timelines() { return m_controller->timelines(); }
     Thumbnails &thumbnails() { return *m_thumbnails; }
     Previews &previews() { return *m_previews; }
