@@ -1711,5 +1711,344 @@ Beispiele:
     <message id="menu_view">
         <translation>&amp;Ansicht</translation>
     </message>
+    <message id="prefs_appearance">
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message id="prefs_appearanceDark">
+        <translation>dunkel</translation>
+    </message>
+    <message id="prefs_appearanceLight">
+        <translation>hell</translation>
+    </message>
+    <message id="prefs_appearanceSystem">
+        <translation>wie das System</translation>
+    </message>
+    <message id="prefs_backgroundThumbs">
+        <translation>Vorschaubilder im &amp;Voraus erzeugen</translation>
+    </message>
+    <message id="prefs_choiceApart1">
+        <translation>wenn sie mehr als 1 Sekunde auseinanderliegen</translation>
+    </message>
+    <message id="prefs_choiceApart300">
+        <translation>wenn sie mehr als 5 Minuten auseinanderliegen</translation>
+    </message>
+    <message id="prefs_choiceAsDigitized">
+        <translation>nimmt das Digitalisierungsdatum</translation>
+    </message>
+    <message id="prefs_choiceAsProgram">
+        <translation>wie oben gewählt</translation>
+    </message>
+    <message id="prefs_choiceAsTiff">
+        <translation>nimmt das Änderungsdatum im Foto</translation>
+    </message>
+    <message id="prefs_choiceByMovie">
+        <translation>zur Zeit des Films</translation>
+    </message>
+    <message id="prefs_choiceByStill">
+        <translation>zur Zeit des Fotos</translation>
+    </message>
+    <message id="prefs_choiceGpsDate">
+        <translation>auf das korrigierte Datum</translation>
+    </message>
+    <message id="prefs_choiceGpsShift">
+        <translation>um dieselbe Zeit</translation>
+    </message>
+    <message id="prefs_choiceKeep">
+        <translation>bleibt, aber nie früher als das korrigierte Datum</translation>
+    </message>
+    <message id="prefs_choiceNever">
+        <translation>nie</translation>
+    </message>
+    <message id="prefs_choiceNewDate">
+        <translation>nimmt das korrigierte Datum</translation>
+    </message>
+    <message id="prefs_choiceNow">
+        <translation>nimmt den Augenblick des Sicherns</translation>
+    </message>
+    <message id="prefs_choiceSameShift">
+        <translation>wird um dieselbe Zeit verschoben</translation>
+    </message>
+    <message id="prefs_close">
+        <translation>Schließen</translation>
+    </message>
+    <message id="prefs_creationDate">
+        <translation>F&amp;rühestes Änderungsdatum der Datei</translation>
+    </message>
+    <message id="prefs_digitized">
+        <translation>&amp;Digitalisierungsdatum</translation>
+    </message>
+    <message id="prefs_digitizedFollows">
+        <translation>Zieht mit, wo es dem Aufnahmedatum gleicht</translation>
+    </message>
+    <message id="prefs_fileDate">
+        <translation>Änderungsdatum der Da&amp;tei</translation>
+    </message>
+    <message id="prefs_fileDateFollows">
+        <translation>Zieht mit, wo es einem verschobenen Datum gleicht</translation>
+    </message>
+    <message id="prefs_fileDatesToo">
+        <translation>Auch die Daten der D&amp;atei ändern</translation>
+    </message>
+    <message id="prefs_fileDateWithoutTiff">
+        <translation>Dasselbe &amp;ohne Änderungsdatum im Foto</translation>
+    </message>
+    <message id="prefs_fileGroups">
+        <translation>Raw mit JPEG und Foto mit Film als &amp;eines behandeln</translation>
+    </message>
+    <message id="prefs_folderColor">
+        <translation>Ordnerfarbe %1</translation>
+    </message>
+    <message id="prefs_folderColors">
+        <translation>Ordnerfarben</translation>
+    </message>
+    <message id="prefs_gap">
+        <translation>Über die Enden gezogene Medien halten &amp;Abstand</translation>
+    </message>
+    <message id="prefs_gap1">
+        <translation>1 Sekunde</translation>
+    </message>
+    <message id="prefs_gap10">
+        <translation>10 Sekunden</translation>
+    </message>
+    <message id="prefs_gap3600">
+        <translation>1 Stunde</translation>
+    </message>
+    <message id="prefs_gap60">
+        <translation>1 Minute</translation>
+    </message>
+    <message id="prefs_gap600">
+        <translation>10 Minuten</translation>
+    </message>
+    <message id="prefs_gap86400">
+        <translation>1 Tag</translation>
+    </message>
+    <message id="prefs_groupAll">
+        <translation>Alle Dateien</translation>
+    </message>
+    <message id="prefs_groupExif">
+        <translation>Fotos und Filme mit Aufnahmedatum</translation>
+    </message>
+    <message id="prefs_groupFiles">
+        <translation>Dateien</translation>
+    </message>
+    <message id="prefs_groupInside">
+        <translation>Was mitgesichert wird</translation>
+    </message>
+    <message id="prefs_groupMovies">
+        <translation>Filme</translation>
+    </message>
+    <message id="prefs_groupNoExif">
+        <translation>Dateien ohne Datum im Inneren</translation>
+    </message>
+    <message id="prefs_groupPairs">
+        <translation>Paare</translation>
+    </message>
+    <message id="prefs_groupStrips">
+        <translation>Zeitachse</translation>
+    </message>
+    <message id="prefs_groupThumbs">
+        <translation>Vorschaubilder</translation>
+    </message>
+    <message id="prefs_groupTiff">
+        <translation>Fotos, die nur ein Änderungsdatum haben</translation>
+    </message>
+    <message id="prefs_groupTool">
+        <translation>ExifTool</translation>
+    </message>
+    <message id="prefs_harmonizing">
+        <translation>&amp;Raw und JPEG ein Datum geben</translation>
+    </message>
+    <message id="prefs_highlightEmpty">
+        <translation>Medien mit &amp;leeren Daten markieren</translation>
+    </message>
+    <message id="prefs_labels">
+        <translation>&amp;Beschriftung unter Vorschaubildern</translation>
+    </message>
+    <message id="prefs_largeThumbs">
+        <translation>&amp;Große Vorschaubilder behalten (braucht viel Speicher)</translation>
+    </message>
+    <message id="prefs_livePhotosByMovie">
+        <translation>&amp;Live-Fotos stehen zur Zeit ihres Films</translation>
+    </message>
+    <message id="prefs_livePhotosOfFolder">
+        <translation>Live-Fotos eines &amp;neuen Ordners stehen</translation>
+    </message>
+    <message id="prefs_movieClock">
+        <translation>Die Zeit im Kopf des Films ist die &amp;Ortszeit der Kamera</translation>
+    </message>
+    <message id="prefs_movieMetaDate">
+        <translation>Das Datum bevorzugen, das das &amp;Telefon notiert hat</translation>
+    </message>
+    <message id="prefs_nextSession">
+        <translation>gilt ab dem nächsten Start</translation>
+    </message>
+    <message id="prefs_notStored">
+        <translation>Die Einstellung gilt jetzt, konnte aber nicht gespeichert werden.</translation>
+    </message>
+    <message id="prefs_overlapping">
+        <translation>Live-Fotos mit überlappenden Filmen &amp;verbinden</translation>
+    </message>
+    <message id="prefs_pageAppearance">
+        <translation>Darstellung</translation>
+    </message>
+    <message id="prefs_pageDates">
+        <translation>Daten</translation>
+    </message>
+    <message id="prefs_pageImport">
+        <translation>Import</translation>
+    </message>
+    <message id="prefs_pageNames">
+        <translation>Namen</translation>
+    </message>
+    <message id="prefs_pages">
+        <translation>Seiten</translation>
+    </message>
+    <message id="prefs_pageSaving">
+        <translation>Sichern</translation>
+    </message>
+    <message id="prefs_reset">
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message id="prefs_resetOf">
+        <translation>Zurücksetzen: %1</translation>
+    </message>
+    <message id="prefs_skipEmptyTags">
+        <translation>Bei &amp;leeren Daten nicht fragen: Datum der Datei nehmen</translation>
+    </message>
+    <message id="prefs_skipMovies">
+        <translation>Bei Filmen nicht &amp;fragen</translation>
+    </message>
+    <message id="prefs_subfolderDepth">
+        <translation>Unterordner bis zu dieser &amp;Tiefe</translation>
+    </message>
+    <message id="prefs_subfolders">
+        <translation>Auch &amp;Unterordner einlesen</translation>
+    </message>
+    <message id="prefs_syncGps">
+        <translation>Auch die &amp;GPS-Zeit berichtigen</translation>
+    </message>
+    <message id="prefs_syncGpsType">
+        <translation>GPS-&amp;Zeit wird verschoben</translation>
+    </message>
+    <message id="prefs_syncXmp">
+        <translation>&amp;XMP-Daten den gesicherten angleichen</translation>
+    </message>
+    <message id="prefs_threshold">
+        <translation>Daten gleichen sich bis zu so vielen &amp;Sekunden</translation>
+    </message>
+    <message id="prefs_tiff">
+        <translation>&amp;Änderungsdatum im Foto</translation>
+    </message>
+    <message id="prefs_tiffFollows">
+        <translation>Zieht mit, wo es dem Digitalisierungsdatum gleicht</translation>
+    </message>
+    <message id="prefs_title">
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="prefs_tool">
+        <translation>&amp;Programm</translation>
+    </message>
+    <message id="prefs_toolBrowse">
+        <translation>Wählen …</translation>
+    </message>
+    <message id="prefs_toolBrowseTitle">
+        <translation>ExifTool</translation>
+    </message>
+    <message id="prefs_toolChecking">
+        <translation>Wird ausprobiert …</translation>
+    </message>
+    <message id="prefs_toolHint">
+        <translation>exiftool im Suchpfad</translation>
+    </message>
+    <message id="prefs_toolMissing">
+        <translation>Nicht gefunden. Daten, die mehr Platz in einer Datei brauchen, lassen sich ohne es nicht sichern.</translation>
+    </message>
+    <message id="prefs_toolOther">
+        <translation>Dieses Programm ist nicht ExifTool.</translation>
+    </message>
+    <message id="prefs_toolRuns">
+        <translation>ExifTool %1 läuft.</translation>
+    </message>
+    <message id="prefs_toolSilent">
+        <translation>Das Programm antwortet nicht.</translation>
+    </message>
+    <message id="prefs_widenXmp">
+        <translation>XMP-Daten, die &amp;mehr Platz brauchen, mit ExifTool schreiben</translation>
+    </message>
+    <message id="rename_caseLeave">
+        <translation>wie sie ist</translation>
+    </message>
+    <message id="rename_caseLower">
+        <translation>klein: jpg</translation>
+    </message>
+    <message id="rename_caseUpper">
+        <translation>groß: JPG</translation>
+    </message>
+    <message id="rename_dotsLeave">
+        <translation>bleiben</translation>
+    </message>
+    <message id="rename_dotsRemove">
+        <translation>werden entfernt</translation>
+    </message>
+    <message id="rename_dotsReport">
+        <translation>bleiben und werden gemeldet</translation>
+    </message>
+    <message id="rename_frontDots">
+        <translation>&amp;Punkte am Anfang</translation>
+    </message>
+    <message id="rename_nameAtImport">
+        <translation>wie beim Import</translation>
+    </message>
+    <message id="rename_namePresent">
+        <translation>wie er jetzt ist</translation>
+    </message>
+    <message id="rename_sourceName">
+        <translation>&amp;Ursprünglicher Name</translation>
+    </message>
+    <message id="rename_suffixCase">
+        <translation>&amp;Schreibung der Endung</translation>
+    </message>
+    <message id="rename_suffixHide">
+        <translation>verborgen</translation>
+    </message>
+    <message id="rename_suffixLeave">
+        <translation>sichtbar oder verborgen wie bisher</translation>
+    </message>
+    <message id="rename_suffixShow">
+        <translation>sichtbar</translation>
+    </message>
+    <message id="rename_suffixVisibility">
+        <translation>&amp;Endung</translation>
+    </message>
+    <message id="zones_clockCamera">
+        <translation>Uhr der Kamera</translation>
+    </message>
+    <message id="zones_clockComputer">
+        <translation>Dieser Computer</translation>
+    </message>
+    <message id="zones_clockFile">
+        <translation>In den Dateien</translation>
+    </message>
+    <message id="zones_clockUtc">
+        <translation>UTC</translation>
+    </message>
+    <message id="zones_firstItem">
+        <translation>Erstes</translation>
+    </message>
+    <message id="zones_lastItem">
+        <translation>Letztes</translation>
+    </message>
+    <message id="zones_mainItem">
+        <translation>Gewähltes</translation>
+    </message>
+    <message id="zones_noteOtherOffset">
+        <translation>anderer Abstand ab %1</translation>
+    </message>
+    <message id="zones_noteSummerFrom">
+        <translation>Sommerzeit ab %1</translation>
+    </message>
+    <message id="zones_noteSummerUntil">
+        <translation>Sommerzeit bis %1</translation>
+    </message>
 </context>
 </TS>

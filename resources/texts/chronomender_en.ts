@@ -1711,5 +1711,344 @@ Examples:
     <message id="menu_view">
         <translation>&amp;View</translation>
     </message>
+    <message id="prefs_appearance">
+        <translation>&amp;Window</translation>
+    </message>
+    <message id="prefs_appearanceDark">
+        <translation>dark</translation>
+    </message>
+    <message id="prefs_appearanceLight">
+        <translation>light</translation>
+    </message>
+    <message id="prefs_appearanceSystem">
+        <translation>as the system</translation>
+    </message>
+    <message id="prefs_backgroundThumbs">
+        <translation>Make thumbnails &amp;ahead</translation>
+    </message>
+    <message id="prefs_choiceApart1">
+        <translation>where they lie more than 1 second apart</translation>
+    </message>
+    <message id="prefs_choiceApart300">
+        <translation>where they lie more than 5 minutes apart</translation>
+    </message>
+    <message id="prefs_choiceAsDigitized">
+        <translation>takes the digitized date</translation>
+    </message>
+    <message id="prefs_choiceAsProgram">
+        <translation>as chosen above</translation>
+    </message>
+    <message id="prefs_choiceAsTiff">
+        <translation>takes the change date in the photo</translation>
+    </message>
+    <message id="prefs_choiceByMovie">
+        <translation>at the time of the movie</translation>
+    </message>
+    <message id="prefs_choiceByStill">
+        <translation>at the time of the still</translation>
+    </message>
+    <message id="prefs_choiceGpsDate">
+        <translation>to the corrected date</translation>
+    </message>
+    <message id="prefs_choiceGpsShift">
+        <translation>by the same shift</translation>
+    </message>
+    <message id="prefs_choiceKeep">
+        <translation>stays, but is never earlier than the corrected date</translation>
+    </message>
+    <message id="prefs_choiceNever">
+        <translation>never</translation>
+    </message>
+    <message id="prefs_choiceNewDate">
+        <translation>takes the corrected date</translation>
+    </message>
+    <message id="prefs_choiceNow">
+        <translation>takes the moment of saving</translation>
+    </message>
+    <message id="prefs_choiceSameShift">
+        <translation>is shifted by the same time</translation>
+    </message>
+    <message id="prefs_close">
+        <translation>Close</translation>
+    </message>
+    <message id="prefs_creationDate">
+        <translation>Ea&amp;rliest modification date</translation>
+    </message>
+    <message id="prefs_digitized">
+        <translation>&amp;Digitized date</translation>
+    </message>
+    <message id="prefs_digitizedFollows">
+        <translation>Moves along where it equals the recording date</translation>
+    </message>
+    <message id="prefs_fileDate">
+        <translation>File’s &amp;modification date</translation>
+    </message>
+    <message id="prefs_fileDateFollows">
+        <translation>Moves along where it equals a date that moves</translation>
+    </message>
+    <message id="prefs_fileDatesToo">
+        <translation>Change the &amp;file’s own dates, too</translation>
+    </message>
+    <message id="prefs_fileDateWithoutTiff">
+        <translation>The same &amp;without a change date in the photo</translation>
+    </message>
+    <message id="prefs_fileGroups">
+        <translation>Treat raw with JPEG, and photo with movie, as &amp;one</translation>
+    </message>
+    <message id="prefs_folderColor">
+        <translation>Folder color %1</translation>
+    </message>
+    <message id="prefs_folderColors">
+        <translation>Folder colors</translation>
+    </message>
+    <message id="prefs_gap">
+        <translation>Items dragged beyond the ends keep a &amp;distance of</translation>
+    </message>
+    <message id="prefs_gap1">
+        <translation>1 second</translation>
+    </message>
+    <message id="prefs_gap10">
+        <translation>10 seconds</translation>
+    </message>
+    <message id="prefs_gap3600">
+        <translation>1 hour</translation>
+    </message>
+    <message id="prefs_gap60">
+        <translation>1 minute</translation>
+    </message>
+    <message id="prefs_gap600">
+        <translation>10 minutes</translation>
+    </message>
+    <message id="prefs_gap86400">
+        <translation>1 day</translation>
+    </message>
+    <message id="prefs_groupAll">
+        <translation>All files</translation>
+    </message>
+    <message id="prefs_groupExif">
+        <translation>Photos and movies with a recording date</translation>
+    </message>
+    <message id="prefs_groupFiles">
+        <translation>Files</translation>
+    </message>
+    <message id="prefs_groupInside">
+        <translation>What is saved along</translation>
+    </message>
+    <message id="prefs_groupMovies">
+        <translation>Movies</translation>
+    </message>
+    <message id="prefs_groupNoExif">
+        <translation>Files without a date inside</translation>
+    </message>
+    <message id="prefs_groupPairs">
+        <translation>Pairs</translation>
+    </message>
+    <message id="prefs_groupStrips">
+        <translation>Timeline</translation>
+    </message>
+    <message id="prefs_groupThumbs">
+        <translation>Thumbnails</translation>
+    </message>
+    <message id="prefs_groupTiff">
+        <translation>Photos with nothing but a change date</translation>
+    </message>
+    <message id="prefs_groupTool">
+        <translation>ExifTool</translation>
+    </message>
+    <message id="prefs_harmonizing">
+        <translation>Give &amp;raw and JPEG one date</translation>
+    </message>
+    <message id="prefs_highlightEmpty">
+        <translation>Mark items with &amp;empty dates</translation>
+    </message>
+    <message id="prefs_labels">
+        <translation>&amp;Labels below thumbnails</translation>
+    </message>
+    <message id="prefs_largeThumbs">
+        <translation>Keep &amp;large thumbnails (needs much memory)</translation>
+    </message>
+    <message id="prefs_livePhotosByMovie">
+        <translation>&amp;Live photos stand at the time of their movie</translation>
+    </message>
+    <message id="prefs_livePhotosOfFolder">
+        <translation>Live photos of a &amp;new folder stand</translation>
+    </message>
+    <message id="prefs_movieClock">
+        <translation>Header times are the camera’s &amp;local time</translation>
+    </message>
+    <message id="prefs_movieMetaDate">
+        <translation>Prefer the date that the &amp;phone recorded</translation>
+    </message>
+    <message id="prefs_nextSession">
+        <translation>takes effect at the next start</translation>
+    </message>
+    <message id="prefs_notStored">
+        <translation>The preference holds for now, but could not be stored.</translation>
+    </message>
+    <message id="prefs_overlapping">
+        <translation>Join live photos whose movies &amp;overlap</translation>
+    </message>
+    <message id="prefs_pageAppearance">
+        <translation>Appearance</translation>
+    </message>
+    <message id="prefs_pageDates">
+        <translation>Dates</translation>
+    </message>
+    <message id="prefs_pageImport">
+        <translation>Import</translation>
+    </message>
+    <message id="prefs_pageNames">
+        <translation>Names</translation>
+    </message>
+    <message id="prefs_pages">
+        <translation>Pages</translation>
+    </message>
+    <message id="prefs_pageSaving">
+        <translation>Saving</translation>
+    </message>
+    <message id="prefs_reset">
+        <translation>Reset</translation>
+    </message>
+    <message id="prefs_resetOf">
+        <translation>Reset: %1</translation>
+    </message>
+    <message id="prefs_skipEmptyTags">
+        <translation>Do not ask about &amp;empty dates: take the file’s date</translation>
+    </message>
+    <message id="prefs_skipMovies">
+        <translation>Do not &amp;ask about movies</translation>
+    </message>
+    <message id="prefs_subfolderDepth">
+        <translation>Subfolders up to this &amp;depth</translation>
+    </message>
+    <message id="prefs_subfolders">
+        <translation>Read &amp;subfolders, too</translation>
+    </message>
+    <message id="prefs_syncGps">
+        <translation>Correct the &amp;GPS time, too</translation>
+    </message>
+    <message id="prefs_syncGpsType">
+        <translation>GPS &amp;time is moved</translation>
+    </message>
+    <message id="prefs_syncXmp">
+        <translation>Bring &amp;XMP dates into line with the saved ones</translation>
+    </message>
+    <message id="prefs_threshold">
+        <translation>Dates are equal up to so many &amp;seconds</translation>
+    </message>
+    <message id="prefs_tiff">
+        <translation>&amp;Change date in the photo</translation>
+    </message>
+    <message id="prefs_tiffFollows">
+        <translation>Moves along where it equals the digitized date</translation>
+    </message>
+    <message id="prefs_title">
+        <translation>Preferences</translation>
+    </message>
+    <message id="prefs_tool">
+        <translation>&amp;Program</translation>
+    </message>
+    <message id="prefs_toolBrowse">
+        <translation>Choose…</translation>
+    </message>
+    <message id="prefs_toolBrowseTitle">
+        <translation>ExifTool</translation>
+    </message>
+    <message id="prefs_toolChecking">
+        <translation>Being tried…</translation>
+    </message>
+    <message id="prefs_toolHint">
+        <translation>exiftool on the search path</translation>
+    </message>
+    <message id="prefs_toolMissing">
+        <translation>Not found. Dates that need more room in a file cannot be saved without it.</translation>
+    </message>
+    <message id="prefs_toolOther">
+        <translation>This program is not ExifTool.</translation>
+    </message>
+    <message id="prefs_toolRuns">
+        <translation>ExifTool %1 works.</translation>
+    </message>
+    <message id="prefs_toolSilent">
+        <translation>The program does not answer.</translation>
+    </message>
+    <message id="prefs_widenXmp">
+        <translation>Write XMP dates that need &amp;more room through ExifTool</translation>
+    </message>
+    <message id="rename_caseLeave">
+        <translation>as they are</translation>
+    </message>
+    <message id="rename_caseLower">
+        <translation>lower case: jpg</translation>
+    </message>
+    <message id="rename_caseUpper">
+        <translation>upper case: JPG</translation>
+    </message>
+    <message id="rename_dotsLeave">
+        <translation>stay</translation>
+    </message>
+    <message id="rename_dotsRemove">
+        <translation>are removed</translation>
+    </message>
+    <message id="rename_dotsReport">
+        <translation>stay, and are reported</translation>
+    </message>
+    <message id="rename_frontDots">
+        <translation>&amp;Dots in front</translation>
+    </message>
+    <message id="rename_nameAtImport">
+        <translation>as it was at import</translation>
+    </message>
+    <message id="rename_namePresent">
+        <translation>as it is now</translation>
+    </message>
+    <message id="rename_sourceName">
+        <translation>&amp;Original name</translation>
+    </message>
+    <message id="rename_suffixCase">
+        <translation>&amp;Letters of the extension</translation>
+    </message>
+    <message id="rename_suffixHide">
+        <translation>hidden</translation>
+    </message>
+    <message id="rename_suffixLeave">
+        <translation>shown or hidden as it is</translation>
+    </message>
+    <message id="rename_suffixShow">
+        <translation>shown</translation>
+    </message>
+    <message id="rename_suffixVisibility">
+        <translation>&amp;Extension</translation>
+    </message>
+    <message id="zones_clockCamera">
+        <translation>Camera’s clock</translation>
+    </message>
+    <message id="zones_clockComputer">
+        <translation>This computer</translation>
+    </message>
+    <message id="zones_clockFile">
+        <translation>In the files</translation>
+    </message>
+    <message id="zones_clockUtc">
+        <translation>UTC</translation>
+    </message>
+    <message id="zones_firstItem">
+        <translation>First</translation>
+    </message>
+    <message id="zones_lastItem">
+        <translation>Last</translation>
+    </message>
+    <message id="zones_mainItem">
+        <translation>Selected</translation>
+    </message>
+    <message id="zones_noteOtherOffset">
+        <translation>other offset from %1</translation>
+    </message>
+    <message id="zones_noteSummerFrom">
+        <translation>summer time from %1</translation>
+    </message>
+    <message id="zones_noteSummerUntil">
+        <translation>summer time until %1</translation>
+    </message>
 </context>
 </TS>

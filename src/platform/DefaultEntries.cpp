@@ -16,7 +16,9 @@ constexpr DefaultEntry entries[] = {
     {"additionalText", "", Text},
     {"additionalText2", "", Text},
     {"additionalText3", "", Text},
+    {"appearance", "0", Choice, {0, 1, 2}},
     {"areFiltersCombined", "0", Choice, {0, 1}},
+    {"autoBGThumbGeneration", "1", Choice, {0, 1}},
     {"counterType", "1", Choice, {0, 1}},
     {"counterType_prefersCompoundAltOption", "0", Choice, {0, 1}},
     {"createFileGroups", "1", Choice, {0, 1}},
@@ -97,6 +99,7 @@ constexpr DefaultEntry entries[] = {
     {"tioFilterValues", " .mov, .mp4, .avi", Text},
     {"useMovieOptionsQTValuesWithoutShowingSheet", "0", Choice, {0, 1}},
     {"useNameAtImportAsSourceName", "1", Choice, {0, 1}},
+    {"vqsFspUsesHigherResScrollingAtTheCostOfMuchRam", "0", Choice, {0, 1}},
     {"withEmptyExifFixDate", "2", Choice, {2, 3}},
 };
 
