@@ -2050,5 +2050,35 @@ Beispiele:
     <message id="zones_noteSummerUntil">
         <translation>Sommerzeit bis %1</translation>
     </message>
+    <message id="strip_dayTitle">
+        <translation>%1, %2</translation>
+    </message>
+    <message id="strip_empty">
+        <translation>Ordner mit Fotos und Filmen hier ablegen</translation>
+    </message>
+    <message id="strip_filtered">
+        <translation>Alles ist durch einen Filter ausgeblendet oder liegt auf der Ablage</translation>
+    </message>
+    <message id="weekday_short_1">
+        <translation>Mo</translation>
+    </message>
+    <message id="weekday_short_2">
+        <translation>Di</translation>
+    </message>
+    <message id="weekday_short_3">
+        <translation>Mi</translation>
+    </message>
+    <message id="weekday_short_4">
+        <translation>Do</translation>
+    </message>
+    <message id="weekday_short_5">
+        <translation>Fr</translation>
+    </message>
+    <message id="weekday_short_6">
+        <translation>Sa</translation>
+    </message>
+    <message id="weekday_short_7">
+        <translation>So</translation>
+    </message>
 </context>
 </TS>

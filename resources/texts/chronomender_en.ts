@@ -2050,5 +2050,35 @@ Examples:
     <message id="zones_noteSummerUntil">
         <translation>summer time until %1</translation>
     </message>
+    <message id="strip_dayTitle">
+        <translation>%1, %2</translation>
+    </message>
+    <message id="strip_empty">
+        <translation>Drop folders with photos and movies here</translation>
+    </message>
+    <message id="strip_filtered">
+        <translation>Everything is hidden by a filter or lies on the shelf</translation>
+    </message>
+    <message id="weekday_short_1">
+        <translation>Mon</translation>
+    </message>
+    <message id="weekday_short_2">
+        <translation>Tue</translation>
+    </message>
+    <message id="weekday_short_3">
+        <translation>Wed</translation>
+    </message>
+    <message id="weekday_short_4">
+        <translation>Thu</translation>
+    </message>
+    <message id="weekday_short_5">
+        <translation>Fri</translation>
+    </message>
+    <message id="weekday_short_6">
+        <translation>Sat</translation>
+    </message>
+    <message id="weekday_short_7">
+        <translation>Sun</translation>
+    </message>
 </context>
 </TS>
