@@ -2080,5 +2080,470 @@ Beispiele:
     <message id="weekday_short_7">
         <translation>So</translation>
     </message>
+    <message id="filter_all">
+        <translation>Alle</translation>
+    </message>
+    <message id="filter_clear">
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message id="filter_hidden">
+        <translation>%1 ausgeblendet</translation>
+    </message>
+    <message id="filter_hidden_one">
+        <translation>1 ausgeblendet</translation>
+    </message>
+    <message id="filter_keepers">
+        <translation>Favoriten</translation>
+    </message>
+    <message id="filter_notRejected">
+        <translation>Nicht verworfene</translation>
+    </message>
+    <message id="filter_other">
+        <translation>Ein eigener Filter ist aktiv</translation>
+    </message>
+    <message id="filter_rating">
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message id="filter_words">
+        <translation>Nach Name oder Kamera filtern</translation>
+    </message>
+    <message id="folders_add">
+        <translation>Ordner &amp;hinzufügen…</translation>
+    </message>
+    <message id="folders_alerts">
+        <translation>%1 Warnungen</translation>
+    </message>
+    <message id="folders_alerts_one">
+        <translation>1 Warnung</translation>
+    </message>
+    <message id="folders_beingRead">
+        <translation>wird gelesen…</translation>
+    </message>
+    <message id="folders_datesIgnored">
+        <translation>Daten in den Dateien ignoriert</translation>
+    </message>
+    <message id="folders_empty">
+        <translation>Ordner oder Fotos hierher ziehen</translation>
+    </message>
+    <message id="folders_emptyHint">
+        <translation>Ihre Dateien werden erst beim Sichern geändert.</translation>
+    </message>
+    <message id="folders_items">
+        <translation>%1 Medien</translation>
+    </message>
+    <message id="folders_items_one">
+        <translation>1 Medium</translation>
+    </message>
+    <message id="folders_itemsShifted">
+        <translation>%1 Medien verschoben</translation>
+    </message>
+    <message id="folders_itemsShifted_one">
+        <translation>1 Medium verschoben</translation>
+    </message>
+    <message id="folders_list">
+        <translation>Ordner</translation>
+    </message>
+    <message id="folders_missing">
+        <translation>nicht gefunden</translation>
+    </message>
+    <message id="folders_movieClockLocal">
+        <translation>Filme in Kamerazeit</translation>
+    </message>
+    <message id="folders_renameErrors">
+        <translation>%1 nicht umbenannt</translation>
+    </message>
+    <message id="folders_renameErrors_one">
+        <translation>1 nicht umbenannt</translation>
+    </message>
+    <message id="folders_saveErrors">
+        <translation>%1 nicht gesichert</translation>
+    </message>
+    <message id="folders_saveErrors_one">
+        <translation>1 nicht gesichert</translation>
+    </message>
+    <message id="folders_single">
+        <translation>einzeln verschoben</translation>
+    </message>
+    <message id="folders_together">
+        <translation>gemeinsam verschoben</translation>
+    </message>
+    <message id="folders_unsaved">
+        <translation>%1 ungesichert</translation>
+    </message>
+    <message id="folders_unsaved_one">
+        <translation>1 ungesichert</translation>
+    </message>
+    <message id="folders_zoneExceptions">
+        <translation>%1 mit eigenen Zonen</translation>
+    </message>
+    <message id="folders_zoneExceptions_one">
+        <translation>1 mit eigenen Zonen</translation>
+    </message>
+    <message id="folders_zonesOfFiles">
+        <translation>jeweils wie in der Datei</translation>
+    </message>
+    <message id="inspector_actionFor">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="inspector_addMissingTags">
+        <translation>Fehlende Daten ergänzen</translation>
+    </message>
+    <message id="inspector_alerts">
+        <translation>Warnungen</translation>
+    </message>
+    <message id="inspector_before1970">
+        <translation>Das Datum ist das der Datei und liegt vor 1970</translation>
+    </message>
+    <message id="inspector_before1970_of">
+        <translation>%1 Dateidaten liegen vor 1970</translation>
+    </message>
+    <message id="inspector_before1970_of_one">
+        <translation>1 Dateidatum liegt vor 1970</translation>
+    </message>
+    <message id="inspector_camera">
+        <translation>Kamera</translation>
+    </message>
+    <message id="inspector_cannotBeWritten">
+        <translation>%1 neue Daten würden als andere Zeit gelesen</translation>
+    </message>
+    <message id="inspector_cannotBeWritten_one">
+        <translation>1 neues Datum würde als andere Zeit gelesen</translation>
+    </message>
+    <message id="inspector_changedSinceRead">
+        <translation>Die Datei wurde seit dem Lesen geändert</translation>
+    </message>
+    <message id="inspector_changedSinceRead_of">
+        <translation>%1 Dateien wurden seit dem Lesen geändert</translation>
+    </message>
+    <message id="inspector_changedSinceRead_of_one">
+        <translation>1 Datei wurde seit dem Lesen geändert</translation>
+    </message>
+    <message id="inspector_dateFrom">
+        <translation>Datum aus</translation>
+    </message>
+    <message id="inspector_dates">
+        <translation>Daten</translation>
+    </message>
+    <message id="inspector_duration">
+        <translation>Dauer</translation>
+    </message>
+    <message id="inspector_emptyTags">
+        <translation>Die Daten in der Datei sind leer</translation>
+    </message>
+    <message id="inspector_emptyTags_of">
+        <translation>%1 Medien mit leeren Daten</translation>
+    </message>
+    <message id="inspector_emptyTags_of_one">
+        <translation>1 Medium mit leeren Daten</translation>
+    </message>
+    <message id="inspector_folders">
+        <translation>mehrere Ordner</translation>
+    </message>
+    <message id="inspector_gpsApart">
+        <translation>%1 Medien weichen von ihrer GPS-Zeit ab</translation>
+    </message>
+    <message id="inspector_gpsApart_one">
+        <translation>1 Medium weicht von seiner GPS-Zeit ab</translation>
+    </message>
+    <message id="inspector_groupsApart">
+        <translation>%1 Paare, deren Dateien auseinander liegen</translation>
+    </message>
+    <message id="inspector_groupsApart_one">
+        <translation>1 Paar, dessen Dateien auseinander liegen</translation>
+    </message>
+    <message id="inspector_hardLinks">
+        <translation>mehrere Namen auf der Platte</translation>
+    </message>
+    <message id="inspector_items">
+        <translation>%1 Medien</translation>
+    </message>
+    <message id="inspector_items_one">
+        <translation>1 Medium</translation>
+    </message>
+    <message id="inspector_leaveTagsOut">
+        <translation>Nicht ergänzen</translation>
+    </message>
+    <message id="inspector_leftAlone">
+        <translation>bleibt unverändert</translation>
+    </message>
+    <message id="inspector_lens">
+        <translation>Objektiv</translation>
+    </message>
+    <message id="inspector_location">
+        <translation>Ort</translation>
+    </message>
+    <message id="inspector_mixed">
+        <translation>verschieden</translation>
+    </message>
+    <message id="inspector_noTags">
+        <translation>In der Datei steht kein Datum</translation>
+    </message>
+    <message id="inspector_noTags_of">
+        <translation>%1 Medien ohne Datum in der Datei</translation>
+    </message>
+    <message id="inspector_noTags_of_one">
+        <translation>1 Medium ohne Datum in der Datei</translation>
+    </message>
+    <message id="inspector_notFound">
+        <translation>Die Datei ist nicht mehr da</translation>
+    </message>
+    <message id="inspector_notFound_of">
+        <translation>%1 Dateien sind nicht mehr da</translation>
+    </message>
+    <message id="inspector_notFound_of_one">
+        <translation>1 Datei ist nicht mehr da</translation>
+    </message>
+    <message id="inspector_nothing">
+        <translation>Nichts ausgewählt</translation>
+    </message>
+    <message id="inspector_otherThanInFile">
+        <translation>%1 Medien zeigen eine andere Zeit als die Datei</translation>
+    </message>
+    <message id="inspector_otherThanInFile_one">
+        <translation>1 Medium zeigt eine andere Zeit als die Datei</translation>
+    </message>
+    <message id="inspector_readAsEarlier">
+        <translation>Als frühere lesen</translation>
+    </message>
+    <message id="inspector_readAsLater">
+        <translation>Als spätere lesen</translation>
+    </message>
+    <message id="inspector_renameError">
+        <translation>Das letzte Umbenennen ist nicht gelungen</translation>
+    </message>
+    <message id="inspector_renameError_of">
+        <translation>%1 Medien konnten nicht umbenannt werden</translation>
+    </message>
+    <message id="inspector_renameError_of_one">
+        <translation>1 Medium konnte nicht umbenannt werden</translation>
+    </message>
+    <message id="inspector_repeatedTimes">
+        <translation>%1 Medien mit einer Zeit, die es zweimal gibt</translation>
+    </message>
+    <message id="inspector_repeatedTimes_one">
+        <translation>1 Medium mit einer Zeit, die es zweimal gibt</translation>
+    </message>
+    <message id="inspector_saveError">
+        <translation>Das letzte Sichern ist nicht gelungen</translation>
+    </message>
+    <message id="inspector_saveError_of">
+        <translation>%1 Medien konnten nicht gesichert werden</translation>
+    </message>
+    <message id="inspector_saveError_of_one">
+        <translation>1 Medium konnte nicht gesichert werden</translation>
+    </message>
+    <message id="inspector_setZones">
+        <translation>Zonen festlegen…</translation>
+    </message>
+    <message id="inspector_shift">
+        <translation>Verschiebung</translation>
+    </message>
+    <message id="inspector_showErrors">
+        <translation>Fehler anzeigen…</translation>
+    </message>
+    <message id="inspector_size">
+        <translation>Größe</translation>
+    </message>
+    <message id="inspector_sourceSlot">
+        <translation>Das Datum des Mediums</translation>
+    </message>
+    <message id="inspector_tagsMissing">
+        <translation>In der Datei fehlen Daten</translation>
+    </message>
+    <message id="inspector_tagsMissing_of">
+        <translation>%1 Medien mit fehlenden Daten</translation>
+    </message>
+    <message id="inspector_tagsMissing_of_one">
+        <translation>1 Medium mit fehlenden Daten</translation>
+    </message>
+    <message id="inspector_tagsWillBeAdded">
+        <translation>Fehlende Daten werden beim Sichern ergänzt</translation>
+    </message>
+    <message id="inspector_tagsWillBeAdded_of">
+        <translation>Fehlende Daten von %1 Medien werden beim Sichern ergänzt</translation>
+    </message>
+    <message id="inspector_tagsWillBeAdded_of_one">
+        <translation>Fehlende Daten von 1 Medium werden beim Sichern ergänzt</translation>
+    </message>
+    <message id="inspector_title">
+        <translation>Info</translation>
+    </message>
+    <message id="inspector_unsaved">
+        <translation>ungesichert</translation>
+    </message>
+    <message id="inspector_unsavedItems">
+        <translation>%1 ungesichert</translation>
+    </message>
+    <message id="inspector_unsavedItems_one">
+        <translation>1 ungesichert</translation>
+    </message>
+    <message id="inspector_youngerThanFile">
+        <translation>Das Datum in der Datei ist später als ihr Dateidatum, das stattdessen gezeigt wird</translation>
+    </message>
+    <message id="inspector_youngerThanFile_of">
+        <translation>%1 Medien, deren Datum später ist als ihr Dateidatum</translation>
+    </message>
+    <message id="inspector_youngerThanFile_of_one">
+        <translation>1 Medium, dessen Datum später ist als sein Dateidatum</translation>
+    </message>
+    <message id="inspector_zones">
+        <translation>Zone</translation>
+    </message>
+    <message id="inspector_zonesDisagree">
+        <translation>%1 Medien mit widersprüchlichen Zonen</translation>
+    </message>
+    <message id="inspector_zonesDisagree_one">
+        <translation>1 Medium mit widersprüchlichen Zonen</translation>
+    </message>
+    <message id="jobs_cancel">
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="jobs_cancelling">
+        <translation>wird angehalten…</translation>
+    </message>
+    <message id="jobs_cancelNamed">
+        <translation>Abbrechen: %1</translation>
+    </message>
+    <message id="jobs_doneOf">
+        <translation>%1 von %2</translation>
+    </message>
+    <message id="jobs_items">
+        <translation>%1 Medien</translation>
+    </message>
+    <message id="jobs_items_one">
+        <translation>1 Medium</translation>
+    </message>
+    <message id="jobs_perSecond">
+        <translation>%1 pro Sekunde</translation>
+    </message>
+    <message id="jobs_remaining">
+        <translation>noch %1</translation>
+    </message>
+    <message id="jobs_selected">
+        <translation>%1 ausgewählt</translation>
+    </message>
+    <message id="jobs_selected_one">
+        <translation>1 ausgewählt</translation>
+    </message>
+    <message id="jobs_unsaved">
+        <translation>%1 ungesichert</translation>
+    </message>
+    <message id="jobs_unsaved_one">
+        <translation>1 ungesichert</translation>
+    </message>
+    <message id="preview_after">
+        <translation>Aufnahme danach</translation>
+    </message>
+    <message id="preview_before">
+        <translation>Aufnahme davor</translation>
+    </message>
+    <message id="preview_main">
+        <translation>Vorschau</translation>
+    </message>
+    <message id="preview_none">
+        <translation>Keine weitere Aufnahme</translation>
+    </message>
+    <message id="preview_nothing">
+        <translation>Ein Medium auswählen, um es hier zu sehen</translation>
+    </message>
+    <message id="preview_pending">
+        <translation>Vorschau wird erstellt…</translation>
+    </message>
+    <message id="preview_sameTime">
+        <translation>gleichzeitig</translation>
+    </message>
+    <message id="shift_days">
+        <translation>&amp;Tage</translation>
+    </message>
+    <message id="shift_direction">
+        <translation>&amp;Verschieben</translation>
+    </message>
+    <message id="shift_earlier">
+        <translation>früher</translation>
+    </message>
+    <message id="shift_hint">
+        <translation>%1: %2 → %3</translation>
+    </message>
+    <message id="shift_hintUnchanged">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="shift_hours">
+        <translation>&amp;Stunden</translation>
+    </message>
+    <message id="shift_later">
+        <translation>später</translation>
+    </message>
+    <message id="shift_minutes">
+        <translation>&amp;Minuten</translation>
+    </message>
+    <message id="shift_mixedModes">
+        <translation>Die ausgewählten Ordner haben verschiedene Modi</translation>
+    </message>
+    <message id="shift_mode">
+        <translation>Modus</translation>
+    </message>
+    <message id="shift_noFolder">
+        <translation>Einen Ordner auswählen, um seine Daten zu verschieben</translation>
+    </message>
+    <message id="shift_noItem">
+        <translation>Die zu verschiebenden Medien auswählen</translation>
+    </message>
+    <message id="shift_nothingToShift">
+        <translation>Hier lässt sich kein Datum verschieben</translation>
+    </message>
+    <message id="shift_own">
+        <translation>jeweils eigene</translation>
+    </message>
+    <message id="shift_reset">
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message id="shift_resetTip">
+        <translation>Wieder die ursprünglichen Daten zeigen</translation>
+    </message>
+    <message id="shift_saving">
+        <translation>Es wird gesichert</translation>
+    </message>
+    <message id="shift_seconds">
+        <translation>Se&amp;kunden</translation>
+    </message>
+    <message id="shift_single">
+        <translation>&amp;Einzeln</translation>
+    </message>
+    <message id="shift_singleTip">
+        <translation>Jedes Medium hat eine eigene Verschiebung</translation>
+    </message>
+    <message id="shift_title">
+        <translation>Verschiebung</translation>
+    </message>
+    <message id="shift_together">
+        <translation>&amp;Gemeinsam</translation>
+    </message>
+    <message id="shift_togetherTip">
+        <translation>Eine Verschiebung für den ganzen Ordner</translation>
+    </message>
+    <message id="slot_exifDateTimeDigitized">
+        <translation>Digitalisiert</translation>
+    </message>
+    <message id="slot_exifDateTimeOriginal">
+        <translation>Aufgenommen</translation>
+    </message>
+    <message id="slot_fileCreationDate">
+        <translation>Datei erstellt</translation>
+    </message>
+    <message id="slot_fileModificationDate">
+        <translation>Datei geändert</translation>
+    </message>
+    <message id="slot_movie_exifDateTimeDigitized">
+        <translation>Digitalisiert</translation>
+    </message>
+    <message id="slot_movie_exifDateTimeOriginal">
+        <translation>Erstellt</translation>
+    </message>
+    <message id="slot_movie_tiffDateTime">
+        <translation>Geändert</translation>
+    </message>
+    <message id="slot_tiffDateTime">
+        <translation>Geändert</translation>
+    </message>
 </context>
 </TS>

@@ -2080,5 +2080,470 @@ Examples:
     <message id="weekday_short_7">
         <translation>Sun</translation>
     </message>
+    <message id="filter_all">
+        <translation>All</translation>
+    </message>
+    <message id="filter_clear">
+        <translation>C&amp;lear</translation>
+    </message>
+    <message id="filter_hidden">
+        <translation>%1 hidden</translation>
+    </message>
+    <message id="filter_hidden_one">
+        <translation>1 hidden</translation>
+    </message>
+    <message id="filter_keepers">
+        <translation>Keepers</translation>
+    </message>
+    <message id="filter_notRejected">
+        <translation>Not rejected</translation>
+    </message>
+    <message id="filter_other">
+        <translation>A filter of its own is on</translation>
+    </message>
+    <message id="filter_rating">
+        <translation>&amp;Show</translation>
+    </message>
+    <message id="filter_words">
+        <translation>Filter by name or camera</translation>
+    </message>
+    <message id="folders_add">
+        <translation>&amp;Add Folders…</translation>
+    </message>
+    <message id="folders_alerts">
+        <translation>%1 alerts</translation>
+    </message>
+    <message id="folders_alerts_one">
+        <translation>1 alert</translation>
+    </message>
+    <message id="folders_beingRead">
+        <translation>being read…</translation>
+    </message>
+    <message id="folders_datesIgnored">
+        <translation>dates inside ignored</translation>
+    </message>
+    <message id="folders_empty">
+        <translation>Drop folders or photos here</translation>
+    </message>
+    <message id="folders_emptyHint">
+        <translation>Nothing is changed in your files before you save.</translation>
+    </message>
+    <message id="folders_items">
+        <translation>%1 items</translation>
+    </message>
+    <message id="folders_items_one">
+        <translation>1 item</translation>
+    </message>
+    <message id="folders_itemsShifted">
+        <translation>%1 items shifted</translation>
+    </message>
+    <message id="folders_itemsShifted_one">
+        <translation>1 item shifted</translation>
+    </message>
+    <message id="folders_list">
+        <translation>Folders</translation>
+    </message>
+    <message id="folders_missing">
+        <translation>not found</translation>
+    </message>
+    <message id="folders_movieClockLocal">
+        <translation>movies in camera time</translation>
+    </message>
+    <message id="folders_renameErrors">
+        <translation>%1 not renamed</translation>
+    </message>
+    <message id="folders_renameErrors_one">
+        <translation>1 not renamed</translation>
+    </message>
+    <message id="folders_saveErrors">
+        <translation>%1 not saved</translation>
+    </message>
+    <message id="folders_saveErrors_one">
+        <translation>1 not saved</translation>
+    </message>
+    <message id="folders_single">
+        <translation>shifted one by one</translation>
+    </message>
+    <message id="folders_together">
+        <translation>shifted together</translation>
+    </message>
+    <message id="folders_unsaved">
+        <translation>%1 unsaved</translation>
+    </message>
+    <message id="folders_unsaved_one">
+        <translation>1 unsaved</translation>
+    </message>
+    <message id="folders_zoneExceptions">
+        <translation>%1 with zones of their own</translation>
+    </message>
+    <message id="folders_zoneExceptions_one">
+        <translation>1 with zones of its own</translation>
+    </message>
+    <message id="folders_zonesOfFiles">
+        <translation>each file’s own</translation>
+    </message>
+    <message id="inspector_actionFor">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="inspector_addMissingTags">
+        <translation>Add Missing Dates</translation>
+    </message>
+    <message id="inspector_alerts">
+        <translation>Alerts</translation>
+    </message>
+    <message id="inspector_before1970">
+        <translation>The date is that of the file and lies before 1970</translation>
+    </message>
+    <message id="inspector_before1970_of">
+        <translation>%1 file dates lie before 1970</translation>
+    </message>
+    <message id="inspector_before1970_of_one">
+        <translation>1 file date lies before 1970</translation>
+    </message>
+    <message id="inspector_camera">
+        <translation>Camera</translation>
+    </message>
+    <message id="inspector_cannotBeWritten">
+        <translation>%1 new dates would be read as another time</translation>
+    </message>
+    <message id="inspector_cannotBeWritten_one">
+        <translation>1 new date would be read as another time</translation>
+    </message>
+    <message id="inspector_changedSinceRead">
+        <translation>The file was changed since it was read</translation>
+    </message>
+    <message id="inspector_changedSinceRead_of">
+        <translation>%1 files were changed since they were read</translation>
+    </message>
+    <message id="inspector_changedSinceRead_of_one">
+        <translation>1 file was changed since it was read</translation>
+    </message>
+    <message id="inspector_dateFrom">
+        <translation>Date from</translation>
+    </message>
+    <message id="inspector_dates">
+        <translation>Dates</translation>
+    </message>
+    <message id="inspector_duration">
+        <translation>Duration</translation>
+    </message>
+    <message id="inspector_emptyTags">
+        <translation>The dates inside the file are empty</translation>
+    </message>
+    <message id="inspector_emptyTags_of">
+        <translation>%1 items with empty dates inside</translation>
+    </message>
+    <message id="inspector_emptyTags_of_one">
+        <translation>1 item with empty dates inside</translation>
+    </message>
+    <message id="inspector_folders">
+        <translation>several folders</translation>
+    </message>
+    <message id="inspector_gpsApart">
+        <translation>%1 items differ from their GPS time</translation>
+    </message>
+    <message id="inspector_gpsApart_one">
+        <translation>1 item differs from its GPS time</translation>
+    </message>
+    <message id="inspector_groupsApart">
+        <translation>%1 pairs whose files lie apart</translation>
+    </message>
+    <message id="inspector_groupsApart_one">
+        <translation>1 pair whose files lie apart</translation>
+    </message>
+    <message id="inspector_hardLinks">
+        <translation>several names on disk</translation>
+    </message>
+    <message id="inspector_items">
+        <translation>%1 items</translation>
+    </message>
+    <message id="inspector_items_one">
+        <translation>1 item</translation>
+    </message>
+    <message id="inspector_leaveTagsOut">
+        <translation>Don’t Add</translation>
+    </message>
+    <message id="inspector_leftAlone">
+        <translation>left alone</translation>
+    </message>
+    <message id="inspector_lens">
+        <translation>Lens</translation>
+    </message>
+    <message id="inspector_location">
+        <translation>Location</translation>
+    </message>
+    <message id="inspector_mixed">
+        <translation>mixed</translation>
+    </message>
+    <message id="inspector_noTags">
+        <translation>There is no date inside the file</translation>
+    </message>
+    <message id="inspector_noTags_of">
+        <translation>%1 items without a date inside</translation>
+    </message>
+    <message id="inspector_noTags_of_one">
+        <translation>1 item without a date inside</translation>
+    </message>
+    <message id="inspector_notFound">
+        <translation>The file is no longer there</translation>
+    </message>
+    <message id="inspector_notFound_of">
+        <translation>%1 files are no longer there</translation>
+    </message>
+    <message id="inspector_notFound_of_one">
+        <translation>1 file is no longer there</translation>
+    </message>
+    <message id="inspector_nothing">
+        <translation>Nothing selected</translation>
+    </message>
+    <message id="inspector_otherThanInFile">
+        <translation>%1 items are shown at another time than the file says</translation>
+    </message>
+    <message id="inspector_otherThanInFile_one">
+        <translation>1 item is shown at another time than the file says</translation>
+    </message>
+    <message id="inspector_readAsEarlier">
+        <translation>Read as the Earlier</translation>
+    </message>
+    <message id="inspector_readAsLater">
+        <translation>Read as the Later</translation>
+    </message>
+    <message id="inspector_renameError">
+        <translation>The last rename did not succeed</translation>
+    </message>
+    <message id="inspector_renameError_of">
+        <translation>%1 items could not be renamed</translation>
+    </message>
+    <message id="inspector_renameError_of_one">
+        <translation>1 item could not be renamed</translation>
+    </message>
+    <message id="inspector_repeatedTimes">
+        <translation>%1 items with a time that happens twice</translation>
+    </message>
+    <message id="inspector_repeatedTimes_one">
+        <translation>1 item with a time that happens twice</translation>
+    </message>
+    <message id="inspector_saveError">
+        <translation>The last save did not succeed</translation>
+    </message>
+    <message id="inspector_saveError_of">
+        <translation>%1 items could not be saved</translation>
+    </message>
+    <message id="inspector_saveError_of_one">
+        <translation>1 item could not be saved</translation>
+    </message>
+    <message id="inspector_setZones">
+        <translation>Set Zones…</translation>
+    </message>
+    <message id="inspector_shift">
+        <translation>Shift</translation>
+    </message>
+    <message id="inspector_showErrors">
+        <translation>Show the Errors…</translation>
+    </message>
+    <message id="inspector_size">
+        <translation>Size</translation>
+    </message>
+    <message id="inspector_sourceSlot">
+        <translation>The item’s date</translation>
+    </message>
+    <message id="inspector_tagsMissing">
+        <translation>Some dates are missing in the file</translation>
+    </message>
+    <message id="inspector_tagsMissing_of">
+        <translation>%1 items with missing dates</translation>
+    </message>
+    <message id="inspector_tagsMissing_of_one">
+        <translation>1 item with missing dates</translation>
+    </message>
+    <message id="inspector_tagsWillBeAdded">
+        <translation>Missing dates will be added when you save</translation>
+    </message>
+    <message id="inspector_tagsWillBeAdded_of">
+        <translation>Missing dates of %1 items will be added when you save</translation>
+    </message>
+    <message id="inspector_tagsWillBeAdded_of_one">
+        <translation>Missing dates of 1 item will be added when you save</translation>
+    </message>
+    <message id="inspector_title">
+        <translation>Inspector</translation>
+    </message>
+    <message id="inspector_unsaved">
+        <translation>unsaved</translation>
+    </message>
+    <message id="inspector_unsavedItems">
+        <translation>%1 unsaved</translation>
+    </message>
+    <message id="inspector_unsavedItems_one">
+        <translation>1 unsaved</translation>
+    </message>
+    <message id="inspector_youngerThanFile">
+        <translation>The date inside is later than the file’s, which is shown instead</translation>
+    </message>
+    <message id="inspector_youngerThanFile_of">
+        <translation>%1 items with a date inside that is later than the file’s</translation>
+    </message>
+    <message id="inspector_youngerThanFile_of_one">
+        <translation>1 item with a date inside that is later than the file’s</translation>
+    </message>
+    <message id="inspector_zones">
+        <translation>Zone</translation>
+    </message>
+    <message id="inspector_zonesDisagree">
+        <translation>%1 items whose zones disagree</translation>
+    </message>
+    <message id="inspector_zonesDisagree_one">
+        <translation>1 item whose zones disagree</translation>
+    </message>
+    <message id="jobs_cancel">
+        <translation>Cancel</translation>
+    </message>
+    <message id="jobs_cancelling">
+        <translation>stopping…</translation>
+    </message>
+    <message id="jobs_cancelNamed">
+        <translation>Cancel: %1</translation>
+    </message>
+    <message id="jobs_doneOf">
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="jobs_items">
+        <translation>%1 items</translation>
+    </message>
+    <message id="jobs_items_one">
+        <translation>1 item</translation>
+    </message>
+    <message id="jobs_perSecond">
+        <translation>%1 per second</translation>
+    </message>
+    <message id="jobs_remaining">
+        <translation>%1 left</translation>
+    </message>
+    <message id="jobs_selected">
+        <translation>%1 selected</translation>
+    </message>
+    <message id="jobs_selected_one">
+        <translation>1 selected</translation>
+    </message>
+    <message id="jobs_unsaved">
+        <translation>%1 unsaved</translation>
+    </message>
+    <message id="jobs_unsaved_one">
+        <translation>1 unsaved</translation>
+    </message>
+    <message id="preview_after">
+        <translation>Shot after</translation>
+    </message>
+    <message id="preview_before">
+        <translation>Shot before</translation>
+    </message>
+    <message id="preview_main">
+        <translation>Preview</translation>
+    </message>
+    <message id="preview_none">
+        <translation>No other shot</translation>
+    </message>
+    <message id="preview_nothing">
+        <translation>Select an item to see it here</translation>
+    </message>
+    <message id="preview_pending">
+        <translation>Making the preview…</translation>
+    </message>
+    <message id="preview_sameTime">
+        <translation>at the same time</translation>
+    </message>
+    <message id="shift_days">
+        <translation>&amp;days</translation>
+    </message>
+    <message id="shift_direction">
+        <translation>S&amp;hift</translation>
+    </message>
+    <message id="shift_earlier">
+        <translation>earlier</translation>
+    </message>
+    <message id="shift_hint">
+        <translation>%1: %2 → %3</translation>
+    </message>
+    <message id="shift_hintUnchanged">
+        <translation>%1: %2</translation>
+    </message>
+    <message id="shift_hours">
+        <translation>h&amp;ours</translation>
+    </message>
+    <message id="shift_later">
+        <translation>later</translation>
+    </message>
+    <message id="shift_minutes">
+        <translation>&amp;minutes</translation>
+    </message>
+    <message id="shift_mixedModes">
+        <translation>The selected folders are in different modes</translation>
+    </message>
+    <message id="shift_mode">
+        <translation>Mode</translation>
+    </message>
+    <message id="shift_noFolder">
+        <translation>Select a folder to shift its dates</translation>
+    </message>
+    <message id="shift_noItem">
+        <translation>Select the items to shift</translation>
+    </message>
+    <message id="shift_nothingToShift">
+        <translation>No date here can be shifted</translation>
+    </message>
+    <message id="shift_own">
+        <translation>each its own</translation>
+    </message>
+    <message id="shift_reset">
+        <translation>&amp;Reset</translation>
+    </message>
+    <message id="shift_resetTip">
+        <translation>Show the original dates again</translation>
+    </message>
+    <message id="shift_saving">
+        <translation>A save is running</translation>
+    </message>
+    <message id="shift_seconds">
+        <translation>se&amp;conds</translation>
+    </message>
+    <message id="shift_single">
+        <translation>One by &amp;one</translation>
+    </message>
+    <message id="shift_singleTip">
+        <translation>Each item has a shift of its own</translation>
+    </message>
+    <message id="shift_title">
+        <translation>Shift</translation>
+    </message>
+    <message id="shift_together">
+        <translation>&amp;Together</translation>
+    </message>
+    <message id="shift_togetherTip">
+        <translation>One shift for the whole folder</translation>
+    </message>
+    <message id="slot_exifDateTimeDigitized">
+        <translation>Digitised</translation>
+    </message>
+    <message id="slot_exifDateTimeOriginal">
+        <translation>Taken</translation>
+    </message>
+    <message id="slot_fileCreationDate">
+        <translation>File created</translation>
+    </message>
+    <message id="slot_fileModificationDate">
+        <translation>File modified</translation>
+    </message>
+    <message id="slot_movie_exifDateTimeDigitized">
+        <translation>Digitised</translation>
+    </message>
+    <message id="slot_movie_exifDateTimeOriginal">
+        <translation>Created</translation>
+    </message>
+    <message id="slot_movie_tiffDateTime">
+        <translation>Modified</translation>
+    </message>
+    <message id="slot_tiffDateTime">
+        <translation>Modified</translation>
+    </message>
 </context>
 </TS>

@@ -3,7 +3,6 @@
 
 #include "DisplayZone.h"
 #include "ItemTexts.h"
-#include "MySingleFolder.h"
 #include "Texts.h"
 #include "TimeTexts.h"
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "MySingleFolder.h"
 #include "TimelineStrip.h"
 #include "Zones.h"
 
