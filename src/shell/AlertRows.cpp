@@ -60,39 +60,48 @@ struct Remark {
 const std::vector<Remark> &remembered() {
     using Context = FilterContext;
     static const std::vector<Remark> table{
-        {"inspector_notFound", RowTone::Danger,
+        {"inspector_notFound",
+         RowTone::Danger,
          [](const MySinglePic &pic, const Context &) {
              return isInState(pic, FileUnchangedState::NotFound);
          },
          {}},
-        {"inspector_changedSinceRead", RowTone::Danger,
+        {"inspector_changedSinceRead",
+         RowTone::Danger,
          [](const MySinglePic &pic, const Context &) {
              return !isInState(pic, FileUnchangedState::Unchanged) &&
                     !isInState(pic, FileUnchangedState::NotFound);
          },
          {}},
-        {"inspector_saveError", RowTone::Danger,
+        {"inspector_saveError",
+         RowTone::Danger,
          [](const MySinglePic &pic, const Context &) { return hasBundleSaveError(pic); },
          {AlertAction::ShowErrors}},
-        {"inspector_renameError", RowTone::Danger,
+        {"inspector_renameError",
+         RowTone::Danger,
          [](const MySinglePic &pic, const Context &) { return pic.rename.hasRenameError != 0; },
          {AlertAction::ShowErrors}},
-        {"inspector_before1970", RowTone::Warning,
+        {"inspector_before1970",
+         RowTone::Warning,
          [](const MySinglePic &pic, const Context &) { return isMetaLessWith70Problem(pic); },
          {}},
         {"inspector_emptyTags", RowTone::Warning, hasEmptyMetaTagsAndThatsImportant, {}},
-        {"inspector_youngerThanFile", RowTone::Warning,
+        {"inspector_youngerThanFile",
+         RowTone::Warning,
          [](const MySinglePic &pic, const Context &) {
              return isPreferringFileDateAndThatsImportant(pic);
          },
          {AlertAction::SetZones}},
-        {"inspector_tagsMissing", RowTone::Plain,
+        {"inspector_tagsMissing",
+         RowTone::Plain,
          [](const MySinglePic &pic, const Context &) { return canTagsBeAdded(pic); },
          {AlertAction::AddMissingTags}},
-        {"inspector_tagsWillBeAdded", RowTone::Plain,
+        {"inspector_tagsWillBeAdded",
+         RowTone::Plain,
          [](const MySinglePic &pic, const Context &) { return areTagsWanted(pic); },
          {AlertAction::LeaveTagsOut}},
-        {"inspector_noTags", RowTone::Plain,
+        {"inspector_noTags",
+         RowTone::Plain,
          [](const MySinglePic &pic, const Context &) {
              return hasIgnoredEmbeddedMetasAndThatsImportant(pic) && !canTagsBeAdded(pic);
          },
@@ -135,27 +144,33 @@ AlertRow rowOf(const DateAlert &alert, const MySinglePic &pic) {
 const std::vector<Remark> &countedDates() {
     using Context = FilterContext;
     static const std::vector<Remark> table{
-        {"inspector_repeatedTimes", RowTone::Danger,
+        {"inspector_repeatedTimes",
+         RowTone::Danger,
          [](const MySinglePic &pic, const Context &) { return hasBundleDstAmbiguityAtImport(pic); },
          {AlertAction::ReadAsEarlier, AlertAction::ReadAsLater, AlertAction::SetZones}},
-        {"inspector_otherThanInFile", RowTone::Danger,
+        {"inspector_otherThanInFile",
+         RowTone::Danger,
          [](const MySinglePic &pic, const Context &) { return hasBundleDstDivergence(pic); },
          {AlertAction::SetZones}},
-        {"inspector_cannotBeWritten", RowTone::Danger,
+        {"inspector_cannotBeWritten",
+         RowTone::Danger,
          [](const MySinglePic &pic, const Context &context) {
              const MySingleFolderPtr folder = pic.spSingleRealFolder();
              return folder && hasBundleDstAmbiguityAtExport(pic, *folder, context.zones);
          },
          {AlertAction::SetZones}},
-        {"inspector_zonesDisagree", RowTone::Danger,
+        {"inspector_zonesDisagree",
+         RowTone::Danger,
          [](const MySinglePic &pic, const Context &) { return hasBundleMajorDateDifference(pic); },
          {AlertAction::SetZones}},
-        {"inspector_groupsApart", RowTone::Warning,
+        {"inspector_groupsApart",
+         RowTone::Warning,
          [](const MySinglePic &pic, const Context &) {
              return hasGroupDivergenceAndThatsImportant(pic);
          },
          {}},
-        {"inspector_gpsApart", RowTone::Warning,
+        {"inspector_gpsApart",
+         RowTone::Warning,
          [](const MySinglePic &pic, const Context &) {
              return hasBundleMinorDateDifferencesAndThatsImportant(pic);
          },

@@ -49,9 +49,10 @@ constexpr NumberedNote numberedNotes[] = {
      }},
     {"folders_alerts", RowTone::Warning,
      [](const MySingleFolder &folder, const FilterContext &context) {
-         return static_cast<std::int64_t>(std::ranges::count_if(
-             folder.sfPicDetails_fullArray,
-             [&](const MySinglePicPtr &pic) { return hasAnyAlert(*pic, context); }));
+         return static_cast<std::int64_t>(
+             std::ranges::count_if(folder.sfPicDetails_fullArray, [&](const MySinglePicPtr &pic) {
+                 return hasAnyAlert(*pic, context);
+             }));
      }},
 };
 
@@ -97,8 +98,8 @@ std::string FolderRow::words() const {
 std::string zoneWords(const MySingleFolder &folder, const Zones &zones) {
     const std::optional<ZoneChoice> &source = folder.sourceTimeZones.folderDefault;
     const std::optional<ZoneChoice> &target = folder.targetTimeZones.folderDefault;
-    const auto exceptions = static_cast<std::int64_t>(std::max(
-        folder.sourceTimeZones.ofItems.size(), folder.targetTimeZones.ofItems.size()));
+    const auto exceptions = static_cast<std::int64_t>(
+        std::max(folder.sourceTimeZones.ofItems.size(), folder.targetTimeZones.ofItems.size()));
     std::string words;
     if (source || target) {
         const TimeZoneDefaults both = changedTimeZoneDefaults(folder, zones);
@@ -118,13 +119,15 @@ FolderRow folderRow(const MySingleFolder &folder, const FilterContext &context, 
     row.name = folder.sfFolder;
     row.path = folder.sfFolderPath();
     row.isDimmed = isBeingRead || folder.isDisconnected;
-    row.count = isBeingRead ? text("folders_beingRead") : countText("folders_items", folder.count());
+    row.count =
+        isBeingRead ? text("folders_beingRead") : countText("folders_items", folder.count());
     row.zones = zoneWords(folder, context.zones);
     if (isBeingRead)
         return row;
     row.range = rangeText(folder, context.zones);
     row.shift = shiftWords(folder);
-    row.mode = text(folder.sfEditMode == EditMode::Together ? "folders_together" : "folders_single");
+    row.mode =
+        text(folder.sfEditMode == EditMode::Together ? "folders_together" : "folders_single");
     row.notes = notesOf(folder, context);
     row.isUnsaved = std::ranges::any_of(
         row.notes, [](const RowNote &note) { return note.tone == RowTone::Unsaved; });

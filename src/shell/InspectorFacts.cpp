@@ -124,8 +124,7 @@ InspectorFacts ofOne(const MySinglePic &pic, const MySingleFolder &folder,
     facts.title = nameWithCompanions(pic);
     facts.folder = folder.sfFolder;
     facts.colorIndex = folder.colorIndex;
-    facts.date =
-        dayAndTimeText(pic.spDateTimeModified(), displayZone(pic, folder, context.zones));
+    facts.date = dayAndTimeText(pic.spDateTimeModified(), displayZone(pic, folder, context.zones));
     facts.notes = notesOf(pic);
     facts.alerts = alertRows(pic, context);
     facts.files.push_back(fileFacts(pic, folder, liveContext, context.zones));
@@ -166,7 +165,8 @@ public:
         facts.colorIndex = m_folder.value ? (*m_folder.value)->colorIndex : noColorIndex;
         facts.date = range();
         if (m_unsaved > 0)
-            facts.notes.push_back({countText("inspector_unsavedItems", m_unsaved), RowTone::Unsaved});
+            facts.notes.push_back(
+                {countText("inspector_unsavedItems", m_unsaved), RowTone::Unsaved});
         facts.files.push_back({{}, rows(), {}});
         return facts;
     }

@@ -20,9 +20,9 @@ struct FactRow {
 /// One of the five dates of a file.
 struct SlotRow {
     std::string label;
-    std::string oldText; ///< "–" where the file has none
-    std::string newText; ///< what a save would write; "" for nothing
-    std::string remark;  ///< why not, where it is not plain
+    std::string oldText;   ///< "–" where the file has none
+    std::string newText;   ///< what a save would write; "" for nothing
+    std::string remark;    ///< why not, where it is not plain
     bool isSource = false; ///< the item's date comes from it
 
     bool operator==(const SlotRow &) const = default;
@@ -38,10 +38,10 @@ struct FileFacts {
 };
 
 struct InspectorFacts {
-    std::string title;       ///< name with companions, or the number of items; "" for no item
-    std::string folder;      ///< name, or that there are several
+    std::string title;  ///< name with companions, or the number of items; "" for no item
+    std::string folder; ///< name, or that there are several
     std::uint16_t colorIndex = noColorIndex;
-    std::string date;        ///< the one that is shown now; of several their range
+    std::string date; ///< the one that is shown now; of several their range
     std::vector<RowNote> notes;
     std::vector<AlertRow> alerts;
     std::vector<FileFacts> files; ///< the item, then the other half of its group

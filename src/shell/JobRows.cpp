@@ -35,10 +35,9 @@ std::string rateText(const JobStatus &status) {
     // Below ten a second the whole number says too little.
     const double rate = *status.perSecond;
     const double tenths = std::round(rate * 10);
-    const std::string number =
-        rate >= 10 ? numberText(std::llround(rate))
-                   : std::to_string(static_cast<int>(tenths) / 10) + '.' +
-                         std::to_string(static_cast<int>(tenths) % 10);
+    const std::string number = rate >= 10 ? numberText(std::llround(rate))
+                                          : std::to_string(static_cast<int>(tenths) / 10) + '.' +
+                                                std::to_string(static_cast<int>(tenths) % 10);
     return text("jobs_perSecond", {number});
 }
 

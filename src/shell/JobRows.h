@@ -8,7 +8,8 @@
 
 namespace chronomender {
 
-/// "120 of 400 · 35 per second · 8 s left", as far as it is known; "being stopped" while that waits.
+/// "120 of 400 · 35 per second · 8 s left", as far as it is known; "being stopped" while that
+/// waits.
 std::string progressText(const JobStatus &status);
 
 /// "412 items · 3 selected · 12 unsaved"; parts without a number are left out.

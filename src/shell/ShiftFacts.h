@@ -21,7 +21,7 @@ struct ShiftFacts {
     Target target = Target::Nothing;
     std::string reason; ///< why there is nothing to shift; "" where there is
     Combined<EditMode> mode;
-    CompoundFields fields; ///< absent: the folders or items differ
+    CompoundFields fields;  ///< absent: the folders or items differ
     bool isShifted = false; ///< there is something to reset
     std::string hint;       ///< what becomes of the first item's date
 };
