@@ -2545,5 +2545,173 @@ Beispiele:
     <message id="slot_tiffDateTime">
         <translation>Geändert</translation>
     </message>
+    <message id="about_information">
+        <translation>Berichtigt die Daten von Fotos und Filmen aus Kameras, deren Uhren sich widersprechen. Dateien werden nie neu geschrieben: nur die Bytes ihrer Daten ändern sich.</translation>
+    </message>
+    <message id="about_message">
+        <translation>chronoMender %1</translation>
+    </message>
+    <message id="dateSequence_first">
+        <translation>Erstes Datum</translation>
+    </message>
+    <message id="dateSequence_hours">
+        <translation>Stunden</translation>
+    </message>
+    <message id="dateSequence_minutes">
+        <translation>Minuten</translation>
+    </message>
+    <message id="dateSequence_seconds">
+        <translation>Sekunden</translation>
+    </message>
+    <message id="dateSequence_step">
+        <translation>Schritt</translation>
+    </message>
+    <message id="dateSequence_unit">
+        <translation>Einheit des Schritts</translation>
+    </message>
+    <message id="emptyTags_fileDate">
+        <translation>Das Datum der Datei auf der Platte</translation>
+    </message>
+    <message id="emptyTags_fixedDate">
+        <translation>Ein eigenes Datum, von Datei zu Datei fortlaufend</translation>
+    </message>
+    <message id="emptyTags_information">
+        <translation>Die Felder sind da, aber niemand hat die Uhr der Kamera gestellt. Welche Daten sollen diese Dateien haben?</translation>
+    </message>
+    <message id="emptyTags_leaveAlone">
+        <translation>Keines: nur zeigen, nie sichern</translation>
+    </message>
+    <message id="emptyTags_message">
+        <translation>Einige Dateien von „%1“ haben leere Datumsfelder</translation>
+    </message>
+    <message id="errorLog_delete">
+        <translation>Protokoll löschen</translation>
+    </message>
+    <message id="errorLog_empty">
+        <translation>Es gibt keine.</translation>
+    </message>
+    <message id="errorLog_information">
+        <translation>Die neuesten stehen am Ende.</translation>
+    </message>
+    <message id="errorLog_message">
+        <translation>Fehler der letzten Läufe</translation>
+    </message>
+    <message id="errorLog_text">
+        <translation>Fehlerprotokoll</translation>
+    </message>
+    <message id="errors_text">
+        <translation>Fehler und ihre Dateien</translation>
+    </message>
+    <message id="importOptions_accept">
+        <translation>Lesen</translation>
+    </message>
+    <message id="importOptions_allFiles">
+        <translation>Alle</translation>
+    </message>
+    <message id="importOptions_depth">
+        <translation>Ebenen von Ordnern</translation>
+    </message>
+    <message id="importOptions_extensions">
+        <translation>Endungen</translation>
+    </message>
+    <message id="importOptions_filterKind">
+        <translation>Dateien</translation>
+    </message>
+    <message id="importOptions_groups">
+        <translation>Raw mit JPEG und Foto mit Film als eines nehmen</translation>
+    </message>
+    <message id="importOptions_ignoreDates">
+        <translation>Die Daten in den Dateien nicht beachten</translation>
+    </message>
+    <message id="importOptions_information">
+        <translation>Diese Angaben gelten nur für dieses Mal.</translation>
+    </message>
+    <message id="importOptions_messageMany">
+        <translation>Wie sollen diese %1 gelesen werden?</translation>
+    </message>
+    <message id="importOptions_messageOne">
+        <translation>Wie soll dieser Ordner gelesen werden?</translation>
+    </message>
+    <message id="importOptions_notExtensions">
+        <translation>Alle außer diesen Endungen</translation>
+    </message>
+    <message id="importOptions_onlyExtensions">
+        <translation>Nur mit diesen Endungen</translation>
+    </message>
+    <message id="importOptions_sequence">
+        <translation>Daten der Reihe nach vergeben</translation>
+    </message>
+    <message id="importOptions_single">
+        <translation>Jedes einzeln verschieben</translation>
+    </message>
+    <message id="importOptions_subfolders">
+        <translation>Ordner in Ordnern lesen</translation>
+    </message>
+    <message id="importOptions_systemZone">
+        <translation>Wie dieser Rechner</translation>
+    </message>
+    <message id="importOptions_zone">
+        <translation>Zeitzone der Kamerauhr</translation>
+    </message>
+    <message id="movieOptions_information">
+        <translation>Der Kopf eines Films soll Weltzeit enthalten. Viele Kameras schreiben ihre eigene Uhr hinein.</translation>
+    </message>
+    <message id="movieOptions_local">
+        <translation>Die Uhr der Kamera</translation>
+    </message>
+    <message id="movieOptions_message">
+        <translation>Was sagen die Filme von „%1“?</translation>
+    </message>
+    <message id="movieOptions_metadata">
+        <translation>Hat ein Film auch ein Datum mit Zeitzone, dieses nehmen</translation>
+    </message>
+    <message id="movieOptions_utc">
+        <translation>Weltzeit, wie Telefone</translation>
+    </message>
+    <message id="notice_text">
+        <translation>Einzelheiten</translation>
+    </message>
+    <message id="preSave_detail">
+        <translation>Einzelheit</translation>
+    </message>
+    <message id="preSave_file">
+        <translation>Datei</translation>
+    </message>
+    <message id="preSave_folder">
+        <translation>Ordner</translation>
+    </message>
+    <message id="preSave_keepZones">
+        <translation>Ihre Zonen behalten</translation>
+    </message>
+    <message id="preSave_list">
+        <translation>Probleme und ihre Dateien</translation>
+    </message>
+    <message id="sheet_cancel">
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="sheet_close">
+        <translation>Schließen</translation>
+    </message>
+    <message id="sheet_continue">
+        <translation>Weiter</translation>
+    </message>
+    <message id="sheet_dontAskAgain">
+        <translation>Nicht wieder fragen</translation>
+    </message>
+    <message id="shortcuts_command">
+        <translation>Befehl</translation>
+    </message>
+    <message id="shortcuts_information">
+        <translation>Pfeiltasten gehen die Zeitleiste entlang; Leertaste wählt aus, Enter legt ab, was bewegt wird, Esc lässt los.</translation>
+    </message>
+    <message id="shortcuts_keys">
+        <translation>Tasten</translation>
+    </message>
+    <message id="shortcuts_list">
+        <translation>Befehle und ihre Tasten</translation>
+    </message>
+    <message id="shortcuts_message">
+        <translation>Tastaturkürzel</translation>
+    </message>
 </context>
 </TS>

@@ -2545,5 +2545,173 @@ Examples:
     <message id="slot_tiffDateTime">
         <translation>Modified</translation>
     </message>
+    <message id="about_information">
+        <translation>Mends the dates of photos and movies from cameras whose clocks disagree. Files are never rewritten: only the bytes of their dates change.</translation>
+    </message>
+    <message id="about_message">
+        <translation>chronoMender %1</translation>
+    </message>
+    <message id="dateSequence_first">
+        <translation>First date</translation>
+    </message>
+    <message id="dateSequence_hours">
+        <translation>hours</translation>
+    </message>
+    <message id="dateSequence_minutes">
+        <translation>minutes</translation>
+    </message>
+    <message id="dateSequence_seconds">
+        <translation>seconds</translation>
+    </message>
+    <message id="dateSequence_step">
+        <translation>Step</translation>
+    </message>
+    <message id="dateSequence_unit">
+        <translation>Unit of the step</translation>
+    </message>
+    <message id="emptyTags_fileDate">
+        <translation>The date of the file on disk</translation>
+    </message>
+    <message id="emptyTags_fixedDate">
+        <translation>A date of your own, rising from file to file</translation>
+    </message>
+    <message id="emptyTags_information">
+        <translation>The tags are there, but nobody has set the camera’s clock. Which dates are these files to have?</translation>
+    </message>
+    <message id="emptyTags_leaveAlone">
+        <translation>None: show them, and never save them</translation>
+    </message>
+    <message id="emptyTags_message">
+        <translation>Some files of “%1” have empty date tags</translation>
+    </message>
+    <message id="errorLog_delete">
+        <translation>Delete Log</translation>
+    </message>
+    <message id="errorLog_empty">
+        <translation>There are none.</translation>
+    </message>
+    <message id="errorLog_information">
+        <translation>The newest stand at the end.</translation>
+    </message>
+    <message id="errorLog_message">
+        <translation>Errors of the last runs</translation>
+    </message>
+    <message id="errorLog_text">
+        <translation>Error log</translation>
+    </message>
+    <message id="errors_text">
+        <translation>Errors and their files</translation>
+    </message>
+    <message id="importOptions_accept">
+        <translation>Read</translation>
+    </message>
+    <message id="importOptions_allFiles">
+        <translation>All</translation>
+    </message>
+    <message id="importOptions_depth">
+        <translation>Levels of folders</translation>
+    </message>
+    <message id="importOptions_extensions">
+        <translation>Extensions</translation>
+    </message>
+    <message id="importOptions_filterKind">
+        <translation>Files</translation>
+    </message>
+    <message id="importOptions_groups">
+        <translation>Take raw with JPEG, and photo with movie, as one</translation>
+    </message>
+    <message id="importOptions_ignoreDates">
+        <translation>Ignore the dates inside the files</translation>
+    </message>
+    <message id="importOptions_information">
+        <translation>These choices hold for this time only.</translation>
+    </message>
+    <message id="importOptions_messageMany">
+        <translation>How are these %1 to be read?</translation>
+    </message>
+    <message id="importOptions_messageOne">
+        <translation>How is this folder to be read?</translation>
+    </message>
+    <message id="importOptions_notExtensions">
+        <translation>All but these extensions</translation>
+    </message>
+    <message id="importOptions_onlyExtensions">
+        <translation>Only with these extensions</translation>
+    </message>
+    <message id="importOptions_sequence">
+        <translation>Give dates one after the other</translation>
+    </message>
+    <message id="importOptions_single">
+        <translation>Shift each by itself</translation>
+    </message>
+    <message id="importOptions_subfolders">
+        <translation>Read folders inside folders</translation>
+    </message>
+    <message id="importOptions_systemZone">
+        <translation>As this computer</translation>
+    </message>
+    <message id="importOptions_zone">
+        <translation>Time zone of the camera’s clock</translation>
+    </message>
+    <message id="movieOptions_information">
+        <translation>A movie’s header is to hold universal time. Many cameras write their own clock there.</translation>
+    </message>
+    <message id="movieOptions_local">
+        <translation>The camera’s own clock</translation>
+    </message>
+    <message id="movieOptions_message">
+        <translation>What do the movies of “%1” tell?</translation>
+    </message>
+    <message id="movieOptions_metadata">
+        <translation>Where a movie also has a date with its zone, take that</translation>
+    </message>
+    <message id="movieOptions_utc">
+        <translation>Universal time, as phones do</translation>
+    </message>
+    <message id="notice_text">
+        <translation>Details</translation>
+    </message>
+    <message id="preSave_detail">
+        <translation>Detail</translation>
+    </message>
+    <message id="preSave_file">
+        <translation>File</translation>
+    </message>
+    <message id="preSave_folder">
+        <translation>Folder</translation>
+    </message>
+    <message id="preSave_keepZones">
+        <translation>Keep Their Zones</translation>
+    </message>
+    <message id="preSave_list">
+        <translation>Problems and their files</translation>
+    </message>
+    <message id="sheet_cancel">
+        <translation>Cancel</translation>
+    </message>
+    <message id="sheet_close">
+        <translation>Close</translation>
+    </message>
+    <message id="sheet_continue">
+        <translation>Continue</translation>
+    </message>
+    <message id="sheet_dontAskAgain">
+        <translation>Do not ask again</translation>
+    </message>
+    <message id="shortcuts_command">
+        <translation>Command</translation>
+    </message>
+    <message id="shortcuts_information">
+        <translation>Arrow keys walk along the timeline; Space selects, Enter drops what is being moved, Esc lets go.</translation>
+    </message>
+    <message id="shortcuts_keys">
+        <translation>Keys</translation>
+    </message>
+    <message id="shortcuts_list">
+        <translation>Commands and their keys</translation>
+    </message>
+    <message id="shortcuts_message">
+        <translation>Keyboard shortcuts</translation>
+    </message>
 </context>
 </TS>

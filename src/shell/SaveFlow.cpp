@@ -35,7 +35,8 @@ bool SaveFlow::start(SaveRequest request, std::optional<RenameChoices> choices) 
     if (!isIdle())
         return false;
     m_request = std::move(request);
-    m_controller.setRenameChoices(std::move(choices));
+    m_choices = std::move(choices);
+    m_controller.setRenameChoices(m_choices);
     m_job = beginJob(JobKind::Check, "workPanelPreSave");
     setStage(Stage::Checking);
     m_controller.startPreProcess(

@@ -35,6 +35,10 @@ public:
     /// `choices` is what a rename goes by, in place of the preferences. False while another run is
     /// under way.
     bool start(SaveRequest request, std::optional<RenameChoices> choices = {});
+    /// The last run from its first stage on, as it was asked for.
+    bool startAgain() { return start(m_request, m_choices); }
+    /// The last run gives names, or will.
+    bool renames() const { return m_request.type != SaveProcessType::Save; }
 
 Q_SIGNALS:
     void stageChanged();
@@ -54,6 +58,7 @@ private:
     WindowQuestions &m_questions;
     Stage m_stage = Stage::Idle;
     SaveRequest m_request;
+    std::optional<RenameChoices> m_choices;
     std::shared_ptr<Job> m_job;
 };
 
