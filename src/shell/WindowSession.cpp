@@ -169,7 +169,9 @@ void WindowSession::markSelectedFolder() {
 
 void WindowSession::tellEverything() {
     m_selectedFolders = amongThose(folders(), m_selectedFolders);
-    followMainPic();
+    if (m_selectedFolders.empty())
+        followMainPic();
+    markSelectedFolder();
     Q_EMIT foldersChanged();
     Q_EMIT listChanged();
     Q_EMIT selectionChanged();
@@ -221,8 +223,9 @@ void WindowSession::afterUndo() {
     TimelineStrip &strip = timelines().focusedTimeline();
     if (pic && strip.indexOf(*pic) && !strip.selection.contains(pic))
         timelines().simpleSelectThumb(pic, strip);
-    const auto folder = manager.lastAffectedObject<MySingleFolder>();
-    if (folder && !pic)
+    const auto folder =
+        pic ? pic->spSingleRealFolder() : manager.lastAffectedObject<MySingleFolder>();
+    if (folder && std::ranges::find(m_selectedFolders, folder) == m_selectedFolders.end())
         m_selectedFolders = {folder};
     Q_EMIT stripsChanged();
     tellEverything();
