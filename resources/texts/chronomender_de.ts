@@ -2713,5 +2713,17 @@ Beispiele:
     <message id="shortcuts_message">
         <translation>Tastaturkürzel</translation>
     </message>
+    <message id="thumb_cannotBeOpened">
+        <translation>Die Datei lässt sich nicht öffnen</translation>
+    </message>
+    <message id="thumb_damagedOrUnknown">
+        <translation>Das Bild ist beschädigt oder von unbekannter Art</translation>
+    </message>
+    <message id="thumb_noPicture">
+        <translation>Die Datei enthält kein Bild</translation>
+    </message>
+    <message id="thumb_tooLarge">
+        <translation>Das Bild ist zu groß, um gezeigt zu werden</translation>
+    </message>
 </context>
 </TS>

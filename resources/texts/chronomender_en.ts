@@ -2713,5 +2713,17 @@ Examples:
     <message id="shortcuts_message">
         <translation>Keyboard shortcuts</translation>
     </message>
+    <message id="thumb_cannotBeOpened">
+        <translation>The file cannot be opened</translation>
+    </message>
+    <message id="thumb_damagedOrUnknown">
+        <translation>The picture is damaged or of an unknown kind</translation>
+    </message>
+    <message id="thumb_noPicture">
+        <translation>There is no picture in the file</translation>
+    </message>
+    <message id="thumb_tooLarge">
+        <translation>The picture is too large to be shown</translation>
+    </message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 #include "InternalPreviews.h"
 
 #include "JpegFormat.h"
+#include "JpegWalk.h"
 
 #include <algorithm>
 
@@ -11,39 +12,8 @@ namespace {
 
 constexpr int kMostNested = 3;
 constexpr std::int32_t kLargeEnough = 640;
-constexpr int kMostSegments = 1000;
 /// As many bytes as tell a start marker; an end marker has one less.
 constexpr std::size_t kMarkerBytes = 3;
-
-struct Size {
-    std::int32_t width = 0, height = 0;
-};
-
-/// Width and height from the frame header of the JPEG at the beginning of `jpeg`.
-std::optional<Size> sizeOf(const ByteRange &jpeg) {
-    std::uint64_t at = kJpegFirstSegment;
-    for (int i = 0; i < kMostSegments; ++i) {
-        const auto segment = jpeg.bytes(at, kJpegFrameHeader);
-        if (!segment || segment->front() != kJpegMarkerPrefix)
-            return std::nullopt;
-        const auto marker = static_cast<std::uint8_t>(segment->at(1));
-        const auto number = [&](std::size_t from) {
-            return number16(segment->substr(from), ByteOrder::Motorola);
-        };
-        if (marker == kJpegFill) {
-            ++at;
-            continue;
-        }
-        if (marker >= kJpegFrameFirst && marker <= kJpegFrameProgressive) {
-            const Size size{number(kJpegFrameWidthAt), number(kJpegFrameHeightAt)};
-            return size.width > 0 && size.height > 0 ? std::optional(size) : std::nullopt;
-        }
-        if (marker == kJpegMarkerStartOfScan || number(kJpegMarkerLength) < kJpegShortestSegment)
-            return std::nullopt;
-        at += kJpegMarkerLength + number(kJpegMarkerLength);
-    }
-    return std::nullopt;
-}
 
 enum class Marker : std::uint8_t { Start, End };
 struct FoundMarker {
@@ -111,7 +81,7 @@ private:
     bool m_hasMore = true;
 };
 
-bool isLarger(const Size &size, const std::optional<InternalPreview> &best) {
+bool isLarger(const JpegSize &size, const std::optional<InternalPreview> &best) {
     return !best || (size.width > best->width && size.height > best->height);
 }
 
@@ -133,7 +103,7 @@ std::optional<InternalPreview> savereadInternalJPGs(FileWindow &window, std::uin
         if (nested == 0 || --nested > 0)
             continue;
         const ByteBlock bytes{start, marker->offset + kJpegMarkerLength - start};
-        const auto size = sizeOf(ByteRange(window).part(bytes.offset, bytes.length));
+        const auto size = jpegFrameSize(ByteRange(window).part(bytes.offset, bytes.length));
         if (!size)
             break;
         if (isLarger(*size, best))

@@ -9,6 +9,7 @@ namespace {
 
 /// Far more than any writer makes; ends a file that consists of nothing but tiny segments.
 constexpr int kMostSegments = 65536;
+constexpr int kMostSegmentsToFrame = 1000;
 /// As many bytes as tell an Exif segment from others: marker, length, identifier and TIFF magic.
 constexpr std::size_t kSegmentStart = kJpegExifHeaderAt + kTiffMagicLength;
 
@@ -112,6 +113,31 @@ bool isXmpPacketAt(const ByteRange &file, std::uint64_t offset) {
             return true;
     }
     return false;
+}
+
+std::optional<JpegSize> jpegFrameSize(const ByteRange &jpeg) {
+    std::uint64_t at = kJpegFirstSegment;
+    for (int i = 0; i < kMostSegmentsToFrame; ++i) {
+        const auto segment = jpeg.bytes(at, kJpegFrameHeader);
+        if (!segment || segment->front() != kJpegMarkerPrefix)
+            return std::nullopt;
+        const auto marker = static_cast<std::uint8_t>(segment->at(1));
+        const auto number = [&](std::size_t from) {
+            return number16(segment->substr(from), ByteOrder::Motorola);
+        };
+        if (marker == kJpegFill) {
+            ++at;
+            continue;
+        }
+        if (marker >= kJpegFrameFirst && marker <= kJpegFrameProgressive) {
+            const JpegSize size{number(kJpegFrameWidthAt), number(kJpegFrameHeightAt)};
+            return size.width > 0 && size.height > 0 ? std::optional(size) : std::nullopt;
+        }
+        if (marker == kJpegMarkerStartOfScan || number(kJpegMarkerLength) < kJpegShortestSegment)
+            return std::nullopt;
+        at += kJpegMarkerLength + number(kJpegMarkerLength);
+    }
+    return std::nullopt;
 }
 
 } // namespace chronomender

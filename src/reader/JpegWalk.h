@@ -23,6 +23,12 @@ std::optional<ByteBlock> firstJpgXmpPacket(const ByteRange &file);
 /// such segment there.
 std::optional<ByteBlock> jpgXmpPacketAt(const ByteRange &file, std::uint64_t offset);
 
+/// Width and height from the frame header of the JPEG at the beginning of `jpeg`; none without one.
+struct JpegSize {
+    std::int32_t width = 0, height = 0;
+};
+std::optional<JpegSize> jpegFrameSize(const ByteRange &jpeg);
+
 /// Whether an XMP packet begins at this place of a file.
 bool isXmpPacketAt(const ByteRange &file, std::uint64_t offset);
 

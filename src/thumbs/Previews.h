@@ -24,16 +24,19 @@ struct PreviewAnswer {
 /// a bound. Main thread, with an event loop.
 class Previews {
 public:
-    explicit Previews(std::size_t mostBytes = 192U << 20U);
+    explicit Previews(std::size_t mostBytes = 192U << 20U,
+                      RawJpgDisplayType rawJpgDisplayType = RawJpgDisplayType::Master);
     ~Previews();
     Previews(const Previews &) = delete;
     Previews &operator=(const Previews &) = delete;
 
     /// Called on the main thread when an answer is another one now.
     void setChanged(std::function<void(std::uint32_t sessionUniqueId)> changed);
-    /// The picture with its longer side near `side` pixels (never enlarged). Where there is none
-    /// yet, it is asked for; what was asked for before `keep` items ago is dropped.
+    /// The picture with its longer side at `side` pixels or a little more (never enlarged). Where
+    /// there is none of that size yet, it is asked for, and a smaller one stands in where there is
+    /// one. Of many that were asked for in a row, only the last few are made.
     PreviewAnswer preview(const MySinglePicPtr &pic, int side);
+    /// The file is another one now, or the item left the session.
     void forget(const MySinglePicPtr &pic);
 
 private:

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "MyBuildThumbOperation.h"
 #include "MySinglePic.h"
+#include "ThumbEntry.h"
 
 #include <QImage>
 
@@ -13,9 +15,6 @@
 #include <vector>
 
 namespace chronomender {
-
-/// The sizes of a thumbnail: its longer side in pixels. Nothing is ever enlarged to one.
-enum class ThumbSide : int { Mini = 50, Normal = 126, Maxi = 252 };
 
 enum class ThumbState : std::uint8_t {
     Ready,
@@ -37,6 +36,7 @@ struct ThumbnailSettings {
     bool vqsFspUsesHigherResScrollingAtTheCostOfMuchRam = false; ///< Maxi is kept
     bool autoBGThumbGeneration = true; ///< items that nobody looks at yet get theirs, too
     int threads = 0;                   ///< 0: one for each processor
+    RawJpgDisplayType rawJpgDisplayType = RawJpgDisplayType::Master;
 };
 
 /// The thumbnails of a session's items: made on workers in the order of what is on screen, kept
@@ -56,7 +56,10 @@ public:
     void setPausedForEviction(std::function<void()> paused);
 
     /// The largest picture up to `side` that is at hand. Where there is none yet, it is asked for.
+    /// Cheap: neither decodes nor looks at a file.
     ThumbAnswer spThumb(const MySinglePicPtr &pic, ThumbSide side = ThumbSide::Normal);
+    /// The size of the largest picture that is kept; 200 × 200 for an item without a thumbnail.
+    QSize validatedThumbSize(const MySinglePicPtr &pic) const;
 
     /// What is on screen now, most wanted first: made before everything else.
     void setOnScreen(std::vector<MySinglePicPtr> pics);
@@ -67,7 +70,7 @@ public:
     /// Items that left the session.
     void forget(const std::vector<MySinglePicPtr> &pics);
 
-    /// Nothing is made while a save writes or a user asked for quiet.
+    /// Nothing is begun while a save writes or a user asked for quiet.
     void setIsAutoBGThumbsPaused(bool isPaused);
     bool autoBGThumbGeneration() const;
 

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MyBuildThumbOperation.h"
+
+#include "MySinglePic.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace chronomender {
+
+namespace {
+
+struct ReasonKey {
+    PictureFailure failure;
+    std::string_view key;
+};
+constexpr ReasonKey kReasonKeys[]{
+    {PictureFailure::CannotBeOpened, "thumb_cannotBeOpened"},
+    {PictureFailure::DamagedOrUnknown, "thumb_damagedOrUnknown"},
+    {PictureFailure::TooLarge, "thumb_tooLarge"},
+    {PictureFailure::NoPicture, "thumb_noPicture"},
+    {PictureFailure::Cancelled, "thumb_damagedOrUnknown"}, // never shown
+};
+
+} // namespace
+
+BuiltThumb MyBuildThumbOperation::buildThumb(const Cancellation &cancellation) const {
+    if (cancellation.isRequested())
+        return {{}, PictureFailure::Cancelled};
+    if (!compressedData.isEmpty()) {
+        if (auto entry = setSpThumbFromCompressedData(compressedData, keepMaxi))
+            return {std::move(entry), {}};
+    }
+    const auto side = keepMaxi == KeepMaxi::Yes ? ThumbSide::Maxi : ThumbSide::Normal;
+    const UprightPicture picture = newImageFromSource(
+        path, static_cast<int>(side), PictureChoice::EmbeddedIfLargeEnough, &cancellation);
+    return {setSpThumb(picture.image, keepMaxi),
+            picture.failure.value_or(PictureFailure::DamagedOrUnknown)};
+}
+
+std::string thumbSourcePath(const MySinglePic &pic, RawJpgDisplayType rawJpgDisplayType) {
+    const MySinglePicPtr &dependent = pic.group.bundleDependentImage;
+    const bool isDependentShown =
+        rawJpgDisplayType == RawJpgDisplayType::Dependent && dependent && !dependent->isMovie();
+    return isDependentShown ? dependent->spPath() : pic.spPath();
+}
+
+std::string_view thumbReasonKey(PictureFailure failure) {
+    return std::ranges::find(kReasonKeys, failure, &ReasonKey::failure)->key;
+}
+
+} // namespace chronomender
