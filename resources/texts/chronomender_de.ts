@@ -2020,6 +2020,12 @@ Beispiele:
     <message id="rename_suffixVisibility">
         <translation>&amp;Endung</translation>
     </message>
+    <message id="zones_apply">
+        <translation>An&amp;wenden</translation>
+    </message>
+    <message id="zones_cancel">
+        <translation>Abbrechen</translation>
+    </message>
     <message id="zones_clockCamera">
         <translation>Uhr der Kamera</translation>
     </message>
@@ -2035,11 +2041,26 @@ Beispiele:
     <message id="zones_firstItem">
         <translation>Erstes</translation>
     </message>
+    <message id="zones_forFolder">
+        <translation>Zeitzonen von „%1“</translation>
+    </message>
+    <message id="zones_forFolders">
+        <translation>Zeitzonen von %1 Ordnern</translation>
+    </message>
+    <message id="zones_forItem">
+        <translation>Zeitzonen nur von „%1“</translation>
+    </message>
+    <message id="zones_forItems">
+        <translation>Zeitzonen nur der %1 gewählten Medien</translation>
+    </message>
     <message id="zones_lastItem">
         <translation>Letztes</translation>
     </message>
     <message id="zones_mainItem">
         <translation>Gewähltes</translation>
+    </message>
+    <message id="zones_mixed">
+        <translation>Sie sind verschieden und bleiben es, bis etwas gewählt wird.</translation>
     </message>
     <message id="zones_noteOtherOffset">
         <translation>anderer Abstand ab %1</translation>
@@ -2724,6 +2745,42 @@ Beispiele:
     </message>
     <message id="thumb_tooLarge">
         <translation>Das Bild ist zu groß, um gezeigt zu werden</translation>
+    </message>
+    <message id="zones_search">
+        <translation>Suche</translation>
+    </message>
+    <message id="zones_searchHint">
+        <translation>Stadt, Land oder Abstand (+9)</translation>
+    </message>
+    <message id="zones_source">
+        <translation>Die Uhr der Kamera meinte</translation>
+    </message>
+    <message id="zones_sourceNamed">
+        <translation>&amp;Eine Zone:</translation>
+    </message>
+    <message id="zones_sourceSystem">
+        <translation>Die &amp;Zone dieses Computers (%1)</translation>
+    </message>
+    <message id="zones_target">
+        <translation>Die Dateien sollen sagen</translation>
+    </message>
+    <message id="zones_targetNamed">
+        <translation>Eine Zo&amp;ne:</translation>
+    </message>
+    <message id="zones_targetOwn">
+        <translation>Die im Foto gespeicherte Z&amp;one</translation>
+    </message>
+    <message id="zones_targetSame">
+        <translation>&amp;Dasselbe wie die Uhr der Kamera</translation>
+    </message>
+    <message id="zones_targetSystem">
+        <translation>Die Zone dieses &amp;Computers (%1)</translation>
+    </message>
+    <message id="zones_title">
+        <translation>Zeitzonen</translation>
+    </message>
+    <message id="zones_worldClock">
+        <translation>Was die Uhren sagen</translation>
     </message>
 </context>
 </TS>

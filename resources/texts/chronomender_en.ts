@@ -2020,6 +2020,12 @@ Examples:
     <message id="rename_suffixVisibility">
         <translation>&amp;Extension</translation>
     </message>
+    <message id="zones_apply">
+        <translation>&amp;Apply</translation>
+    </message>
+    <message id="zones_cancel">
+        <translation>Cancel</translation>
+    </message>
     <message id="zones_clockCamera">
         <translation>Camera’s clock</translation>
     </message>
@@ -2035,11 +2041,26 @@ Examples:
     <message id="zones_firstItem">
         <translation>First</translation>
     </message>
+    <message id="zones_forFolder">
+        <translation>Time zones of “%1”</translation>
+    </message>
+    <message id="zones_forFolders">
+        <translation>Time zones of %1 folders</translation>
+    </message>
+    <message id="zones_forItem">
+        <translation>Time zones of “%1” alone</translation>
+    </message>
+    <message id="zones_forItems">
+        <translation>Time zones of the %1 selected items alone</translation>
+    </message>
     <message id="zones_lastItem">
         <translation>Last</translation>
     </message>
     <message id="zones_mainItem">
         <translation>Selected</translation>
+    </message>
+    <message id="zones_mixed">
+        <translation>They differ, and stay so until something is chosen.</translation>
     </message>
     <message id="zones_noteOtherOffset">
         <translation>other offset from %1</translation>
@@ -2724,6 +2745,42 @@ Examples:
     </message>
     <message id="thumb_tooLarge">
         <translation>The picture is too large to be shown</translation>
+    </message>
+    <message id="zones_search">
+        <translation>search</translation>
+    </message>
+    <message id="zones_searchHint">
+        <translation>City, country or offset (+9)</translation>
+    </message>
+    <message id="zones_source">
+        <translation>The camera’s clock meant</translation>
+    </message>
+    <message id="zones_sourceNamed">
+        <translation>&amp;A zone:</translation>
+    </message>
+    <message id="zones_sourceSystem">
+        <translation>&amp;This computer’s zone (%1)</translation>
+    </message>
+    <message id="zones_target">
+        <translation>The files are to say</translation>
+    </message>
+    <message id="zones_targetNamed">
+        <translation>A &amp;zone:</translation>
+    </message>
+    <message id="zones_targetOwn">
+        <translation>Each photo’s &amp;own stored zone</translation>
+    </message>
+    <message id="zones_targetSame">
+        <translation>The &amp;same as the camera’s clock</translation>
+    </message>
+    <message id="zones_targetSystem">
+        <translation>This &amp;computer’s zone (%1)</translation>
+    </message>
+    <message id="zones_title">
+        <translation>Time Zones</translation>
+    </message>
+    <message id="zones_worldClock">
+        <translation>What the clocks say</translation>
     </message>
 </context>
 </TS>
