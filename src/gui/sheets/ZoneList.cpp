@@ -3,6 +3,7 @@
 
 #include "Controls.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
