@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <utility>
 
 namespace chronomender {
@@ -76,23 +77,29 @@ Told told(const Copy &copy, const Zones &zones) {
             copy.pic->spDateTimeModified()};
 }
 
-ZoneChoice normalisedTarget(const ZoneChoice *choice, const ZoneSubject &subject) {
-    if (!choice)
-        return ZoneChoice::system();
-    const bool isSame = choice->is(Kind::Unchanged) || choice->is(Kind::UnchangedLeft) ||
-                        choice->is(Kind::UnchangedLeftFolder);
-    return isSame ? sameAsCamera(subject) : *choice;
-}
+/// What one folder or item says of the two sides; null where nothing was chosen.
+using TakeChoices = std::function<void(const ZoneChoice *source, const ZoneChoice *target)>;
 
-/// What each folder or item of the subject says of one side; null where nothing was chosen.
-template<class Take>
-void forEachChoice(const ZoneSubject &subject, ZoneAssignments MySingleFolder::*side, Take take) {
+void forEachChoice(const ZoneSubject &subject, const TakeChoices &take) {
     if (!subject.isOfItems())
         for (const MySingleFolderPtr &folder : subject.folders)
-            take(ZoneSide((*folder).*side).folderDefault());
+            take(ZoneSide(folder->sourceTimeZones).folderDefault(),
+                 ZoneSide(folder->targetTimeZones).folderDefault());
     for (const MySinglePicPtr &pic : subject.items)
         if (const MySingleFolderPtr folder = pic->spSingleRealFolder())
-            take(choiceForPic(*pic, ZoneSide((*folder).*side)));
+            take(choiceForPic(*pic, ZoneSide(folder->sourceTimeZones)),
+                 choiceForPic(*pic, ZoneSide(folder->targetTimeZones)));
+}
+
+bool isSystem(const ZoneChoice *choice) {
+    return !choice || choice->is(Kind::System);
+}
+
+bool isSameAsCamera(const ZoneChoice *source, const ZoneChoice *target) {
+    if (!target)
+        return isSystem(source);
+    return target->is(Kind::Unchanged) || target->is(Kind::UnchangedLeft) ||
+           target->is(Kind::UnchangedLeftFolder);
 }
 
 } // namespace
@@ -108,16 +115,20 @@ ZoneChoice sameAsCamera(const ZoneSubject &subject) {
 
 Combined<ZoneChoice> presentSource(const ZoneSubject &subject) {
     Combined<ZoneChoice> all;
-    forEachChoice(subject, &MySingleFolder::sourceTimeZones, [&](const ZoneChoice *choice) {
-        all.add(choice ? *choice : ZoneChoice::system());
+    forEachChoice(subject, [&](const ZoneChoice *source, const ZoneChoice *) {
+        all.add(source ? *source : ZoneChoice::system());
     });
     return all;
 }
 
 Combined<ZoneChoice> presentTarget(const ZoneSubject &subject) {
     Combined<ZoneChoice> all;
-    forEachChoice(subject, &MySingleFolder::targetTimeZones,
-                  [&](const ZoneChoice *choice) { all.add(normalisedTarget(choice, subject)); });
+    forEachChoice(subject, [&](const ZoneChoice *source, const ZoneChoice *target) {
+        if (isSameAsCamera(source, target))
+            all.add(sameAsCamera(subject));
+        else
+            all.add(target ? *target : ZoneChoice::system());
+    });
     return all;
 }
 

@@ -22,7 +22,8 @@ struct ZoneSubject {
 
 /// The target that follows whatever the source is: nothing is written for its sake.
 ZoneChoice sameAsCamera(const ZoneSubject &subject);
-/// What holds now, and whether it is mixed; all kinds of "same as the source" are `sameAsCamera`.
+/// What holds now, and whether it is mixed; all kinds of "same as the source" are `sameAsCamera`,
+/// and so is a target that nobody chose while the source is the system's zone as well.
 Combined<ZoneChoice> presentSource(const ZoneSubject &subject);
 Combined<ZoneChoice> presentTarget(const ZoneSubject &subject);
 

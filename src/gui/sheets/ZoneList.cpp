@@ -40,7 +40,7 @@ QVariant ZoneListModel::data(const QModelIndex &index, int role) const {
     const ZoneRow &zone = row(index.row());
     if (role == Qt::ToolTipRole)
         return qString(zone.name);
-    if (role == Qt::AccessibleTextRole && index.column() == Place)
+    if (role == Qt::AccessibleTextRole && index.column() == Offset)
         return qString(zone.name + ", " + zone.country + ' ' + offsetText(zone) + ' ' + zone.note);
     if (role != Qt::DisplayRole)
         return {};
@@ -78,7 +78,7 @@ ZonePicker::ZonePicker(const ZoneRows &rows, const char *nameKey, QWidget *paren
     header->setSectionResizeMode(ZoneListModel::Offset, QHeaderView::ResizeToContents);
     header->setSectionResizeMode(ZoneListModel::Note, QHeaderView::ResizeToContents);
     const QFontMetrics metrics = fontMetrics();
-    constexpr int fewestRows = 6, characters = 52;
+    constexpr int fewestRows = 6, characters = 62;
     m_list->setMinimumHeight(fewestRows * (metrics.height() + metrics.leading() + 4));
     setMinimumWidth(characters * metrics.averageCharWidth());
     auto *layout = new QVBoxLayout(this);

@@ -15,11 +15,11 @@ class QTreeView;
 
 namespace chronomender {
 
-/// Zones in rows: where, how far from UTC, what daylight saving does.
+/// Zones in rows: how far from UTC, where, and what daylight saving does.
 class ZoneListModel : public QAbstractTableModel {
     Q_OBJECT
 public:
-    enum Column { Place, Offset, Note, columnCountOfAll };
+    enum Column { Offset, Place, Note, columnCountOfAll };
 
     using QAbstractTableModel::QAbstractTableModel;
     void setRows(std::vector<ZoneRow> rows);

@@ -158,8 +158,7 @@ std::optional<ZoneChoice> ZonesSheet::wishOf(const Side &side) const {
 }
 
 ZoneWish ZonesSheet::wish() const {
-    ZoneWish wish{wishOf(m_source), wishOf(m_target)};
-    return wish;
+    return {wishOf(m_source), wishOf(m_target)};
 }
 
 QGroupBox *ZonesSheet::makeClocks() {
