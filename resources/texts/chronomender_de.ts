@@ -2071,6 +2071,9 @@ Beispiele:
     <message id="zones_noteSummerUntil">
         <translation>Sommerzeit bis %1</translation>
     </message>
+    <message id="strip_cannotMove">
+        <translation>Das Datum von %1 lässt sich nicht durch Ziehen verschieben</translation>
+    </message>
     <message id="strip_dayTitle">
         <translation>%1, %2</translation>
     </message>
@@ -2781,6 +2784,72 @@ Beispiele:
     </message>
     <message id="zones_worldClock">
         <translation>Was die Uhren sagen</translation>
+    </message>
+    <message id="strip_markAlert">
+        <translation>Datum bitte prüfen</translation>
+    </message>
+    <message id="strip_markClockDanger">
+        <translation>Datum wegen der Zeitumstellung unsicher</translation>
+    </message>
+    <message id="strip_markError">
+        <translation>Fehler</translation>
+    </message>
+    <message id="strip_markKeeper">
+        <translation>behalten</translation>
+    </message>
+    <message id="strip_markLivePhoto">
+        <translation>Live Photo</translation>
+    </message>
+    <message id="strip_markMissing">
+        <translation>Datei nicht gefunden</translation>
+    </message>
+    <message id="strip_markMovie">
+        <translation>Film</translation>
+    </message>
+    <message id="strip_markRawAndJpeg">
+        <translation>Raw mit JPEG</translation>
+    </message>
+    <message id="strip_markRejected">
+        <translation>Ausschuss</translation>
+    </message>
+    <message id="strip_markUnsaved">
+        <translation>nicht gespeichert</translation>
+    </message>
+    <message id="strip_mirror">
+        <translation>Zweite Ansicht</translation>
+    </message>
+    <message id="strip_moving">
+        <translation>%1 wird verschoben. Pfeiltasten wählen den Platz, Eingabe behält ihn, Esc bricht ab</translation>
+    </message>
+    <message id="strip_noMedia">
+        <translation>In diesen Ordnern sind keine Fotos oder Filme</translation>
+    </message>
+    <message id="strip_reading">
+        <translation>Fotos und Filme werden gelesen…</translation>
+    </message>
+    <message id="strip_selected">
+        <translation>ausgewählt</translation>
+    </message>
+    <message id="strip_shelf">
+        <translation>Ablage</translation>
+    </message>
+    <message id="strip_targetBehind">
+        <translation>nach %1</translation>
+    </message>
+    <message id="strip_targetInFront">
+        <translation>vor %1</translation>
+    </message>
+    <message id="strip_targetOnto">
+        <translation>gleiche Zeit wie %1</translation>
+    </message>
+    <message id="strip_targetSecondAfter">
+        <translation>eine Sekunde nach %1</translation>
+    </message>
+    <message id="strip_targetSecondBefore">
+        <translation>eine Sekunde vor %1</translation>
+    </message>
+    <message id="strip_timeline">
+        <translation>Zeitleiste</translation>
     </message>
 </context>
 </TS>

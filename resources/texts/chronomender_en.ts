@@ -2071,6 +2071,9 @@ Examples:
     <message id="zones_noteSummerUntil">
         <translation>summer time until %1</translation>
     </message>
+    <message id="strip_cannotMove">
+        <translation>The date of %1 cannot be moved by dragging</translation>
+    </message>
     <message id="strip_dayTitle">
         <translation>%1, %2</translation>
     </message>
@@ -2781,6 +2784,72 @@ Examples:
     </message>
     <message id="zones_worldClock">
         <translation>What the clocks say</translation>
+    </message>
+    <message id="strip_markAlert">
+        <translation>date needs a look</translation>
+    </message>
+    <message id="strip_markClockDanger">
+        <translation>date in doubt as the clocks changed</translation>
+    </message>
+    <message id="strip_markError">
+        <translation>error</translation>
+    </message>
+    <message id="strip_markKeeper">
+        <translation>keeper</translation>
+    </message>
+    <message id="strip_markLivePhoto">
+        <translation>live photo</translation>
+    </message>
+    <message id="strip_markMissing">
+        <translation>file not found</translation>
+    </message>
+    <message id="strip_markMovie">
+        <translation>movie</translation>
+    </message>
+    <message id="strip_markRawAndJpeg">
+        <translation>raw with JPEG</translation>
+    </message>
+    <message id="strip_markRejected">
+        <translation>rejected</translation>
+    </message>
+    <message id="strip_markUnsaved">
+        <translation>unsaved</translation>
+    </message>
+    <message id="strip_mirror">
+        <translation>Second view</translation>
+    </message>
+    <message id="strip_moving">
+        <translation>Moving %1. Arrow keys choose the place, Enter keeps it, Esc gives up</translation>
+    </message>
+    <message id="strip_noMedia">
+        <translation>There are no photos or movies in these folders</translation>
+    </message>
+    <message id="strip_reading">
+        <translation>Reading photos and movies…</translation>
+    </message>
+    <message id="strip_selected">
+        <translation>selected</translation>
+    </message>
+    <message id="strip_shelf">
+        <translation>Shelf</translation>
+    </message>
+    <message id="strip_targetBehind">
+        <translation>after %1</translation>
+    </message>
+    <message id="strip_targetInFront">
+        <translation>before %1</translation>
+    </message>
+    <message id="strip_targetOnto">
+        <translation>same time as %1</translation>
+    </message>
+    <message id="strip_targetSecondAfter">
+        <translation>one second after %1</translation>
+    </message>
+    <message id="strip_targetSecondBefore">
+        <translation>one second before %1</translation>
+    </message>
+    <message id="strip_timeline">
+        <translation>Timeline</translation>
     </message>
 </context>
 </TS>

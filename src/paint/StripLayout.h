@@ -46,10 +46,11 @@ struct StripPicture {
     std::optional<QRectF> rectangle;
     std::optional<CallOut> callOut;
     QString emptyText; ///< for a strip without items
+    bool hasFocus = false;
 };
 
 /// A drag that is under way, as a strip shows it.
-struct LiveDrag {
+struct ShownDrag {
     std::function<Date(const MySinglePic &)> date; ///< as the item shows it now
     std::function<bool(const MySinglePicPtr &)> isMoving;
     DragTarget target; ///< in the list as it is shown
@@ -63,7 +64,7 @@ struct StripContents {
     absl::TimeZone zone; ///< of all days and times
     /// Puts a picture, or what stands for it, into the cell.
     std::function<void(const MySinglePicPtr &, CellData &)> picture;
-    const LiveDrag *drag = nullptr; ///< null while nothing is dragged
+    const ShownDrag *drag = nullptr; ///< null while nothing is dragged
     MySinglePicPtr cursor = nullptr;
     double extendedBy = 0; ///< how far beyond the view cells are wanted
 };

@@ -124,6 +124,10 @@ void paintStrip(QPainter &painter, const StripPicture &picture, const PaintPalet
         paintCell(painter, CellPlaces(picture.metrics, cell.left, cell.data.isInDrawer), cell.data,
                   picture.metrics, palette);
     paintChapters(painter, picture, palette);
+    if (picture.hasFocus) {
+        constexpr double line = 2;
+        painter.fillRect(QRectF(0, 0, picture.width, line), palette.selection);
+    }
     if (picture.drop)
         paintDrop(painter, *picture.drop, picture, palette);
     if (picture.rectangle)

@@ -44,12 +44,14 @@ struct DateDrag::State {
         return pic.spSingleRealFolder() == folder && followsShift(pic);
     }
 
+    bool moves(const MySinglePicPtr &pic) const {
+        return folder ? movesWithFolder(*pic) : items.contains(pic);
+    }
+
     /// Takes the strip's list, unless it is the one taken before. False without the main item.
     bool takeList(const std::vector<MySinglePicPtr> &list) {
         if (!order || order->list() != list) {
-            order.emplace(list, [this](const MySinglePicPtr &pic) {
-                return folder ? movesWithFolder(*pic) : items.contains(pic);
-            });
+            order.emplace(list, [this](const MySinglePicPtr &pic) { return moves(pic); });
             const auto isMain = [this](std::size_t position) {
                 return order->list()[position] == main;
             };
@@ -167,6 +169,10 @@ Date DateDrag::tempTimeDuringLiveMod(const MySinglePic &pic) const {
         return pic.spDateTimeModified_sort();
     const MySinglePicPtr master = pic.bundleMasterImage();
     return m_state->date(master ? *master : pic);
+}
+
+bool DateDrag::isMoving(const MySinglePicPtr &pic) const {
+    return m_state && m_state->moves(pic);
 }
 
 absl::Duration DateDrag::tempMoveDateByDuringLiveMod() const {

@@ -44,6 +44,8 @@ public:
     void moveTo(DragTarget target);
     /// The date that the item shows during the drag.
     Date tempTimeDuringLiveMod(const MySinglePic &pic) const;
+    /// The drag moves this item, be it with its folder. False once the drag has ended.
+    bool isMoving(const MySinglePicPtr &pic) const;
     /// The main item's way in time so far.
     absl::Duration tempMoveDateByDuringLiveMod() const;
     /// The item's place in the strip's list as it is during the drag; none where it is not there.

@@ -18,7 +18,7 @@ protected:
         strip.geometry = metrics.geometry;
         strip.width = 600;
     }
-    StripPicture layOut(const LiveDrag *drag = nullptr) const {
+    StripPicture layOut(const ShownDrag *drag = nullptr) const {
         return layOutStrip({strip, metrics, filters, zone, [](auto &, CellData &) {}, drag});
     }
     Canvas draw(const StripPicture &picture, double ratio = 1) const {
@@ -89,7 +89,7 @@ TEST_F(Strip, showsWhatADragWouldGive) {
     const auto drag = DateDrag::begin(trip.pic('a'), trip.timelines, strip, absl::Seconds(60));
     ASSERT_TRUE(drag);
     drag->moveTo({DragType::Onto, 3});
-    LiveDrag live{
+    ShownDrag live{
         [&](const MySinglePic &pic) { return drag->tempTimeDuringLiveMod(pic); },
         [&](const MySinglePicPtr &pic) { return pic->spSingleRealFolder() == trip.canon; },
         {DragType::Onto, 2}};

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "StripDrag.h"
+#include "StripMetrics.h"
+
+#include <functional>
+#include <memory>
+
+namespace chronomender {
+
+/// What the strips of one window share. Main thread.
+struct StripShared {
+    explicit StripShared(WindowSession &theSession) : session(theSession) {
+        thumbnail = [&theSession](const MySinglePicPtr &pic, ThumbSide side) {
+            return theSession.thumbnails().spThumb(pic, side);
+        };
+    }
+
+    WindowSession &session;
+    int thumbSize = usualThumb;
+    std::unique_ptr<StripDrag> drag; ///< null while nothing is dragged
+    std::function<ThumbAnswer(const MySinglePicPtr &, ThumbSide)> thumbnail;
+};
+
+} // namespace chronomender
