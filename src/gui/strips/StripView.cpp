@@ -47,7 +47,6 @@ StripView::StripView(StripShared &shared, StripPlace place, QWidget *parent)
     installStripAccessibility();
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
-    setMouseTracking(false);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_scrollBar->setFocusPolicy(Qt::NoFocus);
     connect(m_scrollBar, &QScrollBar::valueChanged, this, [this](int value) { scrollTo(value); });
