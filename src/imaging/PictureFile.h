@@ -3,6 +3,7 @@
 
 #include "ByteRange.h"
 #include "MySingleFolderDataReader.h"
+#include "PicturePatience.h"
 #include "PictureSource.h"
 
 #include <chrono>
@@ -15,28 +16,9 @@ namespace chronomender {
 /// The most that one picture may take. Nothing that a camera writes comes near.
 inline constexpr std::uint64_t kMostPicturePixels = 400'000'000;
 inline constexpr std::uint64_t kMostPictureBytes = std::uint64_t{1} << 30;
-inline constexpr std::uint64_t kMostPictureFileBytes = std::uint64_t{2} << 30;
+/// Pixels of a picture that is decoded as a whole, with four bytes each.
+inline constexpr std::uint64_t kMostDecodedPixels = kMostPictureBytes / 4;
 inline constexpr std::chrono::seconds kLongestPicture{20};
-
-/// How long one picture is waited for: until the time is up, or the user no longer wants it.
-class PicturePatience {
-public:
-    PicturePatience(std::chrono::milliseconds longest, const Cancellation *cancellation)
-        : m_end(std::chrono::steady_clock::now() + longest), m_cancellation(cancellation) {}
-
-    bool isCancelled() const { return m_cancellation && m_cancellation->isRequested(); }
-    bool isOver() const { return isCancelled() || std::chrono::steady_clock::now() > m_end; }
-    /// What a decoder that was stopped in the middle has to say.
-    PictureFailure failureOr(PictureFailure failure) const {
-        return isCancelled() ? PictureFailure::Cancelled
-               : isOver()    ? PictureFailure::TooLarge
-                             : failure;
-    }
-
-private:
-    std::chrono::steady_clock::time_point m_end;
-    const Cancellation *m_cancellation;
-};
 
 /// An open regular file with a picture in it, and what is wanted of it.
 class PictureFile {
@@ -67,6 +49,10 @@ struct PictureWish {
     PictureChoice choice;
     const PicturePatience &patience;
 };
+
+constexpr std::uint64_t pixelsOf(int width, int height) {
+    return width > 0 && height > 0 ? std::uint64_t(width) * std::uint64_t(height) : 0;
+}
 
 inline UprightPicture failed(PictureFailure failure) {
     return {{}, false, failure};

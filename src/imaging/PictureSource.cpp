@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PictureSource.h"
 
+#include "HeifPicture.h"
 #include "JpegPicture.h"
+#include "MoviePicture.h"
 #include "PictureFile.h"
 #include "QtPicture.h"
+#include "RawPicture.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace chronomender {
 
@@ -15,19 +21,53 @@ std::string_view extensionOf(std::string_view path) {
     return dot == std::string_view::npos ? std::string_view() : name.substr(dot + 1);
 }
 
+using Decode = UprightPicture (*)(PictureFile &, const PictureWish &);
+
+/// What reads a format, and what is tried where that fails: a name tells raw from TIFF only for
+/// most files, and some HEIF files are movies without a still. `FileFormatNone` stands for what
+/// the first bytes do not tell, as of many raw formats and of movies.
+struct Decoder {
+    FileFormatType format;
+    Decode decode, otherwise;
+};
+constexpr Decode kMovie = [](PictureFile &file, const PictureWish &wish) {
+    return moviePicture(file, wish);
+};
+constexpr Decode kRaw = [](PictureFile &file, const PictureWish &wish) {
+    return rawPicture(file, wish);
+};
+constexpr Decode kHeif = [](PictureFile &file, const PictureWish &wish) {
+    return heifPicture(file, wish);
+};
+template<FileFormatType format>
+constexpr Decode kQt =
+    [](PictureFile &file, const PictureWish &wish) { return qtPicture(file, format, wish); };
+constexpr Decoder kDecoders[]{
+    {FileFormatNone, kRaw, kMovie},
+    {FileFormatJpeg, jpegPicture, nullptr},
+    {FileFormatHeif, kHeif, kMovie},
+    {FileFormatAvif, kHeif, kMovie},
+    {FileFormatRaw, kRaw, kQt<FileFormatTiff>},
+    {FileFormatTiff, kQt<FileFormatTiff>, kRaw},
+    {FileFormatWebp, kQt<FileFormatWebp>, nullptr},
+    {FileFormatGif, kQt<FileFormatGif>, nullptr},
+    {FileFormatPng, kQt<FileFormatPng>, nullptr},
+    {FileFormatQuickTime, kMovie, nullptr},
+    {FileFormatMpeg4, kMovie, nullptr},
+    {FileFormatOtherMovie, kMovie, nullptr},
+};
+
 UprightPicture pictureOf(PictureFile &file, const PictureWish &wish) {
     const auto format = fileFormatTypeForContent(file.firstBytes(), extensionOf(file.path()));
-    switch (format.value_or(FileFormatNone)) {
-    case FileFormatJpeg:
-        return jpegPicture(file, wish);
-    case FileFormatPng:
-    case FileFormatGif:
-    case FileFormatWebp:
-    case FileFormatTiff:
-        return qtPicture(file, *format, wish);
-    default:
+    const auto *decoder =
+        std::ranges::find(kDecoders, format.value_or(FileFormatNone), &Decoder::format);
+    if (decoder == std::end(kDecoders))
         return failed(PictureFailure::DamagedOrUnknown);
-    }
+    UprightPicture picture = decoder->decode(file, wish);
+    if (picture.failure != PictureFailure::DamagedOrUnknown || !decoder->otherwise)
+        return picture;
+    UprightPicture other = decoder->otherwise(file, wish);
+    return other.failure == PictureFailure::TooLarge ? picture : other;
 }
 
 } // namespace

@@ -51,14 +51,6 @@ void boundPluginMemory() {
     std::call_once(once, [] { QImageReader::setAllocationLimit(int(kMostPictureBytes >> 20U)); });
 }
 
-PictureFailure failureOf(const QImageReader &reader, QSize size) {
-    const auto pixels = std::uint64_t(size.width()) * std::uint64_t(size.height());
-    const bool isLarge = size.isValid() && pixels > kMostPictureBytes / 4;
-    return reader.error() == QImageReader::InvalidDataError && isLarge
-               ? PictureFailure::TooLarge
-               : PictureFailure::DamagedOrUnknown;
-}
-
 } // namespace
 
 UprightPicture qtPicture(PictureFile &file, FileFormatType format, const PictureWish &wish) {
@@ -72,15 +64,14 @@ UprightPicture qtPicture(PictureFile &file, FileFormatType format, const Picture
     QImageReader reader(&device, plugin->name);
     reader.setAutoTransform(false);
     const QSize size = reader.size();
-    if (size.isValid() &&
-        std::uint64_t(size.width()) * std::uint64_t(size.height()) > kMostPicturePixels)
+    if (pixelsOf(size.width(), size.height()) > kMostDecodedPixels)
         return failed(PictureFailure::TooLarge);
     // Twice the wanted size, as the plugins scale more coarsely than we do.
     if (size.isValid())
         reader.setScaledSize(sizeWithSide(size, wish.side * 2));
     const QImage image = reader.read();
     if (image.isNull())
-        return failed(wish.patience.failureOr(failureOf(reader, size)));
+        return failed(wish.patience.failureOr(PictureFailure::DamagedOrUnknown));
     const QImage scaled = inScreenColours(scaledToSide(image, wish.side), image.colorSpace());
     const auto properties = readPropertyDictionary(file.path());
     return pictureOr(turnedUpright(scaled, properties ? properties->orientation : 1), false,

@@ -48,7 +48,7 @@ QImage inScreenColours(QImage image, const QColorSpace &space) {
 }
 
 QImage withoutBars(const QImage &thumbnail, QSize picture) {
-    constexpr double alike = 0.02, least = 0.5;
+    constexpr double alike = 0.02, least = 0.6;
     if (thumbnail.isNull() || picture.isEmpty())
         return thumbnail;
     const double wanted = double(picture.width()) / picture.height();

@@ -22,7 +22,7 @@ QImage turnedUpright(const QImage &image, int orientation);
 QImage inScreenColours(QImage image, const QColorSpace &space);
 
 /// A thumbnail cut to the proportions of its picture: many cameras put theirs between black bars.
-/// Null where that would leave less than half of it, so that it shows something else.
+/// Null where that would leave far less of it than bars do, so that it shows something else.
 QImage withoutBars(const QImage &thumbnail, QSize picture);
 
 } // namespace chronomender
