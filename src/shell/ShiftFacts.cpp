@@ -54,7 +54,6 @@ void takeFolders(ShiftFacts &facts, const MyCompoundFolder &folders) {
     for (const MySingleFolderPtr &folder : folders.folders())
         shared.add(folder->sfDateModifications);
     facts.fields = shared.fields();
-    facts.isShifted = folders.isTogetherDateUIModified();
 }
 
 /// Equal shifts that follow each other, as most do, are looked at once.
@@ -65,7 +64,6 @@ void takeItems(ShiftFacts &facts, const std::vector<MySinglePicPtr> &items) {
         if (last == pic->shift.singlePicModification || !canShiftAlone(*pic))
             continue;
         last = pic->shift.singlePicModification;
-        facts.isShifted = facts.isShifted || last != absl::ZeroDuration();
         if (!shared.areAllMixed())
             shared.add(ownFieldsOf(*pic));
     }
@@ -131,6 +129,7 @@ ShiftFacts shiftFacts(const MyCompoundFolder &folders, const std::vector<MySingl
         takeFolders(facts, folders);
     else
         takeItems(facts, items);
+    facts.isShifted = isTogether ? folders.isTogetherDateUIModified() : folders.isDateModified();
     const MySinglePic *selected = firstMovable(items);
     const MySinglePic *shown = selected ? selected : firstOfFolders(folders);
     facts.hint = shown ? hintOf(*shown, zones) : std::string();
