@@ -2108,7 +2108,7 @@ Beispiele:
         <translation>Alle</translation>
     </message>
     <message id="filter_clear">
-        <translation>&amp;Löschen</translation>
+        <translation>&amp;Aufheben</translation>
     </message>
     <message id="filter_hidden">
         <translation>%1 ausgeblendet</translation>

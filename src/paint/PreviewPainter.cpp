@@ -6,7 +6,8 @@
 namespace chronomender {
 namespace {
 
-constexpr double sideShare = 0.25, belowShare = 0.34;
+constexpr double sideShare = 0.25, sideDrop = 0.18, belowShare = 0.36;
+constexpr QSizeF usualShape(3, 2); ///< of a photo
 constexpr int captionLines = 3;
 
 double paddingOf(const QFont &font) {
@@ -23,6 +24,22 @@ QRectF fitted(const QSizeF &image, const QRectF &place) {
             size.width(), size.height()};
 }
 
+std::array<QRectF, 3> stackedPlaces(const QSizeF &size) {
+    const double below = size.height() * belowShare, top = size.height() - below;
+    const double half = size.width() / 2;
+    return {QRectF(0, top, half, below), QRectF(0, 0, size.width(), top),
+            QRectF(half, top, half, below)};
+}
+
+/// The two at the sides are less high: what counts is in the middle.
+std::array<QRectF, 3> sideBySide(const QSizeF &size, const QFont &font) {
+    const double gap = paddingOf(font), side = size.width() * sideShare - gap;
+    const double drop = size.height() * sideDrop, height = size.height() - drop;
+    return {QRectF(0, drop, side, height),
+            QRectF(side + gap, 0, size.width() - 2 * (side + gap), size.height()),
+            QRectF(size.width() - side, drop, side, height)};
+}
+
 void drawPicture(QPainter &painter, const QRectF &place, const PreviewPicture &preview,
                  const PaintPalette &palette) {
     if (!preview.image.isNull()) {
@@ -30,7 +47,8 @@ void drawPicture(QPainter &painter, const QRectF &place, const PreviewPicture &p
         painter.drawImage(fitted(preview.image.size(), place), preview.image);
         return;
     }
-    painter.fillRect(place, palette.cell);
+    if (preview.folder.isValid())
+        painter.fillRect(place, palette.cell);
     painter.setPen(palette.dimText);
     const double margin = QFontMetricsF(painter.font()).height();
     painter.drawText(place.adjusted(margin, margin, -margin, -margin),
@@ -61,19 +79,11 @@ void drawCaption(QPainter &painter, QRectF line, const PreviewPicture &preview, 
 } // namespace
 
 std::array<QRectF, 3> previewPlaces(const QSizeF &size, const QFont &font) {
-    const double gap = paddingOf(font);
-    if (size.height() > size.width()) {
-        const double below = size.height() * belowShare, top = size.height() - below;
-        const double half = size.width() / 2;
-        return {QRectF(0, top, half, below), QRectF(0, 0, size.width(), top),
-                QRectF(half, top, half, below)};
-    }
-    const double side = size.width() * sideShare - gap;
-    // The two at the sides stand a little lower in the order of things, and so are less high.
-    const double drop = size.height() * 0.18;
-    return {QRectF(0, drop, side, size.height() - drop),
-            QRectF(side + gap, 0, size.width() - 2 * (side + gap), size.height()),
-            QRectF(size.width() - side, drop, side, size.height() - drop)};
+    const std::array<QRectF, 3> beside = sideBySide(size, font), stacked = stackedPlaces(size);
+    const auto mainWidth = [&](const std::array<QRectF, 3> &places) {
+        return fitted(usualShape, previewImagePlace(places[1], font)).width();
+    };
+    return mainWidth(stacked) > mainWidth(beside) ? stacked : beside;
 }
 
 QRectF previewImagePlace(const QRectF &cell, const QFont &font) {
@@ -91,7 +101,8 @@ void paintPreview(QPainter &painter, const QRectF &cell, const PreviewPicture &p
         drawPicture(painter, image, preview, palette);
     if (preview.folder.isValid()) {
         const double line = QFontMetricsF(font).height(), bar = line / 4;
-        painter.fillRect(QRectF(image.left(), image.bottom() + bar, image.width(), bar),
+        const QRectF drawn = preview.image.isNull() ? image : fitted(preview.image.size(), image);
+        painter.fillRect(QRectF(drawn.left(), image.bottom() + bar, drawn.width(), bar),
                          preview.folder);
         drawCaption(painter, {image.left(), image.bottom() + 2.5 * bar, image.width(), line},
                     preview, font, palette);

@@ -22,8 +22,8 @@ struct PreviewPicture {
     bool isHovered = false, hasCursor = false;
 };
 
-/// Where the shots before, in the middle and after stand: side by side with the main one in the
-/// middle, or, where the place is higher than wide, the two below it.
+/// Where the shots before, in the middle and after stand: side by side, or the two below the main
+/// one, whichever shows that one larger.
 std::array<QRectF, 3> previewPlaces(const QSizeF &size, const QFont &font);
 /// Where the picture itself stands in its cell.
 QRectF previewImagePlace(const QRectF &cell, const QFont &font);

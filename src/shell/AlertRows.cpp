@@ -136,7 +136,10 @@ std::vector<AlertAction> actionsFor(const DateAlert &alert) {
 AlertRow rowOf(const DateAlert &alert, const MySinglePic &pic) {
     const bool isMild =
         alert.kind == DateAlertKind::GroupApart || alert.kind == DateAlertKind::GpsApart;
-    return {wordsOf(alert, pic), isMild ? RowTone::Warning : RowTone::Danger, actionsFor(alert),
+    std::string words = wordsOf(alert, pic);
+    if (!alert.isOfDependent) // which begins with a name
+        words = asSentence(words);
+    return {std::move(words), isMild ? RowTone::Warning : RowTone::Danger, actionsFor(alert),
             targetOf(alert, pic)};
 }
 

@@ -17,19 +17,21 @@
 namespace chronomender {
 namespace {
 
-/// Rows with something to say; keys are "inspector_" + the name.
+/// Rows with something to say.
 class Facts {
 public:
-    void add(const char *key, std::string value) {
+    void add(const char *key, std::string value, bool isMixed = false) {
         if (!value.empty())
-            m_rows.push_back({text(key), std::move(value), false});
+            m_rows.push_back({text(key), std::move(value), isMixed});
     }
-    /// What items say together; nothing where none of them says anything.
-    void add(const char *key, const Combined<std::string_view> &shared) {
+    void addMixed(const char *key) { add(key, text("inspector_mixed"), true); }
+    /// What items say together, in `words`; nothing where none of them says anything.
+    template<class Value, class Words>
+    void add(const char *key, const Combined<Value> &shared, Words words) {
         if (shared.isMixed())
-            m_rows.push_back({text(key), text("inspector_mixed"), true});
+            addMixed(key);
         else if (shared.value)
-            add(key, std::string(*shared.value));
+            add(key, std::string(words(*shared.value)));
     }
     std::vector<FactRow> take() { return std::move(m_rows); }
 
@@ -190,24 +192,18 @@ private:
     }
 
     std::vector<FactRow> rows() const {
+        const auto itself = [](std::string_view words) { return words; };
         Facts facts;
-        facts.add("inspector_dateFrom", wordsOf(m_source, [&] { return sourceText(*m_first); }));
-        facts.add("inspector_zones", zones());
-        facts.add("inspector_shift", wordsOf(m_shift, [&] { return shiftText(*m_shift.value); }));
-        facts.add("inspector_camera", m_camera);
-        facts.add("inspector_lens", m_lens);
+        facts.add("inspector_dateFrom", m_source, [&](auto) { return sourceText(*m_first); });
+        if (m_zoneSource.isMixed() || m_zoneTarget.isMixed())
+            facts.addMixed("inspector_zones");
+        else if (m_zoneSource.value)
+            facts.add("inspector_zones",
+                      arrow(std::string(*m_zoneSource.value), std::string(*m_zoneTarget.value)));
+        facts.add("inspector_shift", m_shift, shiftText);
+        facts.add("inspector_camera", m_camera, itself);
+        facts.add("inspector_lens", m_lens, itself);
         return facts.take();
-    }
-
-    std::string zones() const {
-        if (!m_zoneSource.value || !m_zoneTarget.value)
-            return text("inspector_mixed");
-        return arrow(std::string(*m_zoneSource.value), std::string(*m_zoneTarget.value));
-    }
-
-    template<class Value, class Words>
-    static std::string wordsOf(const Combined<Value> &shared, Words words) {
-        return shared.isMixed() ? text("inspector_mixed") : words();
     }
 
     const FilterContext &m_context;

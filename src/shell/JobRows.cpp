@@ -5,6 +5,7 @@
 #include "Texts.h"
 #include "TimeTexts.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace chronomender {
@@ -41,6 +42,20 @@ std::string rateText(const JobStatus &status) {
     return text("jobs_perSecond", {number});
 }
 
+/// What is not known of one is not known of both.
+void add(JobStatus &sum, const JobStatus &status) {
+    sum.total = sum.total == 0 || status.total == 0 ? 0 : sum.total + status.total;
+    sum.done += status.done;
+    sum.perSecond = sum.perSecond && status.perSecond
+                        ? std::optional(*sum.perSecond + *status.perSecond)
+                        : std::nullopt;
+    sum.remaining = sum.remaining && status.remaining
+                        ? std::optional(std::max(*sum.remaining, *status.remaining))
+                        : std::nullopt;
+    sum.canBeCancelled = sum.canBeCancelled || status.canBeCancelled;
+    sum.isCancelling = sum.isCancelling && status.isCancelling;
+}
+
 } // namespace
 
 std::string progressText(const JobStatus &status) {
@@ -49,6 +64,18 @@ std::string progressText(const JobStatus &status) {
     const std::string remaining =
         status.remaining ? text("jobs_remaining", {spanText(*status.remaining)}) : std::string();
     return joined({doneText(status), rateText(status), remaining});
+}
+
+std::vector<JobStatus> mergedByKind(const std::vector<JobStatus> &statuses) {
+    std::vector<JobStatus> merged;
+    for (const JobStatus &status : statuses) {
+        const auto same = std::ranges::find(merged, status.kind, &JobStatus::kind);
+        if (same == merged.end())
+            merged.push_back(status);
+        else
+            add(*same, status);
+    }
+    return merged;
 }
 
 std::string sessionText(std::size_t items, std::size_t selected, std::size_t unsaved) {

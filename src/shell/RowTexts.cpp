@@ -15,6 +15,11 @@ std::string joinedWords(const std::vector<RowNote> &notes) {
     return joined;
 }
 
+std::string asSentence(const std::string &words) {
+    const QString all = QString::fromStdString(words);
+    return (all.left(1).toUpper() + all.mid(1)).toStdString();
+}
+
 std::string numberText(std::int64_t number) {
     return QLocale().toString(static_cast<qlonglong>(number)).toStdString();
 }

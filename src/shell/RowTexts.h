@@ -22,6 +22,8 @@ struct RowNote {
 
 /// The words joined by "; ".
 std::string joinedWords(const std::vector<RowNote> &notes);
+/// With a capital at its start.
+std::string asSentence(const std::string &words);
 /// "1,204" as the user's region writes numbers.
 std::string numberText(std::int64_t number);
 /// The text of `key` with the number in it; exactly one has a text of its own, `key` + "_one".

@@ -106,7 +106,7 @@ TEST_F(PanelRows, anItemShowsOldAndNewAndIsNotChangedByIt) {
 TEST_F(PanelRows, anAlertHasAWayOut) {
     const std::vector<AlertRow> alerts = inspect({a}).alerts;
     ASSERT_FALSE(alerts.empty());
-    EXPECT_THAT(alerts[0].words, HasSubstr("happens twice on 27 Oct 2024"));
+    EXPECT_THAT(alerts[0].words, HasSubstr("Happens twice on 27 Oct 2024"));
     EXPECT_THAT(alerts[0].actions, ElementsAre(AlertAction::ReadAsEarlier, AlertAction::SetZones));
     useAmbiguityAlternative({a}, alerts[0].target, true, session.zones, session.undo);
     EXPECT_EQ(inspect({a}).alerts[0].actions[0], AlertAction::ReadAsLater);
@@ -207,6 +207,13 @@ TEST(JobRows, tellWhatIsKnown) {
     status.isCancelling = true;
     EXPECT_EQ(progressText(status), "stopping…");
     EXPECT_THAT(progressText({}), IsEmpty());
+    const JobStatus other{JobKind::Import, "Reading nikon", 30, 100, 10.0, absl::Seconds(7)};
+    EXPECT_EQ(
+        progressText(
+            mergedByKind({{JobKind::Import, "Reading canon", 20, 40, 5.0, absl::Seconds(4)}, other})
+                .at(0)),
+        "50 of 140 · 15 per second · 7 s left");
+    EXPECT_EQ(mergedByKind({{JobKind::Check, "Checking", 3, 0, {}, {}}, other}).size(), 2U);
     EXPECT_EQ(sessionText(1, 0, 12), "1 item · 12 unsaved");
 }
 

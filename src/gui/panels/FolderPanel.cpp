@@ -21,6 +21,7 @@ namespace chronomender {
 namespace {
 
 constexpr std::chrono::milliseconds refreshDelay{80};
+constexpr int leastColumns = 30; ///< two days fit beside each other
 
 /// Parts with something to say; a line without one is left out.
 void addLine(std::vector<PaintedLine> &lines, std::initializer_list<PaintedPart> parts) {
@@ -85,6 +86,7 @@ FolderPanel::FolderPanel(WindowSession &session, QWidget *parent)
       m_list(named(new QListView, "folders_list")),
       m_refresh(refreshDelay, [this] { refresh(); }) {
     setAcceptDrops(true);
+    setMinimumWidth(fontMetrics().averageCharWidth() * leastColumns);
     m_list->setModel(&m_model);
     m_list->setItemDelegate(new FolderRowDelegate(m_model, session, m_list));
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace chronomender {
 namespace {
 
@@ -31,7 +33,8 @@ struct Look {
 /// Builds the parts; all lengths are those of the font.
 class Builder {
 public:
-    explicit Builder(const PaintPalette &palette) : m_palette(palette) {}
+    Builder(const PaintPalette &palette, int labelWidth)
+        : m_palette(palette), m_labelWidth(labelWidth) {}
 
     QLabel *label(std::string_view words, const Look &look = {}) const {
         auto *label = new QLabel(breakable(words));
@@ -137,23 +140,38 @@ private:
         return bar;
     }
 
-    static QGridLayout *gridOf(QWidget *box) {
+    QGridLayout *gridOf(QWidget *box) const {
         auto *grid = new QGridLayout(box);
         grid->setContentsMargins({});
         grid->setColumnStretch(1, 1);
+        grid->setColumnMinimumWidth(0, m_labelWidth);
         grid->setVerticalSpacing(box->fontMetrics().height() / 5);
         return grid;
     }
 
     const PaintPalette &m_palette;
+    int m_labelWidth; ///< of the first column of all tables
 };
+
+int widestLabel(const InspectorFacts &facts, QFont font) {
+    font.setBold(true);
+    const QFontMetrics metrics(font);
+    int widest = 0;
+    for (const FileFacts &file : facts.files) {
+        for (const SlotRow &row : file.slots)
+            widest = std::max(widest, metrics.horizontalAdvance(qString(row.label)));
+        for (const FactRow &row : file.facts)
+            widest = std::max(widest, metrics.horizontalAdvance(qString(row.label)));
+    }
+    return widest;
+}
 
 } // namespace
 
 QWidget *makeInspectorContent(const InspectorFacts &facts, const PaintPalette &palette,
                               const std::function<void(const AlertRow &, AlertAction)> &act) {
     auto *content = new QWidget;
-    const Builder builder(palette);
+    const Builder builder(palette, widestLabel(facts, content->font()));
     auto *layout = new QVBoxLayout(content);
     layout->setSpacing(content->fontMetrics().height() * 3 / 4);
     if (facts.title.empty()) {

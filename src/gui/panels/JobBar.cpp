@@ -71,7 +71,7 @@ void JobBar::showCounts() {
 
 /// Jobs keep their widgets, so that a button that has the focus stays.
 void JobBar::showJobs() {
-    const std::vector<JobStatus> statuses = m_session.jobs().statuses();
+    const std::vector<JobStatus> statuses = mergedByKind(m_session.jobs().statuses());
     while (m_items.size() < statuses.size()) {
         auto *item = new JobItem;
         connect(item, &JobItem::cancelWanted, this,

@@ -25,8 +25,10 @@ JobItem::JobItem(QWidget *parent)
     m_progress->setTextVisible(false);
     m_progress->setFixedWidth(fontMetrics().averageCharWidth() * barInColumns);
     m_progressText->setForegroundRole(QPalette::PlaceholderText);
-    for (QLabel *label : {m_title, m_progressText})
+    for (QLabel *label : {m_title, m_progressText}) {
         label->setTextFormat(Qt::PlainText);
+        label->setMinimumWidth(1); // a narrow window cuts words rather than grow
+    }
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     for (QWidget *each : {static_cast<QWidget *>(m_title), static_cast<QWidget *>(m_progress),

@@ -43,7 +43,6 @@ QString withoutMnemonic(QString text) {
 QSpinBox *makeNumber(const NumberField &field) {
     auto *box = new QSpinBox;
     box->setRange(0, field.most);
-    box->setSpecialValueText(QStringLiteral("–"));
     box->setKeyboardTracking(false); // what is half typed shifts nothing
     box->setAlignment(Qt::AlignRight);
     box->setAccessibleName(withoutMnemonic(qText(field.key)));
@@ -59,6 +58,7 @@ ShiftBar::ShiftBar(WindowSession &session, QWidget *parent)
       m_pause(pauseOfSteps, [this] { commit(); }),
       m_refresh(refreshDelay, [this] { refresh(); }) {
     m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
     m_hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(fontMetrics().height() / 2, fontMetrics().height() / 4,
@@ -75,6 +75,7 @@ QBoxLayout *ShiftBar::makeFields() {
     auto *title = new QLabel(qText("shift_direction"));
     m_direction = new QComboBox;
     m_direction->setAccessibleName(withoutMnemonic(qText("shift_direction")));
+    m_direction->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_direction->addItems({qText("shift_later"), qText("shift_earlier")});
     title->setBuddy(m_direction);
     row->addWidget(title);
@@ -83,6 +84,7 @@ QBoxLayout *ShiftBar::makeFields() {
         m_numbers[i] = makeNumber(numberFields[i]);
         auto *unit = new QLabel(qText(numberFields[i].key));
         unit->setBuddy(m_numbers[i]);
+        unit->setContentsMargins(0, 0, fontMetrics().height() / 3, 0);
         row->addWidget(m_numbers[i]);
         row->addWidget(unit);
     }
@@ -188,6 +190,8 @@ void ShiftBar::showFacts(const ShiftFacts &facts) {
         const std::optional<std::string> &part = facts.fields.*numberFields[i].part;
         const bool isMixed = isOn && !part;
         if (!m_isDirty) {
+            // The text stands for the lowest value, whatever that is.
+            box.setSpecialValueText(isMixed ? QStringLiteral("–") : QString());
             box.setMinimum(isMixed ? ownValue : 0);
             box.setValue(part ? std::stoi(*part) : isMixed ? ownValue : 0);
         }
