@@ -4,6 +4,9 @@
 // maker note, thumbnail, position) and a picture of about BODY_BYTES, dates in no order. BODY_BYTES
 // 0 makes the smallest picture there is. With "mixed", three files in ten are of other formats, in
 // turn, around the same picture.
+//
+// make_bench_files FOLDER COUNT large|bare: COUNT names of JPEGs as a camera of 24 megapixels makes
+// them, with a thumbnail or without. Each file has many names, as nobody's disk has room for them.
 
 #include "CameraExif.h"
 #include "Containers.h"
@@ -108,6 +111,12 @@ constexpr OtherFormat otherFormats[]{
      [](const CameraRecord &record, const std::string &picture) { return aviOf(record, picture); }},
 };
 
+std::string largeBody() {
+    auto picture = landscape(6000, 4000, 12 * 3600, 1);
+    addGrain(picture, 24, 1);
+    return jpegOf(picture, 90, false);
+}
+
 struct NamedFile {
     std::string ending, bytes;
 };
@@ -125,6 +134,12 @@ NamedFile fileOf(std::size_t index, bool isMixed, const CameraRecord &record,
     return {"JPG", withExif(picture, tiff.build())};
 }
 
+std::string numberedName(std::size_t index, const std::string &ending) {
+    char name[32];
+    std::snprintf(name, sizeof name, "IMG_%05zu.%s", index, ending.c_str());
+    return name;
+}
+
 int makeFiles(const std::filesystem::path &root, std::size_t count, std::size_t bodySize,
               bool isMixed) {
     std::filesystem::create_directories(root);
@@ -135,10 +150,9 @@ int makeFiles(const std::filesystem::path &root, std::size_t count, std::size_t 
         auto exif = record(i);
         exif.thumbnail = thumbnail;
         const NamedFile file = fileOf(i, isMixed, exif, picture);
-        char name[32];
-        std::snprintf(name, sizeof name, "IMG_%05zu.%s", i, file.ending.c_str());
+        const std::string name = numberedName(i, file.ending);
         if (!writeFile(folder, name, file.bytes, exif.wallClock)) {
-            std::fprintf(stderr, "make_bench_files: cannot write %s\n", name);
+            std::fprintf(stderr, "make_bench_files: cannot write %s\n", name.c_str());
             return 1;
         }
     }
@@ -146,14 +160,43 @@ int makeFiles(const std::filesystem::path &root, std::size_t count, std::size_t 
     return 0;
 }
 
+int makeLargeFiles(const std::filesystem::path &root, std::size_t count, bool hasThumbnail) {
+    constexpr std::size_t filesOnDisk = 40;
+    std::filesystem::create_directories(root);
+    const int folder = open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const std::string picture = largeBody();
+    bool isDone = folder >= 0;
+    for (std::size_t i = 0; i < count && isDone; ++i) {
+        const std::string name = numberedName(i, "JPG");
+        if (i >= filesOnDisk) {
+            isDone = linkat(folder, numberedName(i % filesOnDisk, "JPG").c_str(), folder,
+                            name.c_str(), 0) == 0;
+            continue;
+        }
+        auto exif = record(i);
+        if (hasThumbnail)
+            exif.thumbnail = jpegOf(landscape(160, 120, 12 * 3600, 1), 85, false);
+        isDone = writeFile(folder, name, fileOf(i, false, exif, picture).bytes, exif.wallClock);
+    }
+    close(folder);
+    if (!isDone)
+        std::fprintf(stderr, "make_bench_files: cannot write in %s\n", root.c_str());
+    return isDone ? 0 : 1;
+}
+
 } // namespace
 
 } // namespace chronomender::tools
 
 int main(int argc, char **argv) {
+    const std::string_view kind = argc == 4 ? argv[3] : "";
+    if (kind == "large" || kind == "bare")
+        return chronomender::tools::makeLargeFiles(argv[1], std::strtoul(argv[2], nullptr, 10),
+                                                   kind == "large");
     const bool isMixed = argc == 5 && std::string_view(argv[4]) == "mixed";
     if (argc != 4 && !isMixed) {
-        std::fprintf(stderr, "usage: make_bench_files FOLDER COUNT BODY_BYTES [mixed]\n");
+        std::fprintf(stderr, "usage: make_bench_files FOLDER COUNT BODY_BYTES [mixed]\n"
+                             "       make_bench_files FOLDER COUNT large|bare\n");
         return 2;
     }
     return chronomender::tools::makeFiles(argv[1], std::strtoul(argv[2], nullptr, 10),
