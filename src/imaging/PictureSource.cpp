@@ -57,10 +57,16 @@ constexpr Decoder kDecoders[]{
     {FileFormatOtherMovie, kMovie, nullptr},
 };
 
+/// The name only says what is tried first where the first bytes say nothing.
+FileFormatType formatOf(PictureFile &file) {
+    const std::string_view extension = extensionOf(file.path());
+    const bool isMovieByName = isMovieFormat(fileFormatTypeForExtension(extension));
+    return fileFormatTypeForContent(file.firstBytes(), extension)
+        .value_or(isMovieByName ? FileFormatOtherMovie : FileFormatNone);
+}
+
 UprightPicture pictureOf(PictureFile &file, const PictureWish &wish) {
-    const auto format = fileFormatTypeForContent(file.firstBytes(), extensionOf(file.path()));
-    const auto *decoder =
-        std::ranges::find(kDecoders, format.value_or(FileFormatNone), &Decoder::format);
+    const auto *decoder = std::ranges::find(kDecoders, formatOf(file), &Decoder::format);
     if (decoder == std::end(kDecoders))
         return failed(PictureFailure::DamagedOrUnknown);
     UprightPicture picture = decoder->decode(file, wish);

@@ -3,10 +3,9 @@
 
 #include "CameraText.h"
 #include "ExifGps.h"
+#include "ExivImage.h"
 #include "FileLayer.h"
 #include "MovieProperties.h"
-
-#include <exiv2/exiv2.hpp>
 
 #include <algorithm>
 #include <memory>
@@ -35,12 +34,6 @@ bool isReadableSize(const std::string &path, off_t most) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0 &&
            status.st_size <= most;
-}
-
-/// Containers whose parser in this library writes beyond its buffers when they are damaged. The
-/// library goes by content, so a photo's name does not keep them away.
-bool isMovie(const Exiv2::Image &image) {
-    return image.mimeType().starts_with("video/");
 }
 
 using Find = Exiv2::ExifData::const_iterator (*)(const Exiv2::ExifData &);

@@ -16,6 +16,7 @@ namespace chronomender {
 namespace {
 
 constexpr unsigned kMostRawMegabytes = 1024;
+constexpr std::uint64_t kMostRawBytes = std::uint64_t{2} << 30;
 
 struct FreeProcessed {
     void operator()(libraw_processed_image_t *image) const { LibRaw::dcraw_clear_mem(image); }
@@ -129,6 +130,8 @@ int sideOf(const UprightPicture &picture) {
 } // namespace
 
 UprightPicture rawPicture(const PictureFile &file, const PictureWish &wish) {
+    if (file.length() > kMostRawBytes) // the libraries map a file into memory
+        return failed(PictureFailure::TooLarge);
     if (wish.choice == PictureChoice::Decoded)
         return developed(file, wish);
     // The library below knows one preview of each file, and mostly the largest.

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RawPreview.h"
 
+#include "ExivImage.h"
 #include "JpegDecoder.h"
 #include "UprightImage.h"
-
-#include <exiv2/exiv2.hpp>
 
 #include <algorithm>
 #include <memory>
@@ -54,8 +53,7 @@ UprightPicture previewOf(const Exiv2::Image &image, const PictureWish &wish) {
 UprightPicture rawPreview(const PictureFile &file, const PictureWish &wish) {
     try {
         const std::unique_ptr<Exiv2::Image> image(Exiv2::ImageFactory::open(file.path()).release());
-        // The library's parser of movies writes beyond its buffers when they are damaged.
-        if (!image || image->mimeType().starts_with("video/"))
+        if (!image || isMovie(*image))
             return failed(PictureFailure::NoPicture);
         image->readMetadata();
         return previewOf(*image, wish);

@@ -4,6 +4,7 @@
 #include "PropertyDictionary.h"
 #include "TemporaryFolder.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -84,9 +85,38 @@ TEST_F(PictureSourceTest, TakesTheEmbeddedOneWhereItIsWantedAndServes) {
 TEST_F(PictureSourceTest, GoesByContent) {
     for (const char *format : {"png", "tiff", "webp", "bmp"}) {
         const auto found = read(pictureFile(fourQuarters(300, 200), format));
-        EXPECT_EQ(quarters(found.image), std::string(format) == "bmp" ? "????" : "rgbw") << format;
+        EXPECT_EQ(quarters(found.image), std::string(format) == "bmp" ? "none" : "rgbw") << format;
     }
     EXPECT_TRUE(read(pictureFile(fourQuarters(300, 200, 128), "png")).image.hasAlphaChannel());
+}
+
+TEST_F(PictureSourceTest, StandsUprightWhateverProgramWroteIt) {
+    const std::string still = m_folder.write("a.png", pictureFile(fourQuarters(300, 200), "png"));
+    const std::string turned =
+        m_folder.write("a.jpg", cameraJpeg(fourQuarters(300, 200), 6)); // for its Exif data
+    struct Case {
+        const char *name;
+        std::string command;
+        const char *expected;
+    };
+    const std::string ffmpeg = "ffmpeg -v error -loop 1 -i " + still + " -t 0.2 -c:v mpeg4 -q:v 2 ";
+    const std::string turn =
+        "ffmpeg -v error -i " + m_folder.path("a.mp4") + " -c copy -metadata:s:v rotate=90 ";
+    const Case cases[]{{"a.mp4", ffmpeg, "rgbw"},
+                       {"b.mov", turn, "gwrb"}, // counts against the clock,
+                       {"c.mkv", ffmpeg, "rgbw"},
+                       {"d.avi", ffmpeg, "rgbw"},
+                       // Its Exif data say "turn", and have no say in this format.
+                       {"e.heic", "heif-enc -q 90 " + turned + " -o ", "rgbw"},
+                       {"f.avif", "heif-enc -A -q 90 " + still + " -o ", "rgbw"}};
+    for (const auto &[name, command, expected] : cases) {
+        const std::string path = m_folder.path(name);
+        if (std::system((command + path + " >/dev/null 2>&1").c_str()) != 0)
+            GTEST_SKIP() << "cannot make " << name << " here";
+        const auto found = newImageFromSource(path, 126, EmbeddedIfLargeEnough);
+        EXPECT_EQ(quarters(found.image), expected) << name;
+        EXPECT_EQ(std::max(found.image.width(), found.image.height()), 126) << name;
+    }
 }
 
 TEST_F(PictureSourceTest, TellsWhyThereIsNone) {

@@ -29,8 +29,10 @@ inline QImage fourQuarters(int width, int height, int alpha = 255) {
 }
 
 /// "rgbw" for a picture that stands upright: the colours in the middle of its quarters, "?" for
-/// others.
+/// others; "none" for no picture.
 inline std::string quarters(const QImage &image) {
+    if (image.isNull())
+        return "none";
     std::string colours;
     for (int i = 0; i < 4; ++i) {
         const QColor colour = image.pixelColor(image.width() * (1 + i % 2 * 2) / 4,
