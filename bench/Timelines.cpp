@@ -3,80 +3,15 @@
 
 #include "DateDrag.h"
 #include "SourceBuilder.h"
-#include "StampConversions.h"
+#include "Trip.h"
 
 #include <algorithm>
-#include <array>
 #include <map>
-#include <random>
-#include <string>
 
 namespace chronomender::bench {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-constexpr std::size_t folderCount = 20, firstFolderShare = 10;
-constexpr std::size_t alertEvery = 40, groupEvery = 25, shiftEvery = 7;
-
-struct Camera {
-    const char *prefix, *make, *model;
-};
-constexpr std::array<Camera, 2> cameras{
-    {{"IMG_", "Canon", "Canon EOS R5"}, {"DSC_", "NIKON CORPORATION", "NIKON Z 6"}}};
-
-std::string nameOf(const Camera &camera, std::size_t number, const char *extension) {
-    const std::string digits = std::to_string(number % 10'000);
-    return camera.prefix + std::string(4 - digits.size(), '0') + digits + extension;
-}
-
-void fill(MySinglePic &pic, const Camera &camera, const Zone &zone) {
-    const Date date = pic.spDateTimeOriginal;
-    const auto record = [&](StampSlot slot, std::optional<LocatedBytes> &value) {
-        value = LocatedBytes{100, 20, *exifDataFromDate(date, zone.rules)};
-        pic.slots.*description(slot).oldDate = date;
-    };
-    record(StampSlot::Original, pic.singlePicAttributes.exifDateTimeOriginal);
-    record(StampSlot::Digitized, pic.singlePicAttributes.exifDateTimeDigitized);
-    record(StampSlot::Modification, pic.singlePicAttributes.tiffDateTime);
-    pic.slots.fileModificationDateOLD = date;
-    pic.camera.make = camera.make;
-    pic.camera.model = camera.model;
-    pic.camera.pivMakeModel = completeMakerModelString(camera.make, camera.model);
-}
-
-void addJpeg(const MySinglePicPtr &raw, const MySingleFolderPtr &folder, const Zone &zone) {
-    const std::string name = raw->spBaseName() + ".JPG";
-    auto jpeg = MySinglePic::create(name, folder, SpTypeExifOriginal, raw->spDateTimeOriginal);
-    fill(*jpeg, cameras[0], zone);
-    raw->fileFormatType = FileFormatRaw;
-    raw->group.bundleDependentImage = jpeg;
-    jpeg->group.bundleMasterImage = raw;
-    folder->bundleDependentsRawAndJPG.push_back(std::move(jpeg));
-}
-
-/// Folders come in pairs: two cameras on the same days, a third of the shots in bursts.
-void addShots(const MySingleFolderPtr &folder, std::size_t index, std::size_t count,
-              const Zone &zone) {
-    std::mt19937 random(static_cast<unsigned>(index) + 1);
-    const Camera &camera = cameras[index % cameras.size()];
-    Date date = absl::FromCivil(
-        absl::CivilSecond(2024, 5, 1 + 4 * static_cast<int>(index / cameras.size()), 9),
-        zone.rules);
-    for (std::size_t i = 0; i < count; ++i) {
-        if (random() % 3 != 0)
-            date += absl::Seconds(1 + random() % 60);
-        const bool isGroup = i % groupEvery == 0;
-        auto pic = MySinglePic::create(nameOf(camera, 1 + i, isGroup ? ".CR3" : ".JPG"), folder,
-                                       SpTypeExifOriginal, date);
-        fill(*pic, camera, zone);
-        if (isGroup)
-            addJpeg(pic, folder, zone);
-        if (i % shiftEvery == 0)
-            pic->shift.singlePicModification = absl::Seconds(30);
-        folder->sfPicDetails_fullArray.push_back(std::move(pic));
-    }
-}
 
 template<class Work>
 std::chrono::duration<double> timeOf(Work work) {
@@ -100,7 +35,8 @@ struct Timelines::Trip {
     MyTimelinesController timelines{undo, [] {}};
     std::optional<CompiledPredicate> predicate;
     std::optional<SourceBuilder> builder;
-    std::size_t itemCount = 0, alerts = 0, namesWith7 = 0;
+    std::size_t itemCount = 0;
+    TripCounts counts;
 
     MySingleFolder &first() { return *folders.droppedFolders().front(); }
     void makeBuilder() {
@@ -120,32 +56,7 @@ struct Timelines::Trip {
 Timelines::Timelines(std::size_t itemCount) : m_trip(std::make_unique<Trip>()) {
     Trip &trip = *m_trip;
     trip.itemCount = itemCount;
-    const Zone home = *trip.zones.zoneWithName("Europe/Berlin");
-    trip.zones.setSystemZone(home);
-    const std::size_t first = itemCount / firstFolderShare;
-    std::size_t left = itemCount - first;
-    for (std::size_t i = 0; i < folderCount; ++i) {
-        auto folder =
-            MySingleFolder::initWithFolder("/trip/" + std::to_string(i), nullptr,
-                                           i % 4 == 3 ? EditMode::Single : EditMode::Together);
-        const std::size_t count = i == 0 ? first : left / (folderCount - i);
-        left -= i == 0 ? 0 : count;
-        addShots(folder, i, count, home);
-        if (i % 5 == 1)
-            folder->sfDateModificationsTimeInterval = absl::Seconds(3);
-        if (i % 3 == 1)
-            folder->targetTimeZones.folderDefault =
-                ZoneChoice::named(*trip.zones.zoneWithName("Asia/Tokyo"));
-        trip.folders.append(folder);
-        for (std::size_t j = 0; j < count; ++j) {
-            MySinglePic &pic = *folder->sfPicDetails_fullArray[j];
-            trip.namesWith7 += pic.spName.find('7') != std::string::npos;
-            if (j % alertEvery != 0)
-                continue;
-            pic.save.saveErrorType = 1;
-            ++trip.alerts;
-        }
-    }
+    trip.counts = addTrip(trip.folders, trip.zones, itemCount);
     trip.makeBuilder();
     trip.build(Refilter::FullBuild);
 }
@@ -175,11 +86,11 @@ Timelines::Figure Timelines::fullRebuild() {
 }
 
 Timelines::Figure Timelines::refilterByText() {
-    return refilter("spName CONTAINS[c] \"7\"", m_trip->namesWith7);
+    return refilter("spName CONTAINS[c] \"7\"", m_trip->counts.namesWith7);
 }
 
 Timelines::Figure Timelines::refilterByState() {
-    return refilter("filter_miscState_6 == 1", m_trip->alerts);
+    return refilter("filter_miscState_6 == 1", m_trip->counts.alerts);
 }
 
 Timelines::Figure Timelines::refilter(const char *predicate, std::size_t expected) {

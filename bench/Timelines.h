@@ -7,10 +7,8 @@
 
 namespace chronomender::bench {
 
-/// A trip in memory, without files: 20 folders of two cameras that shot side by side for days,
-/// bursts within a second, both cameras at the same second, some raws with their JPEG, corrected
-/// clocks and zones. The first folder holds a tenth of the items. Every figure leaves the trip as
-/// it was, and comes with the count that it is about: 0 when its result was wrong.
+/// The visible list of a trip in memory (see addTrip) and its strip. Every figure leaves the trip
+/// as it was, and comes with the count that it is about: 0 when its result was wrong.
 class Timelines {
 public:
     struct Figure {

@@ -79,7 +79,10 @@ void paintPicture(QPainter &painter, const QRectF &thumb, const CellData &cell,
     const QRectF place = picturePlace(thumb, cell.image.size(), cell.isOwnSize);
     if (cell.marks & MarkRejected)
         painter.setOpacity(rejectedOpacity);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    // Pixel by pixel where it fits, which is much faster, and sharper.
+    const double pixels = place.width() * painter.device()->devicePixelRatioF();
+    const bool isExact = std::abs(pixels - cell.image.width()) < 0.5;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !isExact);
     painter.drawImage(place, cell.image);
     painter.setOpacity(1);
 }

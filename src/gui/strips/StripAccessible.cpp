@@ -155,6 +155,13 @@ void installStripAccessibility() {
     static_cast<void>(isInstalled);
 }
 
+void tellItems(StripView &view) {
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent event(&view, QAccessible::ObjectReorder);
+    QAccessible::updateAccessibility(&event);
+}
+
 void tellMainItem(StripView &view) {
     const TimelineStrip *strip = view.strip();
     const MySinglePicPtr pic = strip ? view.cursor() : nullptr;

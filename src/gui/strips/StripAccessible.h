@@ -9,6 +9,8 @@ class StripView;
 
 /// To be called before the first strip is made; again at no cost.
 void installStripAccessibility();
+/// Other items stand on the strip.
+void tellItems(StripView &view);
 /// Another item is the main one, or the strip has got the focus.
 void tellMainItem(StripView &view);
 

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace chronomender {
 namespace {
@@ -68,7 +69,9 @@ void StripArea::followStrips() {
             return;
         const bool hadFocus = m_second->hasFocus();
         m_shared.drag.reset();
-        delete std::exchange(m_second, nullptr);
+        // It may be the one whose event led here.
+        m_second->hide();
+        std::exchange(m_second, nullptr)->deleteLater();
         m_title->hide();
         if (hadFocus)
             m_first->setFocus(Qt::OtherFocusReason);

@@ -32,8 +32,7 @@ StripPicture stripFrame(const StripShared &shared, const TimelineStrip &strip,
                         const StripMetrics &metrics, const MySinglePicPtr &cursor,
                         double pixelRatio) {
     WindowSession &session = shared.session;
-    const FilterContext filters{session.zones(),
-                                session.defaults().boolForKey("highlightEmptyMetaTags")};
+    const FilterContext filters = shared.filters();
     std::optional<ShownDrag> live;
     if (shared.drag) {
         live = shared.drag->live();

@@ -17,6 +17,10 @@ struct StripShared {
         };
     }
 
+    FilterContext filters() const {
+        return {session.zones(), session.defaults().boolForKey("highlightEmptyMetaTags")};
+    }
+
     WindowSession &session;
     int thumbSize = usualThumb;
     std::unique_ptr<StripDrag> drag; ///< null while nothing is dragged

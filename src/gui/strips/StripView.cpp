@@ -54,8 +54,6 @@ StripView::StripView(StripShared &shared, StripPlace place, QWidget *parent)
     refreshLook();
 }
 
-StripView::~StripView() = default;
-
 void StripView::connectSession() {
     WindowSession *session = &m_shared.session;
     connect(session, &WindowSession::listChanged, this, &StripView::listChanged);
@@ -63,11 +61,7 @@ void StripView::connectSession() {
     connect(session, &WindowSession::scrolled, this, &StripView::syncScroll);
     connect(session, &WindowSession::thumbsChanged, this, [this] { update(); });
     connect(session, &WindowSession::dateChangeAborted, this, &StripView::cancelDrag);
-    connect(session, &WindowSession::foldersChanged, this, [this] {
-        m_palette =
-            paintPalette(palette(), this->session().defaults().stringForKey("folderColors_7"));
-        update();
-    });
+    connect(session, &WindowSession::foldersChanged, this, &StripView::takePalette);
 }
 
 TimelineStrip *StripView::strip() const {
@@ -75,10 +69,13 @@ TimelineStrip *StripView::strip() const {
     return m_place == StripPlace::First ? &timelines.mainTimeline() : timelines.secondTimeline();
 }
 
-// ---- look
+void StripView::takePalette() {
+    m_palette = paintPalette(palette(), session().defaults().stringForKey("folderColors_7"));
+    update();
+}
 
 void StripView::refreshLook() {
-    m_palette = paintPalette(palette(), session().defaults().stringForKey("folderColors_7"));
+    takePalette();
     m_metrics = stripMetrics(font(), m_shared.thumbSize,
                              session().defaults().boolForKey("displayTimelineLabels"));
     TimelineStrip *strip = this->strip();
@@ -123,7 +120,7 @@ StripPicture StripView::picture() const {
     if (picture.drop) {
         const QPointF beside = m_pointer.isDragging()
                                    ? m_pointer.position()
-                                   : QPointF(placeOf(m_shared.drag->mainIndex()).center());
+                                   : QPointF(placeOf(m_shared.drag->mainIndex()).bottomRight());
         picture.callOut = {beside, m_shared.drag->proposedDate(), m_shared.drag->shift()};
     }
     return picture;
@@ -151,6 +148,7 @@ void StripView::listChanged() {
     if (m_cursor && !strip->indexOf(*m_cursor))
         m_cursor.reset();
     m_toldRange = {};
+    tellItems(*this);
     syncScroll();
 }
 
@@ -276,9 +274,7 @@ void StripView::focusInEvent(QFocusEvent *event) {
 }
 
 void StripView::focusOutEvent(QFocusEvent *event) {
-    const Qt::FocusReason reason = event->reason();
-    if (!m_pointer.isDragging() && reason != Qt::ActiveWindowFocusReason &&
-        reason != Qt::PopupFocusReason)
+    if (!m_pointer.isDragging() && event->reason() != Qt::ActiveWindowFocusReason)
         cancelDrag();
     QWidget::focusOutEvent(event);
     update();
@@ -305,7 +301,7 @@ bool StripView::showToolTip(const QPoint &position, const QPoint &global) {
     const ThumbAnswer answer = m_shared.thumbnail(pic, ThumbSide::Normal);
     const bool isUnsupported = answer.state == ThumbState::Unsupported;
     QToolTip::showText(global,
-                       itemToolTip(session(), *pic, cellMarks(*pic, {session().zones()}),
+                       itemToolTip(session(), *pic, cellMarks(*pic, m_shared.filters()),
                                    isUnsupported ? answer.reasonKey : std::string_view()),
                        this);
     return true;
@@ -380,8 +376,6 @@ void StripView::endDrag(void (StripDrag::*ending)()) {
     dragMoved();
 }
 
-// ---- from outside
-
 void StripView::dragEnterEvent(QDragEnterEvent *event) {
     if (!localPaths(event->mimeData()).empty())
         event->acceptProposedAction();
@@ -397,7 +391,7 @@ QString StripView::spokenName(const MySinglePicPtr &pic) const {
     const Date date =
         isDragging() ? m_shared.drag->live().date(*pic) : pic->spDateTimeModified_sort();
     return spokenItem(session(), *pic, date, strip && strip->selection.contains(pic),
-                      cellMarks(*pic, {session().zones()}));
+                      cellMarks(*pic, m_shared.filters()));
 }
 
 } // namespace chronomender

@@ -27,7 +27,6 @@ class StripView : public QWidget {
 public:
     /// `shared` outlives the view.
     StripView(StripShared &shared, StripPlace place, QWidget *parent = nullptr);
-    ~StripView() override;
 
     WindowSession &session() const { return m_shared.session; }
     StripShared &shared() const { return m_shared; }
@@ -100,6 +99,7 @@ protected:
 
 private:
     void connectSession();
+    void takePalette();
     void listChanged();
     void selectionChanged();
     /// Takes over where the strip is scrolled to.
