@@ -2108,7 +2108,7 @@ Beispiele:
         <translation>Alle</translation>
     </message>
     <message id="filter_clear">
-        <translation>&amp;Aufheben</translation>
+        <translation>A&amp;ufheben</translation>
     </message>
     <message id="filter_hidden">
         <translation>%1 ausgeblendet</translation>
@@ -2117,22 +2117,22 @@ Beispiele:
         <translation>1 ausgeblendet</translation>
     </message>
     <message id="filter_keepers">
-        <translation>Favoriten</translation>
+        <translation>Behaltene</translation>
     </message>
     <message id="filter_notRejected">
-        <translation>Nicht verworfene</translation>
+        <translation>Ohne Ausschuss</translation>
     </message>
     <message id="filter_other">
         <translation>Ein eigener Filter ist aktiv</translation>
     </message>
     <message id="filter_rating">
-        <translation>&amp;Zeigen</translation>
+        <translation>Z&amp;eigen</translation>
     </message>
     <message id="filter_words">
         <translation>Nach Name oder Kamera filtern</translation>
     </message>
     <message id="folders_add">
-        <translation>Ordner &amp;hinzufügen…</translation>
+        <translation>Ordner hinzufügen…</translation>
     </message>
     <message id="folders_alerts">
         <translation>%1 Warnungen</translation>
@@ -2477,7 +2477,7 @@ Beispiele:
         <translation>gleichzeitig</translation>
     </message>
     <message id="shift_days">
-        <translation>&amp;Tage</translation>
+        <translation>Ta&amp;ge</translation>
     </message>
     <message id="shift_direction">
         <translation>&amp;Verschieben</translation>
@@ -2519,7 +2519,7 @@ Beispiele:
         <translation>jeweils eigene</translation>
     </message>
     <message id="shift_reset">
-        <translation>&amp;Zurücksetzen</translation>
+        <translation>Zu&amp;rücksetzen</translation>
     </message>
     <message id="shift_resetTip">
         <translation>Wieder die ursprünglichen Daten zeigen</translation>
@@ -2531,7 +2531,7 @@ Beispiele:
         <translation>Se&amp;kunden</translation>
     </message>
     <message id="shift_single">
-        <translation>&amp;Einzeln</translation>
+        <translation>E&amp;inzeln</translation>
     </message>
     <message id="shift_singleTip">
         <translation>Jedes Medium hat eine eigene Verschiebung</translation>
@@ -2540,7 +2540,7 @@ Beispiele:
         <translation>Verschiebung</translation>
     </message>
     <message id="shift_together">
-        <translation>&amp;Gemeinsam</translation>
+        <translation>Gemei&amp;nsam</translation>
     </message>
     <message id="shift_togetherTip">
         <translation>Eine Verschiebung für den ganzen Ordner</translation>

@@ -2126,13 +2126,13 @@ Examples:
         <translation>A filter of its own is on</translation>
     </message>
     <message id="filter_rating">
-        <translation>&amp;Show</translation>
+        <translation>Sho&amp;w</translation>
     </message>
     <message id="filter_words">
         <translation>Filter by name or camera</translation>
     </message>
     <message id="folders_add">
-        <translation>&amp;Add Folders…</translation>
+        <translation>Add Folders…</translation>
     </message>
     <message id="folders_alerts">
         <translation>%1 alerts</translation>
@@ -2480,7 +2480,7 @@ Examples:
         <translation>&amp;days</translation>
     </message>
     <message id="shift_direction">
-        <translation>S&amp;hift</translation>
+        <translation>&amp;Shift</translation>
     </message>
     <message id="shift_earlier">
         <translation>earlier</translation>
@@ -2492,7 +2492,7 @@ Examples:
         <translation>%1: %2</translation>
     </message>
     <message id="shift_hours">
-        <translation>h&amp;ours</translation>
+        <translation>ho&amp;urs</translation>
     </message>
     <message id="shift_later">
         <translation>later</translation>
@@ -2531,7 +2531,7 @@ Examples:
         <translation>se&amp;conds</translation>
     </message>
     <message id="shift_single">
-        <translation>One by &amp;one</translation>
+        <translation>One &amp;by one</translation>
     </message>
     <message id="shift_singleTip">
         <translation>Each item has a shift of its own</translation>
@@ -2540,7 +2540,7 @@ Examples:
         <translation>Shift</translation>
     </message>
     <message id="shift_together">
-        <translation>&amp;Together</translation>
+        <translation>To&amp;gether</translation>
     </message>
     <message id="shift_togetherTip">
         <translation>One shift for the whole folder</translation>

@@ -7,7 +7,7 @@ namespace chronomender {
 namespace {
 
 constexpr double dimmedOpacity = 0.55;
-constexpr float selectedOpacity = 0.22F;
+constexpr float selectedOpacity = 0.16F;
 constexpr char16_t separator[] = u" · ";
 
 /// Lengths in a row, all from its font.

@@ -15,8 +15,8 @@ struct Appearance {
     const char *strip, *cell, *dimText, *dropTarget, *unsaved, *warning, *danger, *keeper,
         *rejected;
 };
-constexpr Appearance light{"#e4e6ea", "#d3d6dc", "#4b525d", "#0a6ed1", "#b45f06",
-                           "#9a6700", "#b3261e", "#1b7f3b", "#8a1c1c"};
+constexpr Appearance light{"#e4e6ea", "#d3d6dc", "#4b525d", "#0a6ed1", "#944a00",
+                           "#7d5300", "#b3261e", "#1b7f3b", "#8a1c1c"};
 constexpr Appearance dark{"#1b1d21", "#2c2f36", "#a3abb8", "#58a6ff", "#ffb454",
                           "#f2cc60", "#ff7b72", "#56d364", "#ff8f87"};
 

@@ -21,7 +21,7 @@ namespace chronomender {
 namespace {
 
 constexpr std::chrono::milliseconds refreshDelay{80};
-constexpr int leastColumns = 30; ///< two days fit beside each other
+constexpr int leastColumns = 36; ///< two days fit beside each other
 
 /// Parts with something to say; a line without one is left out.
 void addLine(std::vector<PaintedLine> &lines, std::initializer_list<PaintedPart> parts) {

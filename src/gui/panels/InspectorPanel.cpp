@@ -13,6 +13,7 @@ namespace chronomender {
 namespace {
 
 constexpr std::chrono::milliseconds refreshDelay{40};
+constexpr int leastColumns = 48; ///< a name and a date fit beside each other
 
 } // namespace
 
@@ -23,7 +24,7 @@ InspectorPanel::InspectorPanel(WindowSession &session, QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 36);
+    setMinimumWidth(fontMetrics().averageCharWidth() * leastColumns);
     const auto request = [this] { m_refresh.request(); };
     connect(&session, &WindowSession::selectionChanged, this, request);
     connect(&session, &WindowSession::listChanged, this, request);

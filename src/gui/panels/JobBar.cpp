@@ -6,6 +6,7 @@
 #include "JobRows.h"
 #include "WindowSession.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -50,6 +51,8 @@ void JobBar::tell(const QString &words) {
     m_words->setText(words);
     m_words->setToolTip(words);
     m_told.start();
+    QAccessibleEvent event(m_words, QAccessible::Alert); // it is read out where somebody listens
+    QAccessible::updateAccessibility(&event);
 }
 
 void JobBar::showCounts() {

@@ -14,11 +14,21 @@ namespace {
 constexpr std::size_t mainCell = static_cast<std::size_t>(Neighbour::Main);
 constexpr std::array<const char *, 3> cellNames{"preview_before", "preview_main", "preview_after"};
 /// Pictures are asked for in few sizes, so that a window that changes its own makes none anew.
-constexpr std::array<int, 4> pictureSides{512, 1024, 1600, 2560};
+constexpr std::array<int, 4> pictureSides{512, 1024, 1536, 2560};
 
 int sideFor(int pixels) {
     const auto *const found = std::ranges::lower_bound(pictureSides, pixels);
     return found == pictureSides.end() ? pictureSides.back() : *found;
+}
+
+/// Of a pair whose leading file has no picture, that of the other one.
+PreviewAnswer previewOf(const MySinglePicPtr &pic, int side, Previews &previews) {
+    PreviewAnswer answer = previews.preview(pic, side);
+    const MySinglePicPtr &dependent = pic->group.bundleDependentImage;
+    if (answer.state != ThumbState::Unsupported || !dependent)
+        return answer;
+    PreviewAnswer other = previews.preview(dependent, side);
+    return other.state == ThumbState::Unsupported ? answer : other;
 }
 
 /// A thumbnail stands in while the preview is being made.
@@ -57,7 +67,10 @@ PreviewPanel::PreviewPanel(WindowSession &session, QWidget *parent)
     connect(&session, &WindowSession::listChanged, this, request);
     connect(&session, &WindowSession::foldersChanged, this, request);
     connect(&session, &WindowSession::previewsChanged, this, [this] { refreshPictures(); });
-    connect(&session, &WindowSession::thumbsChanged, this, [this] { refreshPictures(); });
+    connect(&session, &WindowSession::thumbsChanged, this, [this] {
+        if (m_isAnyPending)
+            m_refresh.request();
+    });
     refresh();
 }
 
@@ -95,6 +108,7 @@ void PreviewPanel::refresh() {
 /// The main one first: what is asked for last is made first.
 void PreviewPanel::refreshPictures() {
     const PaintPalette palette = paletteOf(*this, m_session);
+    m_isAnyPending = false;
     for (const std::size_t i : {std::size_t{0}, m_cells.size() - 1, mainCell}) {
         const NeighbourFact &fact = m_facts[i];
         if (!fact.pic) {
@@ -102,7 +116,8 @@ void PreviewPanel::refreshPictures() {
             continue;
         }
         const PreviewAnswer answer =
-            m_session.previews().preview(fact.pic, sideFor(m_cells[i]->pixelSide()));
+            previewOf(fact.pic, sideFor(m_cells[i]->pixelSide()), m_session.previews());
+        m_isAnyPending = m_isAnyPending || answer.state == ThumbState::Pending;
         PreviewPicture picture;
         picture.image = imageOf(answer, fact.pic, m_session.thumbnails());
         picture.placeholder = placeholderOf(answer);

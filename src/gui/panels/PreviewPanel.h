@@ -38,6 +38,7 @@ private:
     WindowSession &m_session;
     std::array<PreviewCell *, 3> m_cells{};
     NeighbourFacts m_facts;
+    bool m_isAnyPending = false; ///< a thumbnail stands in for a preview
     Coalesced m_refresh;
 };
 
