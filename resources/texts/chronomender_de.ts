@@ -2851,5 +2851,23 @@ Beispiele:
     <message id="strip_timeline">
         <translation>Zeitleiste</translation>
     </message>
+    <message id="chooseFolders_title">
+        <translation>Ordner mit Fotos und Filmen wählen</translation>
+    </message>
+    <message id="closing_discard">
+        <translation>Verwerfen</translation>
+    </message>
+    <message id="closing_information">
+        <translation>Was nicht gesichert ist, geht verloren. Die Dateien selbst sind bisher unverändert.</translation>
+    </message>
+    <message id="closing_message">
+        <translation>Korrekturen vor dem Schließen sichern?</translation>
+    </message>
+    <message id="closing_save">
+        <translation>Alles sichern</translation>
+    </message>
+    <message id="window_help">
+        <translation>chronomender [--language en|de] [Ordner oder Datei] …</translation>
+    </message>
 </context>
 </TS>

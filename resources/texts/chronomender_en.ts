@@ -2851,5 +2851,23 @@ Examples:
     <message id="strip_timeline">
         <translation>Timeline</translation>
     </message>
+    <message id="chooseFolders_title">
+        <translation>Choose a folder of photos and movies</translation>
+    </message>
+    <message id="closing_discard">
+        <translation>Discard</translation>
+    </message>
+    <message id="closing_information">
+        <translation>What is not saved is lost. The files themselves are unchanged so far.</translation>
+    </message>
+    <message id="closing_message">
+        <translation>Save your corrections before closing?</translation>
+    </message>
+    <message id="closing_save">
+        <translation>Save All</translation>
+    </message>
+    <message id="window_help">
+        <translation>chronomender [--language en|de] [folder or file]…</translation>
+    </message>
 </context>
 </TS>
