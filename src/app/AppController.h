@@ -85,6 +85,11 @@ public:
     void setFolderAdded(ImportDriver::FolderAdded folderAdded) {
         m_importDriver.setFolderAdded(std::move(folderAdded));
     }
+    /// Called on the main thread when items of a folder became part of the session, before their
+    /// cameras are read late; `startImport`'s `finished` comes behind all of that.
+    void setItemsReady(ImportDriver::ItemsReady itemsReady) {
+        m_importDriver.setItemsReady(std::move(itemsReady));
+    }
     /// Folders that are to get one sequence of dates are told here before the first of them is
     /// imported.
     DelayedImports &delayedImports() { return m_importDriver.delayedImports(); }

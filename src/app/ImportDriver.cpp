@@ -44,7 +44,7 @@ ImportDriver::ImportDriver(const ImportSession &session)
     : m_session(session),
       m_delayedImports(
           [this](const MySingleFolderPtr &folder, const std::vector<MySinglePicPtr> &items) {
-              publish(*folder, items);
+              publish(folder, items);
           }) {}
 
 /// An import of a folder, and of all folders that turn up inside it.
@@ -97,7 +97,7 @@ void ImportDriver::importEnded(const JobPtr &job, const ImportRequest &request,
     if (m_delayedImports.isDelayed(*request.folder))
         m_delayedImports.hold(*request.folder, outcome.items);
     else
-        publish(*request.folder, outcome.items);
+        publish(request.folder, outcome.items);
     m_delayedImports.removeDelayer(*request.folder);
     if (m_session.cancellation.isRequested())
         m_delayedImports.finishAll();
@@ -134,13 +134,16 @@ void ImportDriver::addSubfolders(const JobPtr &job, const ImportRequest &request
     job->waiting.insert(job->waiting.begin(), requests.begin(), requests.end());
 }
 
-void ImportDriver::publish(MySingleFolder &folder, const std::vector<MySinglePicPtr> &items) {
-    auto &list = folder.sfPicDetails_fullArray;
+void ImportDriver::publish(const MySingleFolderPtr &folder,
+                           const std::vector<MySinglePicPtr> &items) {
+    auto &list = folder->sfPicDetails_fullArray;
     list.insert(list.end(), items.begin(), items.end());
-    sfUpdatePicsFromAndTill(folder);
-    folder.mediaTypesState = folder.presentMediaTypesState();
-    validateTZCUnsaved(folder, m_session.zones);
-    refreshCompoundLivePhotosStates(folder, m_session.defaults);
+    sfUpdatePicsFromAndTill(*folder);
+    folder->mediaTypesState = folder->presentMediaTypesState();
+    validateTZCUnsaved(*folder, m_session.zones);
+    refreshCompoundLivePhotosStates(*folder, m_session.defaults);
+    if (m_itemsReady)
+        m_itemsReady(folder, items);
 }
 
 void ImportDriver::completeLate(const ImportRequest &request,

@@ -43,9 +43,14 @@ public:
     using FolderAdded =
         std::function<void(const MySingleFolderPtr &folder, const MySingleFolderPtr &parent)>;
 
+    /// Items of the folder became part of the session; what is read late of them is still to come.
+    using ItemsReady = std::function<void(const MySingleFolderPtr &folder,
+                                          const std::vector<MySinglePicPtr> &items)>;
+
     explicit ImportDriver(const ImportSession &session);
 
     void setFolderAdded(FolderAdded folderAdded) { m_folderAdded = std::move(folderAdded); }
+    void setItemsReady(ItemsReady itemsReady) { m_itemsReady = std::move(itemsReady); }
     DelayedImports &delayedImports() { return m_delayedImports; }
 
     /// See AppController::startImport.
@@ -58,7 +63,7 @@ private:
     void runNext(const JobPtr &job);
     void importEnded(const JobPtr &job, const ImportRequest &request, ImportOutcome outcome);
     void addSubfolders(const JobPtr &job, const ImportRequest &request, ImportOutcome &outcome);
-    void publish(MySingleFolder &folder, const std::vector<MySinglePicPtr> &items);
+    void publish(const MySingleFolderPtr &folder, const std::vector<MySinglePicPtr> &items);
     void completeLate(const ImportRequest &request, const std::vector<MySinglePicPtr> &items,
                       std::function<void()> finished);
 
@@ -66,6 +71,7 @@ private:
     SessionFiles m_sessionFiles; ///< import thread only
     DelayedImports m_delayedImports;
     FolderAdded m_folderAdded;
+    ItemsReady m_itemsReady;
     WorkThread m_thread;
     bool m_isImagingReady = false;
 };

@@ -76,6 +76,15 @@ void WindowSession::read(const MySingleFolderPtr &folder, const std::vector<std:
         [this, folder, job](const ImportOutcome &outcome) { readingEnded(folder, outcome); });
 }
 
+void WindowSession::itemsReady(const std::vector<MySinglePicPtr> &items) {
+    m_controller->buildNewSource();
+    m_thumbnails->addImagesWithoutThumb(items);
+    TimelineStrip &strip = timelines().mainTimeline();
+    if (!strip.selection.picSelection && !strip.theSource.empty())
+        timelines().simpleSelectThumb(strip.theSource.front(), strip);
+    tellEverything();
+}
+
 void WindowSession::readingEnded(const MySingleFolderPtr &folder, const ImportOutcome &outcome) {
     std::erase_if(m_reading, [&](const auto &entry) { return entry.second == folder.get(); });
     --m_runningReads;
@@ -83,10 +92,6 @@ void WindowSession::readingEnded(const MySingleFolderPtr &folder, const ImportOu
     if (m_runningReads == 0 && m_saveFlow->isIdle())
         m_controller->cancellation().clear();
     m_controller->buildNewSource();
-    m_thumbnails->addImagesWithoutThumb(outcome.items);
-    TimelineStrip &strip = timelines().mainTimeline();
-    if (!strip.selection.picSelection && !strip.theSource.empty())
-        timelines().simpleSelectThumb(strip.theSource.front(), strip);
     tellEverything();
     tell(text("status_read", {std::to_string(outcome.items.size()), folder->sfFolder}));
     if (m_runningReads == 0)

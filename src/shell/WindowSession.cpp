@@ -84,8 +84,11 @@ void WindowSession::connectParts() {
         [this](const MySingleFolderPtr &folder, const MySingleFolderPtr &parent) {
             const auto found = m_reading.find(parent.get());
             m_reading[folder.get()] = found == m_reading.end() ? parent.get() : found->second;
-            m_controller->buildNewSource();
             Q_EMIT foldersChanged();
+        });
+    m_controller->setItemsReady(
+        [this](const MySingleFolderPtr &, const std::vector<MySinglePicPtr> &items) {
+            itemsReady(items);
         });
     connect(m_saveFlow.get(), &SaveFlow::stageChanged, this, [this] {
         m_thumbnails->setIsAutoBGThumbsPaused(m_saveFlow->stage() == SaveFlow::Stage::Writing);

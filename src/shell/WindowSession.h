@@ -136,6 +136,7 @@ private:
     void openJob(const DropJob &job, const KeyStates &keyStates);
     void read(const MySingleFolderPtr &folder, const std::vector<std::string> &names,
               const KeyStates &keyStates);
+    void itemsReady(const std::vector<MySinglePicPtr> &items);
     void readingEnded(const MySingleFolderPtr &folder, const ImportOutcome &outcome);
     void noteReading(const ImportOutcome &outcome);
     void tellReadingNotes();
