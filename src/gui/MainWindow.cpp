@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MainWindow.h"
+
+#include "ActionSet.h"
+#include "Controls.h"
+#include "FilterBar.h"
+#include "FolderPanel.h"
+#include "InspectorPanel.h"
+#include "JobBar.h"
+#include "PreviewPanel.h"
+#include "ShiftBar.h"
+#include "StripArea.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace chronomender {
+namespace {
+
+/// How a splitter shares its room between its parts, in shares.
+void share(QSplitter *splitter, std::initializer_list<int> shares) {
+    int part = 0;
+    QList<int> sizes;
+    for (const int each : shares) {
+        splitter->setStretchFactor(part++, each);
+        sizes.append(each * 100);
+    }
+    splitter->setSizes(sizes);
+    splitter->setChildrenCollapsible(false);
+}
+
+ThumbnailSettings thumbnailSettings(const UserDefaults &defaults) {
+    ThumbnailSettings settings;
+    settings.vqsFspUsesHigherResScrollingAtTheCostOfMuchRam =
+        defaults.boolForKey("vqsFspUsesHigherResScrollingAtTheCostOfMuchRam");
+    settings.autoBGThumbGeneration = defaults.boolForKey("autoBGThumbGeneration");
+    return settings;
+}
+
+std::unique_ptr<WindowSession> makeSession(AppServices services, WindowQuestions &questions) {
+    const ThumbnailSettings thumbs = thumbnailSettings(*services.defaults);
+    return std::make_unique<WindowSession>(std::move(services), questions, thumbs);
+}
+
+std::vector<std::string> pathsOf(const QMimeData &data) {
+    std::vector<std::string> paths;
+    for (const QUrl &url : data.urls())
+        if (url.isLocalFile())
+            paths.push_back(url.toLocalFile().toStdString());
+    return paths;
+}
+
+} // namespace
+
+MainWindow::MainWindow(AppServices services)
+    : m_session(makeSession(std::move(services), m_questions)) {
+    m_questions.setWindow(this, m_session.get());
+    setAcceptDrops(true);
+    m_actions = new ActionSet(*this, *m_session, [this](CommandId id) { run(id); });
+    layOut();
+    connectSession();
+    connectMenus();
+    m_refresh.setSingleShot(true);
+    connect(&m_refresh, &QTimer::timeout, this, &MainWindow::refresh);
+    refresh();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::layOut() {
+    WindowSession &session = *m_session;
+    auto *panels = new QSplitter(Qt::Horizontal);
+    panels->addWidget(m_folders = new FolderPanel(session));
+    panels->addWidget(m_preview = new PreviewPanel(session));
+    panels->addWidget(m_inspector = new InspectorPanel(session));
+    share(panels, {3, 7, 4});
+
+    auto *timeline = new QWidget;
+    auto *below = new QVBoxLayout(timeline);
+    below->setContentsMargins({});
+    below->addWidget(m_filter = new FilterBar(session));
+    below->addWidget(m_strips = new StripArea(session), 1);
+    below->addWidget(m_shift = new ShiftBar(session));
+
+    auto *all = new QSplitter(Qt::Vertical);
+    all->addWidget(panels);
+    all->addWidget(timeline);
+    share(all, {1, 0});
+    all->setSizes({timeline->sizeHint().height() * 2, timeline->sizeHint().height()});
+    setCentralWidget(all);
+    statusBar()->addWidget(new JobBar(session), 1);
+    const QFontMetrics metrics = fontMetrics();
+    resize(metrics.averageCharWidth() * 190, metrics.lineSpacing() * 52);
+}
+
+void MainWindow::connectSession() {
+    const auto soon = [this] {
+        if (!m_refresh.isActive())
+            m_refresh.start(0);
+    };
+    connect(m_session.get(), &WindowSession::foldersChanged, this, soon);
+    connect(m_session.get(), &WindowSession::listChanged, this, soon);
+    connect(m_session.get(), &WindowSession::selectionChanged, this, soon);
+    connect(m_session.get(), &WindowSession::stripsChanged, this, soon);
+    connect(m_session.get(), &WindowSession::undoChanged, this, soon);
+    connect(&m_session->saveFlow(), &SaveFlow::ended, this, [this] { closeAfterSave(); });
+}
+
+void MainWindow::refresh() {
+    m_actions->refresh();
+    showTitle();
+}
+
+void MainWindow::showTitle() {
+    QStringList names;
+    for (const MySingleFolderPtr &folder : m_session->selectedFolders())
+        names.append(qString(folder->sfFolder));
+    setWindowTitle(names.isEmpty() ? QStringLiteral("[*]")
+                                   : names.join(QStringLiteral(", ")) + QStringLiteral("[*]"));
+    setWindowModified(m_session->hasUnsavedChanges());
+}
+
+void MainWindow::changeEvent(QEvent *event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_session->checkFolders();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event) {
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event) {
+    event->acceptProposedAction();
+    openDropped(pathsOf(*event->mimeData()), event->modifiers());
+}
+
+void MainWindow::openDropped(const std::vector<std::string> &paths,
+                             Qt::KeyboardModifiers modifiers) {
+    if (modifiers.testFlag(Qt::AltModifier))
+        m_session->openPathsWithOptions(paths);
+    else
+        m_session->openPaths(paths);
+}
+
+/// Until sessions are kept, closing loses what was not saved: so it asks.
+void MainWindow::closeEvent(QCloseEvent *event) {
+    const bool isBusy = !m_session->saveFlow().isIdle();
+    if (m_mayClose || (!isBusy && !m_session->hasUnsavedChanges())) {
+        m_session->jobs().cancelAll();
+        event->accept();
+        return;
+    }
+    event->ignore();
+    if (isBusy)
+        m_session->tell(text("status_waitForSave"));
+    else
+        askBeforeClosing();
+}
+
+void MainWindow::askBeforeClosing() {
+    const Confirmation question{text("closing_message"), text("closing_information"),
+                                text("closing_save"), text("closing_discard")};
+    m_session->questions().confirm(question, [this](Answer answer) {
+        if (answer == Answer::Cancelled)
+            return;
+        m_mayClose = answer == Answer::Discarded;
+        m_closesAfterSave = answer == Answer::Accepted;
+        if (m_mayClose)
+            close();
+        else
+            m_session->save(true);
+        // Refused, it must not close the window at some later time.
+        m_closesAfterSave = m_closesAfterSave && !m_session->saveFlow().isIdle();
+    });
+}
+
+/// Only when all was written: what failed is still to be seen.
+void MainWindow::closeAfterSave() {
+    if (std::exchange(m_closesAfterSave, false) && !m_session->hasUnsavedChanges())
+        QTimer::singleShot(0, this, [this] { close(); });
+}
+
+} // namespace chronomender
