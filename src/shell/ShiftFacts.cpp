@@ -90,7 +90,8 @@ const MySinglePic *firstMovable(const std::vector<MySinglePicPtr> &pics) {
 
 const MySinglePic *firstOfFolders(const MyCompoundFolder &folders) {
     for (const MySingleFolderPtr &folder : folders.folders())
-        if (const MySinglePic *pic = firstMovable(folder->sfPicDetails_fullArray))
+        if (const MySinglePic *pic =
+                folder->isEXIFIgnored ? nullptr : firstMovable(folder->sfPicDetails_fullArray))
             return pic;
     return nullptr;
 }

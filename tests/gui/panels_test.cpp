@@ -61,6 +61,13 @@ protected:
         QTest::keyClick(&box, Qt::Key_Return);
         settle();
     }
+    /// The field keeps the keys for undo to itself.
+    static bool takesUndo(QSpinBox &box) {
+        QKeyEvent key(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
+        key.ignore();
+        QCoreApplication::sendEvent(&box, &key);
+        return key.isAccepted();
+    }
     absl::Duration shiftOf(std::size_t folder) {
         return window.session.folders().at(folder)->sfDateModificationsTimeInterval;
     }
@@ -132,12 +139,14 @@ TEST_F(PanelsTest, anAlertIsSettledByItsButton) {
 TEST_F(PanelsTest, typedHoursCountAtEnterAsOneStep) {
     type(number(1), "12");
     QTest::qWait(700);
+    EXPECT_TRUE(takesUndo(number(1)));
     EXPECT_EQ(shiftOf(0), absl::ZeroDuration());
     QTest::keyClick(&number(1), Qt::Key_Return);
     EXPECT_EQ(shiftOf(0), absl::Hours(12));
     typeAndEnter(number(2), "90");
     EXPECT_EQ(shiftOf(0), absl::Minutes(13 * 60 + 30));
     EXPECT_EQ(number(1).value(), 13);
+    EXPECT_FALSE(takesUndo(number(1))) << "it is the window's";
     window.session.undo();
     EXPECT_EQ(shiftOf(0), absl::Hours(12));
     window.session.undo();
@@ -171,6 +180,12 @@ TEST_F(PanelsTest, aDirectionWaitsForItsNumberAndTooMuchIsRefused) {
     settle();
     typeAndEnter(number(0), "1");
     EXPECT_EQ(shiftOf(0), -absl::Hours(24));
+    window.session.selectFolders({window.session.folders()[1]});
+    settle();
+    EXPECT_EQ(direction.currentIndex(), 0);
+    EXPECT_EQ(number(0).value(), 0);
+    window.session.selectFolders({window.session.folders()[0]});
+    settle();
     typeAndEnter(number(0), "1900000");
     EXPECT_EQ(shiftOf(0), -absl::Hours(24));
     EXPECT_EQ(number(0).value(), 1);

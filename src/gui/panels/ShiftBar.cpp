@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace chronomender {
 namespace {
@@ -128,12 +129,10 @@ void ShiftBar::connectControls() {
     }
     connect(m_direction, &QComboBox::activated, this, [this] {
         edited();
-        if (!areAllZero())
-            commit();
+        commit();
     });
     connect(m_reset, &QPushButton::clicked, this, [this] {
-        m_isDirty = false;
-        m_pause.cancel();
+        dropEdit();
         m_session.resetShift();
     });
     connect(m_together, &QRadioButton::clicked, this, [this] { setMode(EditMode::Together); });
@@ -168,17 +167,28 @@ bool ShiftBar::eventFilter(QObject *watched, QEvent *event) {
 // ---- from the session to the fields
 
 void ShiftBar::refresh() {
-    const bool isOther = m_folders != m_session.selectedFolders();
-    if (m_isDirty && isOther) { // what was half edited was meant for others
-        m_isDirty = false;
-        m_pause.cancel();
-    }
-    m_folders = m_session.selectedFolders();
-    const ShiftFacts facts = shiftFacts(m_session.selectedCompound(), m_session.selectedPics(),
+    const std::vector<MySinglePicPtr> pics = m_session.selectedPics();
+    const ShiftFacts facts = shiftFacts(m_session.selectedCompound(), pics,
                                         !m_session.saveFlow().isIdle(), m_session.zones());
+    if (Subject subject = subjectOf(facts, pics); subject != m_subject) {
+        dropEdit(); // what was half edited was meant for others
+        m_subject = std::move(subject);
+    }
     m_isShowing = true;
     showFacts(facts);
     m_isShowing = false;
+}
+
+ShiftBar::Subject ShiftBar::subjectOf(const ShiftFacts &facts,
+                                      const std::vector<MySinglePicPtr> &pics) const {
+    const bool isOfItems = facts.target == ShiftFacts::Target::Items;
+    return {m_session.selectedFolders(), isOfItems ? pics : std::vector<MySinglePicPtr>()};
+}
+
+void ShiftBar::dropEdit() {
+    m_isDirty = false;
+    m_waitingDirection.reset();
+    m_pause.cancel();
 }
 
 void ShiftBar::showFacts(const ShiftFacts &facts) {
@@ -199,8 +209,10 @@ void ShiftBar::showFacts(const ShiftFacts &facts) {
         box.setToolTip(isMixed ? qText("shift_own") : QString());
     }
     m_direction->setEnabled(isOn);
+    if (facts.isShifted)
+        m_waitingDirection.reset();
     if (!m_isDirty)
-        showDirection(facts.fields.dmDirection);
+        showDirection(m_waitingDirection ? m_waitingDirection : facts.fields.dmDirection);
     m_reset->setEnabled(isOn && facts.isShifted);
     showMode(facts.mode);
     m_hint->setText(qString(facts.reason.empty() ? facts.hint : facts.reason));
@@ -218,7 +230,7 @@ void ShiftBar::showDirection(const std::optional<std::string> &direction) {
 }
 
 void ShiftBar::showMode(const Combined<EditMode> &mode) {
-    const bool canChange = !m_folders.empty() && m_session.saveFlow().isIdle();
+    const bool canChange = !m_subject.folders.empty() && m_session.saveFlow().isIdle();
     for (QRadioButton *button : {m_together, m_single})
         button->setEnabled(canChange);
     m_together->setChecked(mode.value == EditMode::Together);
@@ -253,12 +265,16 @@ CompoundFields ShiftBar::shownFields() const {
 /// A direction that was picked while there is no shift waits for the first number.
 void ShiftBar::commit() {
     m_pause.cancel();
-    if (!m_isDirty || m_folders != m_session.selectedFolders())
-        return;
-    if (areAllZero() && !m_facts.isShifted)
-        return;
-    m_isDirty = false;
+    const bool isOfOthers = m_subject != subjectOf(m_facts, m_session.selectedPics());
+    if (!std::exchange(m_isDirty, false) || isOfOthers)
+        return m_refresh.request();
+    for (QSpinBox *number : m_numbers) // what was typed is no longer the field's to undo
+        number->findChild<QLineEdit *>()->setModified(false);
     const CompoundFields fields = shownFields();
+    if (areAllZero() && !m_facts.isShifted) {
+        m_waitingDirection = fields.dmDirection;
+        return;
+    }
     if (m_facts.target == ShiftFacts::Target::Folders)
         m_session.shiftSelectedFolders(fields);
     else if (m_facts.target == ShiftFacts::Target::Items)

@@ -36,11 +36,20 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /// What an edit is meant for.
+    struct Subject {
+        std::vector<MySingleFolderPtr> folders;
+        std::vector<MySinglePicPtr> items; ///< in single mode
+        bool operator==(const Subject &) const = default;
+    };
+
     QBoxLayout *makeFields();
     QBoxLayout *makeModes();
     QRadioButton *makeMode(const char *key, const char *tipKey);
     void connectControls();
     void refresh();
+    Subject subjectOf(const ShiftFacts &facts, const std::vector<MySinglePicPtr> &pics) const;
+    void dropEdit();
     void showFacts(const ShiftFacts &facts);
     void showMode(const Combined<EditMode> &mode);
     void showDirection(const std::optional<std::string> &direction);
@@ -57,9 +66,11 @@ private:
     QRadioButton *m_together = nullptr, *m_single = nullptr;
     QLabel *m_hint = nullptr;
     ShiftFacts m_facts;
-    std::vector<MySingleFolderPtr> m_folders; ///< that `m_facts` are of
-    bool m_isShowing = false;                 ///< the fields follow the session
-    bool m_isDirty = false;                   ///< an edit waits to be committed
+    Subject m_subject;        ///< that `m_facts` are of
+    bool m_isShowing = false; ///< the fields follow the session
+    /// Picked while there is no shift that could have it.
+    std::optional<std::string> m_waitingDirection;
+    bool m_isDirty = false; ///< an edit waits to be committed
     Coalesced m_pause, m_refresh;
 };
 
