@@ -16,19 +16,22 @@ const ThumbEntry *ThumbCache::entry(std::uint32_t sessionUniqueId) {
     return &node.entry;
 }
 
-void ThumbCache::setEntry(std::uint32_t sessionUniqueId, ThumbEntry entry) {
+ThumbCache::Order::iterator ThumbCache::put(Shelf &shelf, std::uint32_t sessionUniqueId,
+                                            std::size_t bytes, Seen seen) {
+    shelf.bytes += bytes;
+    return shelf.order.insert(seen == Seen::Yes ? shelf.order.begin() : shelf.order.end(),
+                              sessionUniqueId);
+}
+
+void ThumbCache::setEntry(std::uint32_t sessionUniqueId, ThumbEntry entry, Seen seen) {
     remove(sessionUniqueId);
     Node &node = m_nodes[sessionUniqueId];
     node.entry = std::move(entry);
+    node.compressedAt = put(m_compressed, sessionUniqueId,
+                            static_cast<std::size_t>(node.entry.compressedData.size()), seen);
     node.decodedBytes = node.entry.decodedBytes();
-    m_compressed.order.push_front(sessionUniqueId);
-    node.compressedAt = m_compressed.order.begin();
-    m_compressed.bytes += static_cast<std::size_t>(node.entry.compressedData.size());
-    if (node.decodedBytes > 0) {
-        m_decoded.order.push_front(sessionUniqueId);
-        node.decodedAt = m_decoded.order.begin();
-        m_decoded.bytes += node.decodedBytes;
-    }
+    if (node.decodedBytes > 0)
+        node.decodedAt = put(m_decoded, sessionUniqueId, node.decodedBytes, seen);
     while (m_decoded.isOverfull())
         dropDecoded(m_nodes.at(m_decoded.order.back()));
     while (m_compressed.isOverfull()) {

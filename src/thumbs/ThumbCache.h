@@ -28,7 +28,9 @@ public:
     /// Null without an entry. Counts as used, and holds until the cache is changed.
     const ThumbEntry *entry(std::uint32_t sessionUniqueId);
     bool contains(std::uint32_t sessionUniqueId) const { return m_nodes.contains(sessionUniqueId); }
-    void setEntry(std::uint32_t sessionUniqueId, ThumbEntry entry);
+    /// What nobody has looked at yet never drives out what somebody did.
+    enum class Seen : bool { No, Yes };
+    void setEntry(std::uint32_t sessionUniqueId, ThumbEntry entry, Seen seen);
     void remove(std::uint32_t sessionUniqueId);
 
     std::size_t decodedBytes() const { return m_decoded.bytes; }
@@ -47,6 +49,7 @@ private:
         std::size_t decodedBytes = 0; ///< 0: stands in no order of decoded ones
     };
 
+    Order::iterator put(Shelf &shelf, std::uint32_t sessionUniqueId, std::size_t bytes, Seen seen);
     void dropDecoded(Node &node);
 
     Shelf m_decoded, m_compressed;

@@ -18,10 +18,19 @@ bool countsAsWaiting(const ThumbItem &item) {
 } // namespace
 
 ThumbItem &ThumbItems::item(const MySinglePicPtr &pic) {
-    ThumbItem &item = m_items[pic->sessionUniqueId];
-    if (item.pic.expired())
-        item.pic = pic;
-    return item;
+    const auto [found, isNew] = m_items.try_emplace(pic->sessionUniqueId);
+    if (isNew) {
+        found->second.pic = pic;
+        found->second.generation = ++m_generations;
+    }
+    return found->second;
+}
+
+void ThumbItems::renew(ThumbItem &item) {
+    item.generation = ++m_generations;
+    item.failure.reset();
+    setBuilt(item, false);
+    setStage(item, ThumbStage::Waiting);
 }
 
 ThumbItem *ThumbItems::find(std::uint32_t sessionUniqueId) {

@@ -26,7 +26,8 @@ struct ThumbItem {
     bool isBuilt = false;         ///< made or failed since its file was last another one
     bool isAsked = false;         ///< stands in the list of what was drawn without
     bool isBackground = false;    ///< stands in the list of the rest
-    std::uint32_t generation = 0; ///< counts the changes of the file
+    bool isSeen = false;          ///< somebody looked at it while it waited
+    std::uint32_t generation = 0; ///< another one for each file that it stood for
     /// `didBuildThumbFail`: why, until the file is another one.
     std::optional<PictureFailure> failure;
 };
@@ -39,6 +40,8 @@ public:
     ThumbItem *find(std::uint32_t sessionUniqueId);
     const ThumbItem *find(std::uint32_t sessionUniqueId) const;
     void forget(std::uint32_t sessionUniqueId);
+    /// The item's file is another one now: what is under way is of no use, and it waits again.
+    void renew(ThumbItem &item);
 
     /// All changes of an item's stage go through here, so that they are counted.
     void setStage(ThumbItem &item, ThumbStage stage);
@@ -68,6 +71,7 @@ private:
     std::vector<std::uint32_t> m_onScreen;
     std::deque<std::uint32_t> m_asked, m_background;
     std::size_t m_waitingToBeBuilt = 0, m_built = 0;
+    std::uint32_t m_generations = 0;
 };
 
 } // namespace chronomender

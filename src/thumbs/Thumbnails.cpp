@@ -34,7 +34,7 @@ struct Thumbnails::State {
 
     ThumbAnswer answer(const MySinglePicPtr &pic, ThumbSide side);
     void addImageWithoutThumb(const MySinglePicPtr &pic);
-    bool want(const MySinglePicPtr &pic);
+    bool want(const MySinglePicPtr &pic, bool isSeen);
     void takeBack();
     void runThumbs();
     PictureWorkers::Task task(const MySinglePicPtr &pic, const ThumbItem &item);
@@ -76,15 +76,16 @@ ThumbAnswer Thumbnails::State::answer(const MySinglePicPtr &pic, ThumbSide side)
 }
 
 void Thumbnails::State::addImageWithoutThumb(const MySinglePicPtr &pic) {
-    want(pic);
+    want(pic, true);
     items.ask(pic->sessionUniqueId);
     soon();
 }
 
 /// Makes an item wait that has neither a decoded thumbnail nor a reason to have none; true when it
 /// begins to.
-bool Thumbnails::State::want(const MySinglePicPtr &pic) {
+bool Thumbnails::State::want(const MySinglePicPtr &pic, bool isSeen) {
     ThumbItem &item = items.item(pic);
+    item.isSeen |= isSeen;
     const ThumbEntry *entry = cache.entry(pic->sessionUniqueId);
     if (item.stage != ThumbStage::Idle || item.failure || (entry && entry->isDecoded()))
         return false;
@@ -146,7 +147,9 @@ void Thumbnails::State::ranAutoBGThumb(std::uint32_t id, std::uint32_t generatio
     items.setStage(*item, ThumbStage::Idle);
     items.setBuilt(*item, true);
     if (built.entry) {
-        cache.setEntry(id, std::move(*built.entry));
+        const bool isSeen = std::exchange(item->isSeen, false);
+        cache.setEntry(id, std::move(*built.entry),
+                       isSeen ? ThumbCache::Seen::Yes : ThumbCache::Seen::No);
     } else {
         cache.remove(id);
         item->failure = built.failure; // hadBuildThumbError
@@ -194,7 +197,7 @@ void Thumbnails::setOnScreen(std::vector<MySinglePicPtr> pics) {
     std::vector<std::uint32_t> ids;
     bool isNews = false;
     for (const MySinglePicPtr &pic : pics) {
-        isNews |= m_state->want(pic);
+        isNews |= m_state->want(pic, true);
         ids.push_back(pic->sessionUniqueId);
     }
     if (!isNews && ids == m_state->items.onScreen())
@@ -207,18 +210,16 @@ void Thumbnails::addImagesWithoutThumb(const std::vector<MySinglePicPtr> &pics) 
     if (!m_state->settings.autoBGThumbGeneration)
         return;
     for (const MySinglePicPtr &pic : pics) {
-        m_state->want(pic);
+        if (m_state->cache.contains(pic->sessionUniqueId))
+            continue; // what it was made from is kept, and decoded when somebody looks
+        m_state->want(pic, false);
         m_state->items.addBackground(pic->sessionUniqueId, false);
     }
     m_state->soon();
 }
 
 void Thumbnails::updateThumb(const MySinglePicPtr &pic) {
-    ThumbItem &item = m_state->items.item(pic);
-    ++item.generation;
-    item.failure.reset();
-    m_state->items.setBuilt(item, false);
-    m_state->items.setStage(item, ThumbStage::Waiting);
+    m_state->items.renew(m_state->items.item(pic));
     m_state->items.ask(pic->sessionUniqueId);
     m_state->soon();
 }

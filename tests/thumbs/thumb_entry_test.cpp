@@ -62,21 +62,24 @@ TEST(ThumbCacheTest, LosesDecodedPicturesSilentlyAndBytesAloud) {
     ThumbCache cache(decoded * 2, compressed * 3);
     cache.setWillEvictObject([&](std::uint32_t id) { lost.push_back(id); });
     for (const std::uint32_t id : {1U, 2U, 3U}) {
-        cache.setEntry(id, entry);
+        cache.setEntry(id, entry, ThumbCache::Seen::Yes);
         cache.entry(1); // the first one is used all the time
     }
     EXPECT_TRUE(cache.entry(1)->isDecoded());
     EXPECT_FALSE(cache.entry(2)->isDecoded());
     EXPECT_EQ(cache.entry(2)->compressedData, entry.compressedData);
-    cache.setEntry(3, entry);
+    cache.setEntry(3, entry, ThumbCache::Seen::Yes);
     cache.remove(3);
     EXPECT_TRUE(lost.empty());
     EXPECT_EQ(cache.decodedBytes(), decoded);
     EXPECT_EQ(cache.compressedBytes(), compressed * 2);
     for (const std::uint32_t id : {3U, 4U})
-        cache.setEntry(id, entry);
+        cache.setEntry(id, entry, ThumbCache::Seen::Yes);
     EXPECT_EQ(lost, std::vector<std::uint32_t>{1});
     EXPECT_EQ(cache.entry(1), nullptr);
+    cache.setEntry(5, entry, ThumbCache::Seen::No); // there is no room for it
+    EXPECT_EQ(lost, (std::vector<std::uint32_t>{1, 5}));
+    EXPECT_TRUE(cache.entry(4)->isDecoded());
 }
 
 } // namespace
