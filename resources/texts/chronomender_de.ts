@@ -1847,7 +1847,7 @@ Beispiele:
         <translation>Zeitachse</translation>
     </message>
     <message id="prefs_groupThumbs">
-        <translation>Vorschaubilder</translation>
+        <translation>Vorschaubilder (ab dem nächsten Start)</translation>
     </message>
     <message id="prefs_groupTiff">
         <translation>Fotos, die nur ein Änderungsdatum haben</translation>
@@ -1963,6 +1963,9 @@ Beispiele:
     <message id="prefs_toolMissing">
         <translation>Nicht gefunden. Daten, die mehr Platz in einer Datei brauchen, lassen sich ohne es nicht sichern.</translation>
     </message>
+    <message id="prefs_toolName">
+        <translation>Pfad von ExifTool</translation>
+    </message>
     <message id="prefs_toolOther">
         <translation>Dieses Programm ist nicht ExifTool.</translation>
     </message>
@@ -1975,6 +1978,33 @@ Beispiele:
     <message id="prefs_widenXmp">
         <translation>XMP-Daten, die &amp;mehr Platz brauchen, mit ExifTool schreiben</translation>
     </message>
+    <message id="rename_addOn1">
+        <translation>Text &amp;1</translation>
+    </message>
+    <message id="rename_addOn2">
+        <translation>Text &amp;2</translation>
+    </message>
+    <message id="rename_addOn3">
+        <translation>Text &amp;3</translation>
+    </message>
+    <message id="rename_atSave">
+        <translation>&amp;Beim Sichern</translation>
+    </message>
+    <message id="rename_atSaveAll">
+        <translation>alle Ordner umbenennen</translation>
+    </message>
+    <message id="rename_atSaveCompound">
+        <translation>die gewählten Ordner umbenennen</translation>
+    </message>
+    <message id="rename_atSaveCurrent">
+        <translation>umbenennen, was gesichert wird</translation>
+    </message>
+    <message id="rename_atSaveNothing">
+        <translation>nichts umbenennen</translation>
+    </message>
+    <message id="rename_cancel">
+        <translation>Abbrechen</translation>
+    </message>
     <message id="rename_caseLeave">
         <translation>wie sie ist</translation>
     </message>
@@ -1983,6 +2013,60 @@ Beispiele:
     </message>
     <message id="rename_caseUpper">
         <translation>groß: JPG</translation>
+    </message>
+    <message id="rename_changeFile">
+        <translation>Ursprünglichen Namen ab&amp;wandeln</translation>
+    </message>
+    <message id="rename_changeFolder">
+        <translation>Ordnernamen abwan&amp;deln</translation>
+    </message>
+    <message id="rename_changeHow">
+        <translation>Wie …</translation>
+    </message>
+    <message id="rename_check">
+        <translation>Namen &amp;prüfen</translation>
+    </message>
+    <message id="rename_checkFree">
+        <translation>%1 Namen sind frei.</translation>
+    </message>
+    <message id="rename_checking">
+        <translation>Namen werden geprüft …</translation>
+    </message>
+    <message id="rename_checkNumbered">
+        <translation>%1 sind vergeben und bekommen eine Nummer.</translation>
+    </message>
+    <message id="rename_checkRefused">
+        <translation>%1 lassen sich nicht umbenennen.</translation>
+    </message>
+    <message id="rename_columnNew">
+        <translation>Neuer Name</translation>
+    </message>
+    <message id="rename_columnNote">
+        <translation>Bemerkung</translation>
+    </message>
+    <message id="rename_columnPresent">
+        <translation>Jetzt</translation>
+    </message>
+    <message id="rename_counter">
+        <translation>&amp;Zähler läuft</translation>
+    </message>
+    <message id="rename_counterCompound">
+        <translation>durch die gewählten Ordner</translation>
+    </message>
+    <message id="rename_counterPerFolder">
+        <translation>in jedem Ordner neu</translation>
+    </message>
+    <message id="rename_counterRunning">
+        <translation>durch alle Ordner</translation>
+    </message>
+    <message id="rename_counterStart">
+        <translation>und be&amp;ginnt mit</translation>
+    </message>
+    <message id="rename_digits">
+        <translation>&amp;Stellen des Zählers:</translation>
+    </message>
+    <message id="rename_digitsName">
+        <translation>Stellen des Zählers</translation>
     </message>
     <message id="rename_dotsLeave">
         <translation>bleiben</translation>
@@ -1993,8 +2077,35 @@ Beispiele:
     <message id="rename_dotsReport">
         <translation>bleiben und werden gemeldet</translation>
     </message>
+    <message id="rename_editorChange">
+        <translation>Vorlage ändern</translation>
+    </message>
+    <message id="rename_editorField">
+        <translation>Vorlage: Text und Bausteine</translation>
+    </message>
+    <message id="rename_editorLabel">
+        <translation>&amp;Name einer Datei:</translation>
+    </message>
+    <message id="rename_editorNew">
+        <translation>Neue Vorlage</translation>
+    </message>
     <message id="rename_frontDots">
         <translation>&amp;Punkte am Anfang</translation>
+    </message>
+    <message id="rename_keepAddOn">
+        <translation>Texte behalten, die Dateien schon haben</translation>
+    </message>
+    <message id="rename_listFull">
+        <translation>Es gibt zu viele Vorlagen.</translation>
+    </message>
+    <message id="rename_month">
+        <translation>&amp;Monat:</translation>
+    </message>
+    <message id="rename_monthHint">
+        <translation>Ein Zeichen: 1 bis 9, A, B, C</translation>
+    </message>
+    <message id="rename_monthName">
+        <translation>Monat</translation>
     </message>
     <message id="rename_nameAtImport">
         <translation>wie beim Import</translation>
@@ -2002,8 +2113,170 @@ Beispiele:
     <message id="rename_namePresent">
         <translation>wie er jetzt ist</translation>
     </message>
+    <message id="rename_next">
+        <translation>Nä&amp;chste Bemerkung</translation>
+    </message>
+    <message id="rename_noTemplate">
+        <translation>Wähle eine Vorlage oder schreibe eine neue.</translation>
+    </message>
+    <message id="rename_noteNumber">
+        <translation>„%1“ ist vergeben.</translation>
+    </message>
+    <message id="rename_nothingRenamed">
+        <translation>Es wird nichts umbenannt.</translation>
+    </message>
+    <message id="rename_nothingToDo">
+        <translation>Es gibt nichts umzubenennen.</translation>
+    </message>
+    <message id="rename_palette">
+        <translation>&amp;Bausteine (Eingabe oder Doppelklick setzt ein, Alt+Pfeile bewegen):</translation>
+    </message>
+    <message id="rename_paletteName">
+        <translation>Bausteine zum Einsetzen</translation>
+    </message>
+    <message id="rename_presetKeep">
+        <translation>Ablegen</translation>
+    </message>
+    <message id="rename_presetName">
+        <translation>Name dieser Abwandlungen</translation>
+    </message>
+    <message id="rename_presetRemove">
+        <translation>Entfernen</translation>
+    </message>
+    <message id="rename_presets">
+        <translation>&amp;Abgelegt als:</translation>
+    </message>
+    <message id="rename_redo">
+        <translation>Wiederholen</translation>
+    </message>
+    <message id="rename_refusedCharacter">
+        <translation>Ein Name kann dieses Zeichen nicht enthalten.</translation>
+    </message>
+    <message id="rename_restrictCounter">
+        <translation>Nur zählen, was umbenannt &amp;wird</translation>
+    </message>
+    <message id="rename_restrictFirst">
+        <translation>die Auswahl auf der Zeitachse</translation>
+    </message>
+    <message id="rename_restriction">
+        <translation>N&amp;ur</translation>
+    </message>
+    <message id="rename_restrictNone">
+        <translation>alle Medien des Ordners</translation>
+    </message>
+    <message id="rename_restrictSecond">
+        <translation>die Auswahl auf der zweiten Zeitachse</translation>
+    </message>
+    <message id="rename_rowAdd">
+        <translation>Abwandlung hinzufügen</translation>
+    </message>
+    <message id="rename_rowAll">
+        <translation>alle</translation>
+    </message>
+    <message id="rename_rowBefore">
+        <translation>was vor diesem Text steht, Nummer:</translation>
+    </message>
+    <message id="rename_rowBehind">
+        <translation>was hinter diesem Text steht, Nummer:</translation>
+    </message>
+    <message id="rename_rowBy">
+        <translation>durch</translation>
+    </message>
+    <message id="rename_rowCapitalised">
+        <translation>Jedes Wort Groß</translation>
+    </message>
+    <message id="rename_rowChangeCase">
+        <translation>Schreibung</translation>
+    </message>
+    <message id="rename_rowCharacters">
+        <translation>Zeichen</translation>
+    </message>
+    <message id="rename_rowCharCount">
+        <translation>Zeichen</translation>
+    </message>
+    <message id="rename_rowDelete">
+        <translation>Diese Abwandlung entfernen</translation>
+    </message>
+    <message id="rename_rowDown">
+        <translation>Nach unten</translation>
+    </message>
+    <message id="rename_rowEnd">
+        <translation>am Ende</translation>
+    </message>
+    <message id="rename_rowExample">
+        <translation>Beispiel: %1 → %2</translation>
+    </message>
+    <message id="rename_rowFromEnd">
+        <translation>von hinten</translation>
+    </message>
+    <message id="rename_rowFromFront">
+        <translation>von vorn</translation>
+    </message>
+    <message id="rename_rowFront">
+        <translation>am Anfang</translation>
+    </message>
+    <message id="rename_rowHowMany">
+        <translation>wie viele</translation>
+    </message>
+    <message id="rename_rowKeep">
+        <translation>behalten</translation>
+    </message>
+    <message id="rename_rowLower">
+        <translation>klein</translation>
+    </message>
+    <message id="rename_rowRemove">
+        <translation>entfernen</translation>
+    </message>
+    <message id="rename_rowReplacement">
+        <translation>Ersatz</translation>
+    </message>
+    <message id="rename_rowReplaceWith">
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="rename_rows">
+        <translation>Dateien und ihre neuen Namen</translation>
+    </message>
+    <message id="rename_rowsFile">
+        <translation>Abwandlungen des ursprünglichen Namens</translation>
+    </message>
+    <message id="rename_rowsFolder">
+        <translation>Abwandlungen des Ordnernamens</translation>
+    </message>
+    <message id="rename_rowText">
+        <translation>Text</translation>
+    </message>
+    <message id="rename_rowUp">
+        <translation>Nach oben</translation>
+    </message>
+    <message id="rename_rowUpper">
+        <translation>GROSS</translation>
+    </message>
+    <message id="rename_rowUpToString">
+        <translation>Teil des Namens</translation>
+    </message>
+    <message id="rename_rowWhich">
+        <translation>welches Vorkommen</translation>
+    </message>
+    <message id="rename_saveFirst">
+        <translation>Sichern und umbenennen …</translation>
+    </message>
+    <message id="rename_saveFirstInformation">
+        <translation>Namen werden aus den korrigierten Daten gebildet.</translation>
+    </message>
+    <message id="rename_showAll">
+        <translation>Auch die &amp;anderen Medien zeigen</translation>
+    </message>
     <message id="rename_sourceName">
         <translation>&amp;Ursprünglicher Name</translation>
+    </message>
+    <message id="rename_start">
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message id="rename_startSave">
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message id="rename_startSaveRename">
+        <translation>&amp;Sichern und umbenennen</translation>
     </message>
     <message id="rename_suffixCase">
         <translation>&amp;Schreibung der Endung</translation>
@@ -2868,6 +3141,57 @@ Beispiele:
     </message>
     <message id="window_help">
         <translation>chronomender [--language en|de] [Ordner oder Datei] …</translation>
+    </message>
+    <message id="rename_template">
+        <translation>&amp;Vorlage:</translation>
+    </message>
+    <message id="rename_templateEdit">
+        <translation>Ä&amp;ndern …</translation>
+    </message>
+    <message id="rename_templateName">
+        <translation>Vorlage</translation>
+    </message>
+    <message id="rename_templateNew">
+        <translation>Ne&amp;u …</translation>
+    </message>
+    <message id="rename_templateRemove">
+        <translation>Entfernen …</translation>
+    </message>
+    <message id="rename_templateRemoveNow">
+        <translation>Entfernen</translation>
+    </message>
+    <message id="rename_templateSave">
+        <translation>Sichern</translation>
+    </message>
+    <message id="rename_templateSaveAsNew">
+        <translation>Als neue sichern</translation>
+    </message>
+    <message id="rename_tints">
+        <translation>&amp;Bausteine farbig zeigen</translation>
+    </message>
+    <message id="rename_tintsName">
+        <translation>Bausteine farbig zeigen</translation>
+    </message>
+    <message id="rename_titleAll">
+        <translation>Alle Dateien umbenennen</translation>
+    </message>
+    <message id="rename_titleCurrent">
+        <translation>Dateien des Ordners umbenennen</translation>
+    </message>
+    <message id="rename_titleSaveAll">
+        <translation>Alles sichern und umbenennen</translation>
+    </message>
+    <message id="rename_titleSaveCurrent">
+        <translation>Ordner sichern und umbenennen</translation>
+    </message>
+    <message id="rename_undo">
+        <translation>Widerrufen</translation>
+    </message>
+    <message id="rename_year">
+        <translation>&amp;Jahr:</translation>
+    </message>
+    <message id="rename_yearName">
+        <translation>Jahr</translation>
     </message>
 </context>
 </TS>

@@ -1847,7 +1847,7 @@ Examples:
         <translation>Timeline</translation>
     </message>
     <message id="prefs_groupThumbs">
-        <translation>Thumbnails</translation>
+        <translation>Thumbnails (from the next start)</translation>
     </message>
     <message id="prefs_groupTiff">
         <translation>Photos with nothing but a change date</translation>
@@ -1963,6 +1963,9 @@ Examples:
     <message id="prefs_toolMissing">
         <translation>Not found. Dates that need more room in a file cannot be saved without it.</translation>
     </message>
+    <message id="prefs_toolName">
+        <translation>Path of ExifTool</translation>
+    </message>
     <message id="prefs_toolOther">
         <translation>This program is not ExifTool.</translation>
     </message>
@@ -1975,6 +1978,33 @@ Examples:
     <message id="prefs_widenXmp">
         <translation>Write XMP dates that need &amp;more room through ExifTool</translation>
     </message>
+    <message id="rename_addOn1">
+        <translation>Text &amp;1</translation>
+    </message>
+    <message id="rename_addOn2">
+        <translation>Text &amp;2</translation>
+    </message>
+    <message id="rename_addOn3">
+        <translation>Text &amp;3</translation>
+    </message>
+    <message id="rename_atSave">
+        <translation>&amp;When saving</translation>
+    </message>
+    <message id="rename_atSaveAll">
+        <translation>rename all folders</translation>
+    </message>
+    <message id="rename_atSaveCompound">
+        <translation>rename the selected folders</translation>
+    </message>
+    <message id="rename_atSaveCurrent">
+        <translation>rename what is saved</translation>
+    </message>
+    <message id="rename_atSaveNothing">
+        <translation>rename nothing</translation>
+    </message>
+    <message id="rename_cancel">
+        <translation>Cancel</translation>
+    </message>
     <message id="rename_caseLeave">
         <translation>as they are</translation>
     </message>
@@ -1983,6 +2013,60 @@ Examples:
     </message>
     <message id="rename_caseUpper">
         <translation>upper case: JPG</translation>
+    </message>
+    <message id="rename_changeFile">
+        <translation>Change the or&amp;iginal name</translation>
+    </message>
+    <message id="rename_changeFolder">
+        <translation>Change the &amp;folder’s name</translation>
+    </message>
+    <message id="rename_changeHow">
+        <translation>How…</translation>
+    </message>
+    <message id="rename_check">
+        <translation>C&amp;heck Names</translation>
+    </message>
+    <message id="rename_checkFree">
+        <translation>%1 names are free.</translation>
+    </message>
+    <message id="rename_checking">
+        <translation>Names are being checked…</translation>
+    </message>
+    <message id="rename_checkNumbered">
+        <translation>%1 are taken and get a number.</translation>
+    </message>
+    <message id="rename_checkRefused">
+        <translation>%1 cannot be renamed.</translation>
+    </message>
+    <message id="rename_columnNew">
+        <translation>New name</translation>
+    </message>
+    <message id="rename_columnNote">
+        <translation>Remark</translation>
+    </message>
+    <message id="rename_columnPresent">
+        <translation>Now</translation>
+    </message>
+    <message id="rename_counter">
+        <translation>&amp;Counter runs</translation>
+    </message>
+    <message id="rename_counterCompound">
+        <translation>through the selected folders</translation>
+    </message>
+    <message id="rename_counterPerFolder">
+        <translation>in each folder anew</translation>
+    </message>
+    <message id="rename_counterRunning">
+        <translation>through all folders</translation>
+    </message>
+    <message id="rename_counterStart">
+        <translation>and &amp;begins with</translation>
+    </message>
+    <message id="rename_digits">
+        <translation>&amp;Digits of the counter:</translation>
+    </message>
+    <message id="rename_digitsName">
+        <translation>Digits of the counter</translation>
     </message>
     <message id="rename_dotsLeave">
         <translation>stay</translation>
@@ -1993,8 +2077,35 @@ Examples:
     <message id="rename_dotsReport">
         <translation>stay, and are reported</translation>
     </message>
+    <message id="rename_editorChange">
+        <translation>Change Template</translation>
+    </message>
+    <message id="rename_editorField">
+        <translation>Template: text and elements</translation>
+    </message>
+    <message id="rename_editorLabel">
+        <translation>&amp;Name of a file:</translation>
+    </message>
+    <message id="rename_editorNew">
+        <translation>New Template</translation>
+    </message>
     <message id="rename_frontDots">
         <translation>&amp;Dots in front</translation>
+    </message>
+    <message id="rename_keepAddOn">
+        <translation>Keep the texts that files have already</translation>
+    </message>
+    <message id="rename_listFull">
+        <translation>There are too many templates.</translation>
+    </message>
+    <message id="rename_month">
+        <translation>&amp;Month:</translation>
+    </message>
+    <message id="rename_monthHint">
+        <translation>One character: 1 to 9, A, B, C</translation>
+    </message>
+    <message id="rename_monthName">
+        <translation>Month</translation>
     </message>
     <message id="rename_nameAtImport">
         <translation>as it was at import</translation>
@@ -2002,8 +2113,170 @@ Examples:
     <message id="rename_namePresent">
         <translation>as it is now</translation>
     </message>
+    <message id="rename_next">
+        <translation>Ne&amp;xt Remark</translation>
+    </message>
+    <message id="rename_noTemplate">
+        <translation>Choose a template, or write a new one.</translation>
+    </message>
+    <message id="rename_noteNumber">
+        <translation>“%1” is taken.</translation>
+    </message>
+    <message id="rename_nothingRenamed">
+        <translation>Nothing is renamed.</translation>
+    </message>
+    <message id="rename_nothingToDo">
+        <translation>There is nothing to rename.</translation>
+    </message>
+    <message id="rename_palette">
+        <translation>&amp;Elements (Enter or double click inserts, Alt+arrows move):</translation>
+    </message>
+    <message id="rename_paletteName">
+        <translation>Elements to insert</translation>
+    </message>
+    <message id="rename_presetKeep">
+        <translation>Keep</translation>
+    </message>
+    <message id="rename_presetName">
+        <translation>Name of these changes</translation>
+    </message>
+    <message id="rename_presetRemove">
+        <translation>Remove</translation>
+    </message>
+    <message id="rename_presets">
+        <translation>&amp;Kept as:</translation>
+    </message>
+    <message id="rename_redo">
+        <translation>Redo</translation>
+    </message>
+    <message id="rename_refusedCharacter">
+        <translation>A name cannot hold this character.</translation>
+    </message>
+    <message id="rename_restrictCounter">
+        <translation>Count only what is rena&amp;med</translation>
+    </message>
+    <message id="rename_restrictFirst">
+        <translation>what is selected on the timeline</translation>
+    </message>
+    <message id="rename_restriction">
+        <translation>O&amp;nly</translation>
+    </message>
+    <message id="rename_restrictNone">
+        <translation>all items of the folder</translation>
+    </message>
+    <message id="rename_restrictSecond">
+        <translation>what is selected on the second timeline</translation>
+    </message>
+    <message id="rename_rowAdd">
+        <translation>Add a Change</translation>
+    </message>
+    <message id="rename_rowAll">
+        <translation>all</translation>
+    </message>
+    <message id="rename_rowBefore">
+        <translation>what stands before this text, number:</translation>
+    </message>
+    <message id="rename_rowBehind">
+        <translation>what stands behind this text, number:</translation>
+    </message>
+    <message id="rename_rowBy">
+        <translation>by</translation>
+    </message>
+    <message id="rename_rowCapitalised">
+        <translation>Each Word</translation>
+    </message>
+    <message id="rename_rowChangeCase">
+        <translation>Letters</translation>
+    </message>
+    <message id="rename_rowCharacters">
+        <translation>characters</translation>
+    </message>
+    <message id="rename_rowCharCount">
+        <translation>Characters</translation>
+    </message>
+    <message id="rename_rowDelete">
+        <translation>Remove this change</translation>
+    </message>
+    <message id="rename_rowDown">
+        <translation>Move down</translation>
+    </message>
+    <message id="rename_rowEnd">
+        <translation>at the end</translation>
+    </message>
+    <message id="rename_rowExample">
+        <translation>Example: %1 → %2</translation>
+    </message>
+    <message id="rename_rowFromEnd">
+        <translation>from the end</translation>
+    </message>
+    <message id="rename_rowFromFront">
+        <translation>from the front</translation>
+    </message>
+    <message id="rename_rowFront">
+        <translation>at the front</translation>
+    </message>
+    <message id="rename_rowHowMany">
+        <translation>how many</translation>
+    </message>
+    <message id="rename_rowKeep">
+        <translation>keep</translation>
+    </message>
+    <message id="rename_rowLower">
+        <translation>lower case</translation>
+    </message>
+    <message id="rename_rowRemove">
+        <translation>remove</translation>
+    </message>
+    <message id="rename_rowReplacement">
+        <translation>replacement</translation>
+    </message>
+    <message id="rename_rowReplaceWith">
+        <translation>Replace</translation>
+    </message>
+    <message id="rename_rows">
+        <translation>Files and their new names</translation>
+    </message>
+    <message id="rename_rowsFile">
+        <translation>Changes to the Original Name</translation>
+    </message>
+    <message id="rename_rowsFolder">
+        <translation>Changes to the Folder’s Name</translation>
+    </message>
+    <message id="rename_rowText">
+        <translation>text</translation>
+    </message>
+    <message id="rename_rowUp">
+        <translation>Move up</translation>
+    </message>
+    <message id="rename_rowUpper">
+        <translation>UPPER CASE</translation>
+    </message>
+    <message id="rename_rowUpToString">
+        <translation>Part of the name</translation>
+    </message>
+    <message id="rename_rowWhich">
+        <translation>which occurrence</translation>
+    </message>
+    <message id="rename_saveFirst">
+        <translation>Save and Rename…</translation>
+    </message>
+    <message id="rename_saveFirstInformation">
+        <translation>Names are made of the corrected dates.</translation>
+    </message>
+    <message id="rename_showAll">
+        <translation>Show the &amp;other items, too</translation>
+    </message>
     <message id="rename_sourceName">
         <translation>&amp;Original name</translation>
+    </message>
+    <message id="rename_start">
+        <translation>&amp;Rename</translation>
+    </message>
+    <message id="rename_startSave">
+        <translation>&amp;Save</translation>
+    </message>
+    <message id="rename_startSaveRename">
+        <translation>&amp;Save and Rename</translation>
     </message>
     <message id="rename_suffixCase">
         <translation>&amp;Letters of the extension</translation>
@@ -2868,6 +3141,57 @@ Examples:
     </message>
     <message id="window_help">
         <translation>chronomender [--language en|de] [folder or file]…</translation>
+    </message>
+    <message id="rename_template">
+        <translation>&amp;Template:</translation>
+    </message>
+    <message id="rename_templateEdit">
+        <translation>Chan&amp;ge…</translation>
+    </message>
+    <message id="rename_templateName">
+        <translation>Template</translation>
+    </message>
+    <message id="rename_templateNew">
+        <translation>&amp;New…</translation>
+    </message>
+    <message id="rename_templateRemove">
+        <translation>Remove…</translation>
+    </message>
+    <message id="rename_templateRemoveNow">
+        <translation>Remove</translation>
+    </message>
+    <message id="rename_templateSave">
+        <translation>Save</translation>
+    </message>
+    <message id="rename_templateSaveAsNew">
+        <translation>Save as New</translation>
+    </message>
+    <message id="rename_tints">
+        <translation>Sho&amp;w the elements in color</translation>
+    </message>
+    <message id="rename_tintsName">
+        <translation>Show the elements in color</translation>
+    </message>
+    <message id="rename_titleAll">
+        <translation>Rename All Files</translation>
+    </message>
+    <message id="rename_titleCurrent">
+        <translation>Rename the Files of the Folder</translation>
+    </message>
+    <message id="rename_titleSaveAll">
+        <translation>Save All and Rename</translation>
+    </message>
+    <message id="rename_titleSaveCurrent">
+        <translation>Save the Folder and Rename</translation>
+    </message>
+    <message id="rename_undo">
+        <translation>Undo</translation>
+    </message>
+    <message id="rename_year">
+        <translation>&amp;Year:</translation>
+    </message>
+    <message id="rename_yearName">
+        <translation>Year</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cctype>
 #include <sstream>
 
@@ -179,6 +180,12 @@ std::span<const PreferencePageTitle> preferencePages() {
 
 std::span<const Preference> preferenceTable() {
     return table;
+}
+
+const Preference &preferenceWithKey(std::string_view key) {
+    const auto *const found = std::ranges::find(table, key, &Preference::key);
+    assert(found != std::end(table));
+    return *found;
 }
 
 bool isInEffect(const Preference &preference, const UserDefaults &defaults) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace chronomender {
@@ -45,6 +46,8 @@ struct Preference {
 };
 /// All that the preferences sheet offers, page by page.
 std::span<const Preference> preferenceTable();
+/// The entry of a key that the table holds.
+const Preference &preferenceWithKey(std::string_view key);
 
 /// It has an effect now, by the other preferences.
 bool isInEffect(const Preference &preference, const UserDefaults &defaults);

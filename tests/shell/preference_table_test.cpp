@@ -88,11 +88,8 @@ TEST(PreferenceTable, HasWordsForEverything) {
 
 TEST(PreferenceTable, KnowsWhatCountsAndWhatIsChanged) {
     UserDefaults defaults;
-    const auto named = [](std::string_view key) -> const Preference & {
-        return *std::ranges::find(preferenceTable(), key, &Preference::key);
-    };
-    const Preference &depth = named("subFolderAutoImportMaxDepth");
-    const Preference &follows = named("dateChangeEXIFFinderModDateEXIFModDateUnchangedOption");
+    const Preference &depth = preferenceWithKey("subFolderAutoImportMaxDepth");
+    const Preference &follows = preferenceWithKey("dateChangeEXIFFinderModDateEXIFModDateUnchangedOption");
     EXPECT_FALSE(isInEffect(depth, defaults));
     defaults.set("isSubFolderAutoImportEnabled", "1");
     EXPECT_TRUE(isInEffect(depth, defaults));
