@@ -1879,9 +1879,6 @@ Beispiele:
     <message id="prefs_movieMetaDate">
         <translation>Das Datum bevorzugen, das das &amp;Telefon notiert hat</translation>
     </message>
-    <message id="prefs_nextSession">
-        <translation>gilt ab dem nächsten Start</translation>
-    </message>
     <message id="prefs_notStored">
         <translation>Die Einstellung gilt jetzt, konnte aber nicht gespeichert werden.</translation>
     </message>

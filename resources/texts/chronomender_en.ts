@@ -1879,9 +1879,6 @@ Examples:
     <message id="prefs_movieMetaDate">
         <translation>Prefer the date that the &amp;phone recorded</translation>
     </message>
-    <message id="prefs_nextSession">
-        <translation>takes effect at the next start</translation>
-    </message>
     <message id="prefs_notStored">
         <translation>The preference holds for now, but could not be stored.</translation>
     </message>

@@ -89,7 +89,8 @@ TEST(PreferenceTable, HasWordsForEverything) {
 TEST(PreferenceTable, KnowsWhatCountsAndWhatIsChanged) {
     UserDefaults defaults;
     const Preference &depth = preferenceWithKey("subFolderAutoImportMaxDepth");
-    const Preference &follows = preferenceWithKey("dateChangeEXIFFinderModDateEXIFModDateUnchangedOption");
+    const Preference &follows =
+        preferenceWithKey("dateChangeEXIFFinderModDateEXIFModDateUnchangedOption");
     EXPECT_FALSE(isInEffect(depth, defaults));
     defaults.set("isSubFolderAutoImportEnabled", "1");
     EXPECT_TRUE(isInEffect(depth, defaults));

@@ -54,9 +54,8 @@ void PreferencesToolField::choose() {
     dialog->open();
 }
 
-PreferencesColorsField::PreferencesColorsField(const Preference &preference,
-                                               UserDefaults &defaults, PreferenceSet isSet,
-                                               QWidget *parent)
+PreferencesColorsField::PreferencesColorsField(const Preference &preference, UserDefaults &defaults,
+                                               PreferenceSet isSet, QWidget *parent)
     : QWidget(parent), m_preference(preference), m_defaults(defaults), m_isSet(std::move(isSet)) {
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins({});

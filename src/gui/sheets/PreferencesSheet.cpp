@@ -3,6 +3,7 @@
 
 #include "Controls.h"
 #include "PaintPalette.h"
+#include "PreferencesAppearance.h"
 #include "PreferencesFields.h"
 
 #include <QDialogButtonBox>
@@ -46,7 +47,8 @@ PreferencesSheet::PreferencesSheet(WindowSession &session, QWidget *parent)
     list->setFixedWidth(list->sizeHintForColumn(0) + 6 * fontMetrics().averageCharWidth());
     connect(list, &QListWidget::currentRowChanged, pages, &QStackedWidget::setCurrentIndex);
     list->setCurrentRow(0);
-    m_problem = new QLabel(this);
+    m_problem = new QLabel(qText("prefs_notStored"), this);
+    m_problem->hide();
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
     auto *buttons = new QDialogButtonBox(this);
@@ -152,11 +154,13 @@ QToolButton *PreferencesSheet::makeReset(const Preference &preference, QWidget *
 }
 
 void PreferencesSheet::wasSet(const Preference &preference, UserDefaults::Outcome outcome) {
-    m_problem->setText(
-        outcome == UserDefaults::Outcome::NotStored ? qText("prefs_notStored") : QString());
+    m_problem->setText(outcome == UserDefaults::Outcome::NotStored ? qText("prefs_notStored")
+                                                                   : QString());
     refresh();
     if (preference.kind == PreferenceKind::Tool)
         checkTool();
+    if (std::string_view(preference.key) == "appearance")
+        applyAppearance(m_session.defaults());
     Q_EMIT preferenceChanged(QString::fromLatin1(preference.key));
 }
 
@@ -181,16 +185,15 @@ void PreferencesSheet::refresh() {
 
 void PreferencesSheet::checkTool() {
     m_toolAnswer->setText(qText("prefs_toolChecking"));
-    m_tool.check(m_session.defaults().stringForKey("exifToolPath"),
-                 [this](const ToolCheckResult &result) {
-                     m_toolAnswer->setText(qString(result.words));
-                     QPalette colors = palette();
-                     const PaintPalette paints = paintPalette(colors, {});
-                     colors.setColor(QPalette::WindowText,
-                                     result.runs ? colors.color(QPalette::WindowText)
-                                                 : paints.danger);
-                     m_toolAnswer->setPalette(colors);
-                 });
+    m_tool.check(
+        m_session.defaults().stringForKey("exifToolPath"), [this](const ToolCheckResult &result) {
+            m_toolAnswer->setText(qString(result.words));
+            QPalette colors = palette();
+            const PaintPalette paints = paintPalette(colors, {});
+            colors.setColor(QPalette::WindowText,
+                            result.runs ? colors.color(QPalette::WindowText) : paints.danger);
+            m_toolAnswer->setPalette(colors);
+        });
 }
 
 } // namespace chronomender

@@ -246,10 +246,10 @@ void RenameSheet::refreshSummary() {
     const auto request = m_controller.items().saveRequest();
     const bool canStart = request.has_value() && hasNames && isIdle;
     m_table->setEnabled(isRename);
-    m_summary->setText(!isRename       ? qText("rename_nothingRenamed")
-                       : !hasNames     ? qText("rename_noTemplate")
-                       : request       ? qString(m_controller.renameSummaryString())
-                                       : qText("rename_nothingToDo"));
+    m_summary->setText(!isRename   ? qText("rename_nothingRenamed")
+                       : !hasNames ? qText("rename_noTemplate")
+                       : request   ? qString(m_controller.renameSummaryString())
+                                   : qText("rename_nothingToDo"));
     const bool isSaving = request && request->type != SaveProcessType::Rename;
     m_start->setText(qText(!isSaving  ? "rename_start"
                            : isRename ? "rename_startSaveRename"
@@ -271,12 +271,12 @@ void RenameSheet::startCheck() {
     m_pending = std::make_shared<PendingCheck>();
     m_pending->sheet = this;
     const std::weak_ptr<PendingCheck> weak = m_pending;
-    m_pending->job = m_session.jobs().begin(JobKind::RenamePreview, text("rename_checking"),
-                                            [weak, &app] {
-                                                if (const auto pending = weak.lock())
-                                                    pending->wasCancelled = true;
-                                                app.cancellation().request();
-                                            });
+    m_pending->job =
+        m_session.jobs().begin(JobKind::RenamePreview, text("rename_checking"), [weak, &app] {
+            if (const auto pending = weak.lock())
+                pending->wasCancelled = true;
+            app.cancellation().request();
+        });
     app.setRenameChoices(m_controller.choices());
     app.startRenamePreview(
         *request,

@@ -41,7 +41,7 @@ RenameSheetOptions::RenameSheetOptions(WindowSession &session, RenameSheetContro
       m_controller(controller),
       m_form(new QFormLayout(this)) {
     m_form->setContentsMargins({});
-    m_form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    m_form->setRowWrapPolicy(QFormLayout::WrapAllRows);
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     addRenameAtSave();
     addRestriction();
@@ -185,9 +185,9 @@ void RenameSheetOptions::refreshMenu(QComboBox &menu, const CompoundMenu &kind,
     const QSignalBlocker quiet(&menu);
     const int place = menu.findData(compoundTag);
     if (hasCompoundEntry && place < 0)
-        menu.addItem(qText(&menu == m_counterType ? "rename_counterCompound"
-                                                  : "rename_atSaveCompound"),
-                     compoundTag);
+        menu.addItem(
+            qText(&menu == m_counterType ? "rename_counterCompound" : "rename_atSaveCompound"),
+            compoundTag);
     else if (!hasCompoundEntry && place >= 0)
         menu.removeItem(place);
     const CompoundMenuTag chosen = menuTag(kind, m_defaults);

@@ -107,9 +107,8 @@ QVariant RenameSheetRows::data(const QModelIndex &index, int role) const {
 QVariant RenameSheetRows::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
-    constexpr std::array<const char *, columnCountOfAll> keys{"rename_columnPresent",
-                                                              "rename_columnNew",
-                                                              "rename_columnNote"};
+    constexpr std::array<const char *, columnCountOfAll> keys{
+        "rename_columnPresent", "rename_columnNew", "rename_columnNote"};
     return qText(keys[static_cast<std::size_t>(section)]);
 }
 

@@ -89,9 +89,8 @@ TemplateEditor::TemplateEditor(WindowSession &session, RenameSheetController &sa
     layout->addWidget(m_sample, 1);
     layout->addLayout(makeButtons());
     connect(m_field, &TemplateField::edited, this, &TemplateEditor::refresh);
-    connect(m_field, &TemplateField::refused, this, [this] {
-        showStatus("rename_refusedCharacter", TemplateStatusLine::Color::Orange);
-    });
+    connect(m_field, &TemplateField::refused, this,
+            [this] { showStatus("rename_refusedCharacter", TemplateStatusLine::Color::Orange); });
     connect(m_field, &TemplateField::elementMenuWanted, this, &TemplateEditor::showElementMenu);
     m_field->render(static_cast<int>(m_controller.text().length()));
     constexpr int characters = 90;
@@ -190,6 +189,7 @@ void TemplateEditor::refreshPalette() {
                              : 0;
         auto *item = new QListWidgetItem(elementLabel(element, used), m_palette);
         item->setData(Qt::UserRole, static_cast<int>(element));
+        item->setBackground(tintOfSlot(elementSlot(element, used), palette()));
     }
 }
 
@@ -210,8 +210,7 @@ void TemplateEditor::refresh() {
     m_saveAsNew->setEnabled(status.isSaveEnabled);
     m_undoButton->setEnabled(m_undo.canUndo());
     m_redoButton->setEnabled(m_undo.canRedo());
-    m_sample->setText(
-        richTextOf(m_samples.sampleTextForImages(sampleCount, present), palette()));
+    m_sample->setText(richTextOf(m_samples.sampleTextForImages(sampleCount, present), palette()));
 }
 
 void TemplateEditor::showStatus(const char *key, TemplateStatusLine::Color color) {
@@ -220,9 +219,8 @@ void TemplateEditor::showStatus(const char *key, TemplateStatusLine::Color color
     QPalette colors = palette();
     const PaintPalette paints = paintPalette(colors, {});
     if (color != TemplateStatusLine::Color::None)
-        colors.setColor(QPalette::WindowText, color == TemplateStatusLine::Color::Red
-                                                  ? paints.danger
-                                                  : paints.warning);
+        colors.setColor(QPalette::WindowText,
+                        color == TemplateStatusLine::Color::Red ? paints.danger : paints.warning);
     m_status->setPalette(colors);
 }
 
@@ -238,10 +236,9 @@ void TemplateEditor::showElementMenu(RenameElement element, const QPoint &global
                                : element == RenameElement::Month ? m_month
                                                                  : nullptr;
     for (int i = 0; choices && i < choices->count(); ++i)
-        menu->addAction(choices->itemText(i), this,
-                        [this, element, value = choices->itemData(i).toInt()] {
-                            configure(element, value);
-                        });
+        menu->addAction(
+            choices->itemText(i), this,
+            [this, element, value = choices->itemData(i).toInt()] { configure(element, value); });
     for (int digits = 1; element == RenameElement::Counter && digits <= mostCounterDigits; ++digits)
         menu->addAction(QString(digits - 1, QLatin1Char('0')) + QLatin1Char('1'), this,
                         [this, digits] { configure(RenameElement::Counter, digits - 1); });
@@ -262,19 +259,18 @@ void TemplateEditor::save(bool asAddition) {
 }
 
 void TemplateEditor::remove() {
-    m_session.questions().confirm(
-        {.message = text("confirmRemoveTemplateMessageText"),
-         .information = {},
-         .acceptText = text("rename_templateRemoveNow"),
-         .isDestructive = true},
-        [editor = QPointer(this)](Answer answer) {
-            if (!editor || answer != Answer::Accepted)
-                return;
-            editor->m_controller.cancel();
-            editor->m_controller.templateRemove();
-            Q_EMIT editor->templatesChanged();
-            editor->accept();
-        });
+    m_session.questions().confirm({.message = text("confirmRemoveTemplateMessageText"),
+                                   .information = {},
+                                   .acceptText = text("rename_templateRemoveNow"),
+                                   .isDestructive = true},
+                                  [editor = QPointer(this)](Answer answer) {
+                                      if (!editor || answer != Answer::Accepted)
+                                          return;
+                                      editor->m_controller.cancel();
+                                      editor->m_controller.templateRemove();
+                                      Q_EMIT editor->templatesChanged();
+                                      editor->accept();
+                                  });
 }
 
 } // namespace chronomender

@@ -19,20 +19,12 @@ namespace {
 
 using Hand = PrefRenameController::Hand;
 
-int slotOf(RenameElement element, int occurrence) {
-    constexpr std::array addOnSlots{8, 10, 11};
-    if (element == RenameElement::AddOn)
-        return addOnSlots[static_cast<std::size_t>(std::min(occurrence, 2))];
-    return element == RenameElement::SourceName ? 9 : static_cast<int>(element) - 1;
-}
-
 struct KeyRemoval {
     QKeySequence::StandardKey key;
     QTextCursor::MoveOperation to;
 };
-constexpr std::array<KeyRemoval, 5> keyRemovals{
+constexpr std::array<KeyRemoval, 4> keyRemovals{
     {{QKeySequence::Delete, QTextCursor::NextCharacter},
-     {QKeySequence::Backspace, QTextCursor::PreviousCharacter},
      {QKeySequence::DeleteStartOfWord, QTextCursor::PreviousWord},
      {QKeySequence::DeleteEndOfWord, QTextCursor::NextWord},
      {QKeySequence::DeleteEndOfLine, QTextCursor::End}}};
@@ -60,6 +52,13 @@ std::vector<TemplatePart> partsOf(const QMimeData &source) {
 
 } // namespace
 
+int elementSlot(RenameElement element, int occurrence) {
+    constexpr std::array addOnSlots{8, 10, 11};
+    if (element == RenameElement::AddOn)
+        return addOnSlots[static_cast<std::size_t>(std::min(occurrence, 2))];
+    return element == RenameElement::SourceName ? 9 : static_cast<int>(element) - 1;
+}
+
 QString elementLabel(RenameElement element, int occurrence) {
     static constexpr std::array<const char *, 3> suffixes{"", "b", "c"};
     std::string key = "renameStringPartGraphic_" + std::to_string(static_cast<int>(element));
@@ -68,7 +67,8 @@ QString elementLabel(RenameElement element, int occurrence) {
     return qText(key);
 }
 
-QSizeF TemplateElementObject::intrinsicSize(QTextDocument *document, int, const QTextFormat &format) {
+QSizeF TemplateElementObject::intrinsicSize(QTextDocument *document, int,
+                                            const QTextFormat &format) {
     const QFontMetricsF metrics(document->defaultFont());
     return {metrics.horizontalAdvance(format.property(Label).toString()) + metrics.height(),
             metrics.height() + 2};
@@ -119,7 +119,7 @@ void TemplateField::render(int cursorPosition) {
         format.setObjectType(TemplateElementObject::type);
         format.setVerticalAlignment(QTextCharFormat::AlignMiddle);
         format.setProperty(TemplateElementObject::Label, elementLabel(*part.element, occurrence));
-        format.setProperty(TemplateElementObject::Slot, slotOf(*part.element, occurrence));
+        format.setProperty(TemplateElementObject::Slot, elementSlot(*part.element, occurrence));
         cursor.insertText(QString(QChar::ObjectReplacementCharacter), format);
         words << elementLabel(*part.element, occurrence);
     }
@@ -203,6 +203,11 @@ bool TemplateField::handleEditing(const QKeyEvent &event) {
         replaceSelection({});
         return true;
     }
+    const bool isPlain = (event.modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier;
+    if (event.key() == Qt::Key_Backspace && isPlain) {
+        removeTo(QTextCursor::PreviousCharacter);
+        return true;
+    }
     for (const KeyRemoval &removal : keyRemovals)
         if (event.matches(removal.key)) {
             removeTo(removal.to);
@@ -231,7 +236,14 @@ void TemplateField::keyPressEvent(QKeyEvent *event) {
     else if (handleEditing(*event))
         event->accept();
     else
-        QTextEdit::keyPressEvent(event);
+        passOn(event);
+}
+
+/// The field's own keys move the cursor. One that edits on some desktop has no effect.
+void TemplateField::passOn(QKeyEvent *event) {
+    QTextEdit::keyPressEvent(event);
+    if (document()->characterCount() - 1 != static_cast<int>(m_controller.text().length()))
+        render(textCursor().position());
 }
 
 void TemplateField::inputMethodEvent(QInputMethodEvent *event) {

@@ -13,6 +13,8 @@ namespace chronomender {
 
 /// The words on an element: its label, and for add-ons the one of the occurrence (0 to 2).
 QString elementLabel(RenameElement element, int occurrence);
+/// Which value of a name it places, 0 to 11.
+int elementSlot(RenameElement element, int occurrence);
 
 /// Draws an element as one character of a text.
 class TemplateElementObject : public QObject, public QTextObjectInterface {
@@ -23,8 +25,7 @@ public:
     enum Property { Label = QTextFormat::UserProperty + 1, Slot };
 
     using QObject::QObject;
-    QSizeF intrinsicSize(QTextDocument *document, int position,
-                         const QTextFormat &format) override;
+    QSizeF intrinsicSize(QTextDocument *document, int position, const QTextFormat &format) override;
     void drawObject(QPainter *painter, const QRectF &area, QTextDocument *document, int position,
                     const QTextFormat &format) override;
 };
@@ -66,6 +67,7 @@ private:
     using Range = PrefRenameController::Range;
     Range selection() const;
     bool handleEditing(const QKeyEvent &event);
+    void passOn(QKeyEvent *event);
     void removeTo(QTextCursor::MoveOperation operation);
     void replaceSelection(const QString &text);
     void moveElementBy(int step);

@@ -39,7 +39,8 @@ QColor tintOfSlot(int slot, const QPalette &palette) {
 }
 
 NameColors colorsOf(const StyledRun &run, const QPalette &palette, bool hasTints) {
-    const QColor ink = palette.color(QPalette::Text), dim = palette.color(QPalette::PlaceholderText);
+    const QColor ink = palette.color(QPalette::Text),
+                 dim = palette.color(QPalette::PlaceholderText);
     switch (run.kind) {
     case Kind::Value:
         if (hasTints && run.slot >= 0)
@@ -113,6 +114,7 @@ void StyledNameDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
     style->drawControl(QStyle::CE_ItemViewItem, &whole, painter, widget);
     // On the colour of a selection the tints would hide what is selected.
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
     QPalette palette = option.palette;
     if (isSelected)
         for (const auto each : {QPalette::Text, QPalette::PlaceholderText})
@@ -121,7 +123,7 @@ void StyledNameDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
     painter->save();
     painter->setFont(whole.font);
     paintStyledName(*painter, area.adjusted(margin, 0, -margin, 0), name.value<StyledName>(),
-                    palette, m_hasTints && !isSelected);
+                    palette, m_hasTints && isEnabled && !isSelected);
     painter->restore();
 }
 

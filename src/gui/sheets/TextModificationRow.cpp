@@ -16,7 +16,7 @@
 namespace chronomender {
 namespace {
 
-constexpr int mostCharacters = 255;
+constexpr int mostCharacters = 255, fewestCharacters = 14;
 
 /// Adds controls from left to right, each bound to a field of the row.
 class RowBuilder {
@@ -55,6 +55,7 @@ public:
     void words(std::string &value, const char *nameKey) {
         auto *field = new QLineEdit(qString(value), m_widget);
         field->setPlaceholderText(qText(nameKey));
+        field->setMinimumWidth(fewestCharacters * field->fontMetrics().averageCharWidth());
         field->setAccessibleName(m_name + QStringLiteral(": ") + qText(nameKey));
         m_layout->addWidget(field, 1);
         bind(field, &QLineEdit::textChanged,
@@ -66,11 +67,10 @@ public:
 private:
     template<class Control, class Signal, class Set>
     void bind(Control *control, Signal signal, Set set) {
-        QObject::connect(control, signal, control,
-                         [set, changed = m_changed](auto value) {
-                             set(value);
-                             changed();
-                         });
+        QObject::connect(control, signal, control, [set, changed = m_changed](auto value) {
+            set(value);
+            changed();
+        });
     }
 
     QWidget *m_widget;
@@ -109,8 +109,7 @@ void build(ReplaceWith &row, RowBuilder &builder) {
 
 void build(ChangeCase &row, RowBuilder &builder) {
     builder.toggle(row.isEnabled, textModificationNames[3]);
-    builder.menu(row.value,
-                 {"rename_rowCapitalised", "rename_rowLower", "rename_rowUpper"});
+    builder.menu(row.value, {"rename_rowCapitalised", "rename_rowLower", "rename_rowUpper"});
     builder.stretch();
 }
 

@@ -158,7 +158,8 @@ void TextModificationSheet::buildRows() {
 }
 
 QWidget *TextModificationSheet::makeRow(std::size_t index) {
-    QWidget *row = makeTextModificationRow(m_rows[index], [this] { store(); }, m_rowArea);
+    QWidget *row = makeTextModificationRow(
+        m_rows[index], [this] { store(); }, m_rowArea);
     addButtons(index, row);
     return row;
 }
@@ -184,9 +185,8 @@ void TextModificationSheet::addButtons(std::size_t index, QWidget *row) {
               [this, index] { std::swap(m_rows[index], m_rows[index - 1]); });
     addButton(Qt::DownArrow, "rename_rowDown", index + 1 < m_rows.size(),
               [this, index] { std::swap(m_rows[index], m_rows[index + 1]); });
-    addButton(Qt::NoArrow, "rename_rowDelete", true, [this, index] {
-        m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(index));
-    });
+    addButton(Qt::NoArrow, "rename_rowDelete", true,
+              [this, index] { m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(index)); });
 }
 
 void TextModificationSheet::store() {
@@ -196,8 +196,8 @@ void TextModificationSheet::store() {
 }
 
 void TextModificationSheet::showExample() {
-    m_exampleLabel->setText(qText("rename_rowExample",
-                                  {m_example, modifiedStringFromString(m_example, m_rows)}));
+    m_exampleLabel->setText(
+        qText("rename_rowExample", {m_example, modifiedStringFromString(m_example, m_rows)}));
 }
 
 } // namespace chronomender
