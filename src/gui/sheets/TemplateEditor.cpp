@@ -94,7 +94,7 @@ TemplateEditor::TemplateEditor(WindowSession &session, RenameSheetController &sa
     connect(m_field, &TemplateField::elementMenuWanted, this, &TemplateEditor::showElementMenu);
     m_field->render(static_cast<int>(m_controller.text().length()));
     constexpr int characters = 90;
-    setMinimumWidth(characters * fontMetrics().averageCharWidth());
+    m_field->setMinimumWidth(characters * fontMetrics().averageCharWidth());
     refresh();
     m_field->setFocus();
 }
