@@ -230,7 +230,10 @@ void FolderPanel::dropEvent(QDropEvent *event) {
     if (paths.empty())
         return;
     event->acceptProposedAction();
-    m_session.openPaths(paths);
+    if (event->modifiers().testFlag(Qt::AltModifier)) // as on the rest of the window
+        m_session.openPathsWithOptions(paths);
+    else
+        m_session.openPaths(paths);
 }
 
 void FolderPanel::paintEvent(QPaintEvent *) {
