@@ -2482,9 +2482,6 @@ Beispiele:
     <message id="inspector_addMissingTags">
         <translation>Fehlende Daten ergänzen</translation>
     </message>
-    <message id="inspector_alerts">
-        <translation>Warnungen</translation>
-    </message>
     <message id="inspector_before1970">
         <translation>Das Datum ist das der Datei und liegt vor 1970</translation>
     </message>
@@ -2514,9 +2511,6 @@ Beispiele:
     </message>
     <message id="inspector_dateFrom">
         <translation>Datum aus</translation>
-    </message>
-    <message id="inspector_dates">
-        <translation>Daten</translation>
     </message>
     <message id="inspector_duration">
         <translation>Dauer</translation>
@@ -2773,9 +2767,6 @@ Beispiele:
     <message id="shift_mixedModes">
         <translation>Die ausgewählten Ordner haben verschiedene Modi</translation>
     </message>
-    <message id="shift_mode">
-        <translation>Modus</translation>
-    </message>
     <message id="shift_noFolder">
         <translation>Einen Ordner auswählen, um seine Daten zu verschieben</translation>
     </message>
@@ -2805,9 +2796,6 @@ Beispiele:
     </message>
     <message id="shift_singleTip">
         <translation>Jedes Medium hat eine eigene Verschiebung</translation>
-    </message>
-    <message id="shift_title">
-        <translation>Verschiebung</translation>
     </message>
     <message id="shift_together">
         <translation>Gemei&amp;nsam</translation>

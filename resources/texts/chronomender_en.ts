@@ -2482,9 +2482,6 @@ Examples:
     <message id="inspector_addMissingTags">
         <translation>Add Missing Dates</translation>
     </message>
-    <message id="inspector_alerts">
-        <translation>Alerts</translation>
-    </message>
     <message id="inspector_before1970">
         <translation>The date is that of the file and lies before 1970</translation>
     </message>
@@ -2514,9 +2511,6 @@ Examples:
     </message>
     <message id="inspector_dateFrom">
         <translation>Date from</translation>
-    </message>
-    <message id="inspector_dates">
-        <translation>Dates</translation>
     </message>
     <message id="inspector_duration">
         <translation>Duration</translation>
@@ -2773,9 +2767,6 @@ Examples:
     <message id="shift_mixedModes">
         <translation>The selected folders are in different modes</translation>
     </message>
-    <message id="shift_mode">
-        <translation>Mode</translation>
-    </message>
     <message id="shift_noFolder">
         <translation>Select a folder to shift its dates</translation>
     </message>
@@ -2805,9 +2796,6 @@ Examples:
     </message>
     <message id="shift_singleTip">
         <translation>Each item has a shift of its own</translation>
-    </message>
-    <message id="shift_title">
-        <translation>Shift</translation>
     </message>
     <message id="shift_together">
         <translation>To&amp;gether</translation>
