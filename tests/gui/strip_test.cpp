@@ -133,6 +133,25 @@ TEST_F(StripTest, aRectangleSelects) {
     EXPECT_EQ(selected(), "B");
 }
 
+TEST_F(StripTest, theStripScrollsAlongAtItsEdges) {
+    area.resize(400, area.height());
+    const auto reaches = [&](double x, double scrollX) {
+        move({x, 60});
+        return window.waitFor([&] { return std::abs(strip.scrollX - scrollX) < 1; });
+    };
+    view.scrollTo(0);
+    press(placeOf('a', 72));
+    EXPECT_TRUE(reaches(398, strip.geometry.totalWidth(6) - 400));
+    EXPECT_EQ(selected(), "bcdeF");
+    release({398, 60});
+    view.scrollTo(1000);
+    press(placeOf('f'));
+    EXPECT_TRUE(reaches(2, 0));
+    EXPECT_EQ(shown(), "bdface") << "before the first that stays";
+    key(Qt::Key_Escape);
+    EXPECT_EQ(nikonShift(), absl::ZeroDuration());
+}
+
 TEST_F(StripTest, keysWalkAndSelect) {
     struct Step {
         Qt::Key key;
@@ -374,7 +393,7 @@ TEST_F(StripTest, opensWhatIsDropped) {
 TEST_F(StripTest, looksFollowSizesAndLabels) {
     const int height = view.sizeHint().height();
     area.resize(500, area.height());
-    view.scrollTo(200);
+    view.scrollTo(240);
     const auto atMiddle = [&] { return view.picAt({view.width() / 2.0, 90.0}); };
     const MySinglePicPtr middle = atMiddle();
     area.enlargeThumbs(2);

@@ -68,7 +68,7 @@ public:
 
     QString spokenName(const MySinglePicPtr &pic) const;
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
 Q_SIGNALS:
     void menuWanted(const QPoint &globalPosition);
