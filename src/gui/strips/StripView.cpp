@@ -134,8 +134,6 @@ void StripView::paintEvent(QPaintEvent *) {
     painter.fillRect(0, below, width(), height() - below, m_palette.strip);
 }
 
-// ---- what changed
-
 void StripView::listChanged() {
     TimelineStrip *strip = this->strip();
     if (!strip)
@@ -383,7 +381,11 @@ void StripView::dragEnterEvent(QDragEnterEvent *event) {
 
 void StripView::dropEvent(QDropEvent *event) {
     event->acceptProposedAction();
-    session().openPaths(localPaths(event->mimeData()));
+    const std::vector<std::string> paths = localPaths(event->mimeData());
+    if (event->modifiers().testFlag(Qt::AltModifier)) // as on the rest of the window
+        session().openPathsWithOptions(paths);
+    else
+        session().openPaths(paths);
 }
 
 QString StripView::spokenName(const MySinglePicPtr &pic) const {
