@@ -140,7 +140,7 @@ void MainWindow::openPreferences() {
 
 void MainWindow::openRename(RenameSheetRequest request) {
 #if __has_include("RenameSheet.h")
-    (new RenameSheet(*m_session, request, this))->open();
+    (new RenameSheet(std::move(request), *m_session, this))->open();
 #else
     (void)request;
 #endif
