@@ -407,6 +407,7 @@ TEST_F(StripTest, looksFollowSizesAndLabels) {
     Q_EMIT session.listChanged();
     EXPECT_LT(view.sizeHint().height(), height);
     // Both folders show, each by its colour.
+    area.resize(1000, area.height());
     const QImage image = view.grab().toImage();
     const auto barColor = [&](std::int64_t index) {
         const QRect thumb = view.placeOf(index);
