@@ -11,8 +11,10 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPointer>
 #include <QPushButton>
 #include <QTableView>
@@ -171,6 +173,43 @@ TEST_F(RenameSheetTest, WritesATemplateByKeyboardAlone) {
     ASSERT_TRUE(saved);
     EXPECT_EQ(saved->stringParts,
               (std::vector{TemplatePart::ofText("ab"), TemplatePart::ofElement(Counter)}));
+}
+
+TEST_F(RenameSheetTest, TakesElementsFromClipboardAndDrop) {
+    useTemplate({TemplatePart::ofText("a"), TemplatePart::ofElement(Day)});
+    UndoManager undo;
+    PrefRenameController controller(window.session.defaults(), undo);
+    controller.templateModify();
+    TemplateField field(controller, undo, nullptr);
+    field.render(0);
+    const auto written = [&] {
+        std::string words;
+        for (const TemplatePart &part : controller.text().runs())
+            words += part.element ? "{" + std::to_string(static_cast<int>(*part.element)) + "}"
+                                  : part.text;
+        return words + '|' + std::to_string(field.toPlainText().size());
+    };
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(written(), "|0");
+    field.paste();
+    EXPECT_EQ(written(), "a{3}|2");
+    const auto drop = [&field](const QMimeData *dropped) {
+        QDragEnterEvent enter({}, Qt::CopyAction, dropped, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(field.viewport(), &enter);
+        QDropEvent event({}, Qt::CopyAction, dropped, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(field.viewport(), &event);
+    };
+    const std::unique_ptr<QMimeData> dragged(
+        TemplateField::mimeDataOf({TemplatePart::ofElement(Counter), TemplatePart::ofText("b")}));
+    drop(dragged.get());
+    EXPECT_EQ(written(), "{7}ba{3}|4");
+    field.undoStep(false);
+    EXPECT_EQ(written(), "a{3}|2") << "a drop is one step";
+    QMimeData path;
+    path.setText(QStringLiteral("a/b"));
+    drop(&path);
+    EXPECT_EQ(written(), "a{3}|2");
 }
 
 } // namespace

@@ -76,5 +76,21 @@ TEST_F(ZonesSheetTest, LeavesWhatIsMixedAsItIs) {
               "_OWN_OWN");
 }
 
+TEST_F(ZonesSheetTest, GivesSelectedItemsTheirOwnZone) {
+    const auto pics = window.pics();
+    window.session.select([&](MyTimelinesController &strips) {
+        strips.simpleSelectThumb(pics[1], strips.mainTimeline());
+    });
+    const QPointer<ZonesSheet> sheet = open(ZonesSheet::Subject::SelectedItems);
+    QTest::keyClicks(sheet->focusWidget(), QStringLiteral("+5:30"));
+    QTest::keyClick(sheet->focusWidget(), Qt::Key_Return);
+    const MySingleFolder &canon = *window.session.folders().front();
+    EXPECT_EQ(zoneOf(canon.sourceTimeZones), "");
+    ASSERT_EQ(canon.sourceTimeZones.ofItems.size(), 1U);
+    const auto &[id, choice] = *canon.sourceTimeZones.ofItems.begin();
+    EXPECT_EQ(id, pics[1]->sessionUniqueId);
+    EXPECT_EQ(choice.persistedName(), "+05:30");
+}
+
 } // namespace
 } // namespace chronomender

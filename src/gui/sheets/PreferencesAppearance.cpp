@@ -14,16 +14,16 @@ struct RoleColors {
     const char *light, *dark;
 };
 constexpr std::array<RoleColors, 19> roleColors{{
-    {QPalette::Window, "#f0f0f2", "#25272b"},
+    {QPalette::Window, "#f0f0f2", "#2d3035"},
     {QPalette::WindowText, "#1c1d20", "#e9eaec"},
-    {QPalette::Base, "#ffffff", "#1b1d20"},
-    {QPalette::AlternateBase, "#f5f6f8", "#212327"},
+    {QPalette::Base, "#ffffff", "#17191c"},
+    {QPalette::AlternateBase, "#f5f6f8", "#1f2226"},
     {QPalette::Text, "#1c1d20", "#e9eaec"},
     {QPalette::PlaceholderText, "#6a6f78", "#9aa1ac"},
-    {QPalette::Button, "#f0f0f2", "#33363b"},
+    {QPalette::Button, "#f0f0f2", "#3a3e44"},
     {QPalette::ButtonText, "#1c1d20", "#e9eaec"},
     {QPalette::BrightText, "#b3261e", "#ff7b72"},
-    {QPalette::ToolTipBase, "#ffffff", "#33363b"},
+    {QPalette::ToolTipBase, "#ffffff", "#3a3e44"},
     {QPalette::ToolTipText, "#1c1d20", "#e9eaec"},
     {QPalette::Highlight, "#0a6ed1", "#2f7fd6"},
     {QPalette::HighlightedText, "#ffffff", "#ffffff"},

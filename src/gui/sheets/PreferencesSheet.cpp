@@ -113,7 +113,9 @@ void PreferencesSheet::addRow(const Preference &preference, QGridLayout &grid) {
         label->setIndent(indent);
         added.label = label;
         grid.addWidget(label, row, LabelColumn);
-        grid.addWidget(added.control, row, ControlColumn);
+        const bool isNumber = preference.kind == PreferenceKind::Number;
+        grid.addWidget(added.control, row, ControlColumn,
+                       isNumber ? Qt::AlignLeft : Qt::Alignment());
     }
     grid.addWidget(added.reset, row, ResetColumn);
     if (preference.kind == PreferenceKind::Tool) {

@@ -364,10 +364,8 @@ void TemplateField::insertFromMimeData(const QMimeData *source) {
 }
 
 void TemplateField::dropEvent(QDropEvent *event) {
-    setTextCursor(cursorForPosition(event->position().toPoint()));
-    insertFromMimeData(event->mimeData());
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
+    // It ends in insertFromMimeData, with the cursor where something was dropped.
+    QTextEdit::dropEvent(event);
     setFocus();
 }
 
