@@ -88,7 +88,7 @@ public:
         }
     }
 
-    Clock wall{CLOCK_MONOTONIC}, processor{CLOCK_THREAD_CPUTIME_ID};
+    Clock wall{CLOCK_MONOTONIC}, processor{CLOCK_PROCESS_CPUTIME_ID};
 
 private:
     StripView &m_view;
