@@ -5,12 +5,8 @@
 #include "FolderPanel.h"
 #include "InspectorPanel.h"
 #include "MainWindow.h"
-#if __has_include("PreferencesSheet.h")
 #include "PreferencesSheet.h"
-#endif
-#if __has_include("RenameSheet.h")
 #include "RenameSheet.h"
-#endif
 #include "RunSheets.h"
 #include "ShiftBar.h"
 #include "StripArea.h"
@@ -133,17 +129,11 @@ void MainWindow::openZones(bool ofItems) {
 }
 
 void MainWindow::openPreferences() {
-#if __has_include("PreferencesSheet.h")
     (new PreferencesSheet(*m_session, this))->open();
-#endif
 }
 
 void MainWindow::openRename(RenameSheetRequest request) {
-#if __has_include("RenameSheet.h")
-    (new RenameSheet(std::move(request), *m_session, this))->open();
-#else
-    (void)request;
-#endif
+    RenameSheet::openFor(request, *m_session, this);
 }
 
 } // namespace chronomender

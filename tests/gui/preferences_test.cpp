@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Appearance.h"
 #include "LittleWindow.h"
 #include "PreferencesSheet.h"
 #include "Texts.h"
@@ -64,7 +65,7 @@ TEST(PreferencesSheet, EveryControlSetsWhatItShows) {
     EXPECT_EQ(defaults.integerForKey("dateChangeEXIFEXIFModDate"), 3);
     EXPECT_EQ(defaults.integerForKey("appearance"), 2);
     EXPECT_LT(QApplication::palette().color(QPalette::Window).lightness(), 80) << "at once";
-    QApplication::setPalette(QPalette());
+    applyAppearance(Appearance::System);
     EXPECT_EQ(defaults.integerForKey("dragGapOuterEdges"), 86400);
     for (const QWidget *each : sheet.findChildren<QWidget *>()) {
         const bool isInner = each->objectName().startsWith(QLatin1String("qt_"));

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "PreferencesSheet.h"
 
+#include "Appearance.h"
 #include "Controls.h"
 #include "PaintPalette.h"
-#include "PreferencesAppearance.h"
 #include "PreferencesFields.h"
 
 #include <QDialogButtonBox>
@@ -162,7 +162,11 @@ void PreferencesSheet::wasSet(const Preference &preference, UserDefaults::Outcom
     if (preference.kind == PreferenceKind::Tool)
         checkTool();
     if (std::string_view(preference.key) == "appearance")
-        applyAppearance(m_session.defaults());
+        applyAppearance(
+            static_cast<Appearance>(m_session.defaults().integerForKey(preference.key)));
+    // What is drawn goes by preferences: colours, labels, and dates as a save would write them.
+    Q_EMIT m_session.foldersChanged();
+    Q_EMIT m_session.listChanged();
     Q_EMIT preferenceChanged(QString::fromLatin1(preference.key));
 }
 
