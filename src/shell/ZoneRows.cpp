@@ -84,7 +84,7 @@ ZoneRow zoneRow(const Zone &zone, Date at) {
             zone.rules.At(shown).offset, clockNote(zone.rules, shown)};
 }
 
-ZoneRows::ZoneRows(const Zones &zones, Date at) : m_zones(zones), m_at(at) {
+ZoneRows::ZoneRows(const Zones &zones, Date at) : m_zones(&zones), m_at(at) {
     std::vector<std::pair<ZoneRow, Searched>> all;
     for (const std::string &name : zones.zoneNames()) {
         const auto zone = zones.zoneWithName(name);
@@ -130,8 +130,8 @@ std::optional<int> ZoneRows::rank(const Searched &searched, const QString &folde
 
 std::vector<ZoneRow> ZoneRows::matching(const std::string &typed) const {
     std::vector<ZoneRow> found;
-    if (const auto offset = offsetIn(typed)) {
-        if (const auto fixed = m_zones.zoneWithName(zoneDatabase::offsetName(*offset)))
+    if (const auto offset = offsetIn(typed); offset && m_zones) {
+        if (const auto fixed = m_zones->zoneWithName(zoneDatabase::offsetName(*offset)))
             found.push_back(zoneRow(*fixed, m_at));
         std::ranges::copy_if(m_rows, std::back_inserter(found),
                              [&](const ZoneRow &row) { return row.offsetSeconds == *offset; });

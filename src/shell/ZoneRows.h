@@ -28,9 +28,12 @@ std::string offsetText(const ZoneRow &row);
 ZoneRow zoneRow(const Zone &zone, Date at);
 
 /// All zones that can be chosen, with their offsets at one date, and the search among them. Zones
-/// that stand for a country come first; older names of zones come last. Main thread.
+/// that stand for a country come first; older names of zones come last. A value; making one reads
+/// the file of each zone that the program has not used yet, which is no work for the main thread.
 class ZoneRows {
 public:
+    ZoneRows() = default; ///< no rows
+    /// `zones` outlives the rows. Safe on all threads.
     ZoneRows(const Zones &zones, Date at);
 
     const std::vector<ZoneRow> &rows() const { return m_rows; }
@@ -47,7 +50,7 @@ private:
     };
     static std::optional<int> rank(const Searched &searched, const QString &folded);
 
-    const Zones &m_zones;
+    const Zones *m_zones = nullptr;
     Date m_at;
     std::vector<ZoneRow> m_rows;
     std::vector<Searched> m_searched; ///< one for each row

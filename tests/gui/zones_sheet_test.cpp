@@ -25,6 +25,8 @@ protected:
     QPointer<ZonesSheet> open(ZonesSheet::Subject subject) {
         QPointer<ZonesSheet> sheet(new ZonesSheet(window.session, subject, nullptr));
         sheet->open();
+        const auto models = sheet->findChildren<ZoneListModel *>();
+        EXPECT_TRUE(little::LittleWindow::waitFor([&] { return models.back()->rowCount() > 0; }));
         return sheet;
     }
     static std::string zoneOf(const ZoneAssignments &side) {

@@ -54,9 +54,8 @@ QVariant ZoneListModel::data(const QModelIndex &index, int role) const {
     }
 }
 
-ZonePicker::ZonePicker(const ZoneRows &rows, const char *nameKey, QWidget *parent)
+ZonePicker::ZonePicker(const char *nameKey, QWidget *parent)
     : QWidget(parent),
-      m_rows(rows),
       m_model(new ZoneListModel(this)),
       m_search(new QLineEdit(this)),
       m_list(new QTreeView(this)) {
@@ -71,7 +70,6 @@ ZonePicker::ZonePicker(const ZoneRows &rows, const char *nameKey, QWidget *paren
     m_list->setHeaderHidden(true);
     m_list->setAllColumnsShowFocus(true);
     m_list->setTextElideMode(Qt::ElideRight);
-    m_model->setRows(m_rows.rows());
     QHeaderView *header = m_list->header();
     header->setStretchLastSection(false);
     header->setSectionResizeMode(ZoneListModel::Place, QHeaderView::Stretch);
@@ -98,7 +96,15 @@ std::optional<std::string> ZonePicker::zoneName() const {
     return current.isValid() ? std::optional(m_model->row(current.row()).name) : std::nullopt;
 }
 
+void ZonePicker::setRows(const ZoneRows &rows) {
+    m_rows = &rows;
+    search();
+    if (!m_shown.empty() && !zoneName())
+        showZone(m_shown);
+}
+
 void ZonePicker::showZone(const std::string &name) {
+    m_shown = name;
     m_isQuiet = true;
     if (const auto row = m_model->indexOf(name)) {
         m_list->setCurrentIndex(m_model->index(*row, 0));
@@ -110,10 +116,12 @@ void ZonePicker::showZone(const std::string &name) {
 /// What was chosen stays chosen while it is among what was found; else the best find is chosen, as
 /// a person who types a place means it.
 void ZonePicker::search() {
+    if (!m_rows)
+        return;
     const auto chosen = zoneName();
     const QString typed = m_search->text().trimmed();
     m_isQuiet = true;
-    m_model->setRows(m_rows.matching(typed.toStdString()));
+    m_model->setRows(m_rows->matching(typed.toStdString()));
     m_isQuiet = false;
     if (typed.isEmpty()) {
         if (chosen)

@@ -39,8 +39,11 @@ private:
 class ZonePicker : public QWidget {
     Q_OBJECT
 public:
-    /// `rows` outlives the picker; the name is that of a text, told to screen readers.
-    ZonePicker(const ZoneRows &rows, const char *nameKey, QWidget *parent);
+    /// Without rows at first; the name is that of a text, told to screen readers.
+    ZonePicker(const char *nameKey, QWidget *parent);
+
+    /// `rows` outlives the picker. What was typed before is searched for in them.
+    void setRows(const ZoneRows &rows);
 
     /// Name of the zone that is chosen; none for none.
     std::optional<std::string> zoneName() const;
@@ -57,7 +60,8 @@ protected:
 private:
     void search();
 
-    const ZoneRows &m_rows;
+    const ZoneRows *m_rows = nullptr;
+    std::string m_shown; ///< the zone that `showZone` told
     ZoneListModel *m_model;
     QLineEdit *m_search;
     QTreeView *m_list;

@@ -17,6 +17,7 @@
 #include <absl/time/clock.h>
 
 #include <array>
+#include <utility>
 
 namespace chronomender {
 namespace {
@@ -49,8 +50,7 @@ ZonesSheet::ZonesSheet(WindowSession &session, Subject subject, QWidget *parent)
     : QDialog(parent),
       m_session(session),
       m_subject(subjectOf(session, subject)),
-      m_items(clockItems(m_subject)),
-      m_rows(session.zones(), m_items.date().value_or(absl::Now())) {
+      m_items(clockItems(m_subject)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     setWindowTitle(qText("zones_title"));
@@ -78,6 +78,13 @@ ZonesSheet::ZonesSheet(WindowSession &session, Subject subject, QWidget *parent)
     showPresent(m_target);
     refresh();
     m_source.picker->searchField()->setFocus();
+    m_worker.run([&zones = session.zones(),
+                  at = m_items.date().value_or(absl::Now())] { return ZoneRows(zones, at); },
+                 [this](ZoneRows rows) {
+                     m_rows = std::move(rows);
+                     m_source.picker->setRows(m_rows);
+                     m_target.picker->setRows(m_rows);
+                 });
 }
 
 QGroupBox *ZonesSheet::makeSide(const char *titleKey, const std::vector<Choice> &choices,
@@ -103,7 +110,7 @@ QGroupBox *ZonesSheet::makeSide(const char *titleKey, const std::vector<Choice> 
         mixed->setForegroundRole(QPalette::PlaceholderText);
         layout->insertWidget(0, mixed);
     }
-    side.picker = new ZonePicker(m_rows, titleKey, box);
+    side.picker = new ZonePicker(titleKey, box);
     layout->addWidget(side.picker, 1);
     connect(side.choices, &QButtonGroup::idToggled, this, [this](int, bool isOn) {
         if (isOn)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "WindowSession.h"
+#include "WorkThread.h"
 #include "WorldClock.h"
 #include "ZoneRows.h"
 
@@ -53,12 +54,13 @@ private:
     WindowSession &m_session;
     ZoneSubject m_subject;
     ClockItems m_items;
-    ZoneRows m_rows;
+    ZoneRows m_rows; ///< without rows until the worker has made them
     Side m_source, m_target;
     QGridLayout *m_clocks = nullptr;
     std::vector<QLabel *> m_zoneNames;          ///< one for each clock
     std::vector<std::vector<QLabel *>> m_clock; ///< for each clock one for each item
     QPushButton *m_apply = nullptr;
+    WorkThread m_worker; ///< last: it ends before what it uses
 };
 
 } // namespace chronomender
