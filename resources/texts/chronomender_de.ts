@@ -1516,7 +1516,13 @@ Beispiele:
     <message id="status_read">
         <translation>%1 Medien aus %2 gelesen</translation>
     </message>
-    <message id="status_runEnded">
+    <message id="status_renamed">
+        <translation>%1 Dateien umbenannt</translation>
+    </message>
+    <message id="status_saved">
+        <translation>%1 Dateien gesichert</translation>
+    </message>
+    <message id="status_savedAndRenamed">
         <translation>%1 Dateien gesichert, %2 umbenannt</translation>
     </message>
     <message id="status_thumbnailsStopped">

@@ -1516,7 +1516,13 @@ Examples:
     <message id="status_read">
         <translation>%1 items read from %2</translation>
     </message>
-    <message id="status_runEnded">
+    <message id="status_renamed">
+        <translation>%1 files renamed</translation>
+    </message>
+    <message id="status_saved">
+        <translation>%1 files saved</translation>
+    </message>
+    <message id="status_savedAndRenamed">
         <translation>%1 files saved, %2 renamed</translation>
     </message>
     <message id="status_thumbnailsStopped">

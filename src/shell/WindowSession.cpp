@@ -14,6 +14,7 @@ namespace chronomender {
 namespace {
 
 constexpr std::chrono::milliseconds askPeriod{50};
+constexpr std::size_t previewBytes = 192U << 20U;
 
 /// Asks on the main thread and waits for the answer here, on a worker; the fallback once the work
 /// was given up.
@@ -58,7 +59,7 @@ WindowSession::WindowSession(AppServices services, WindowQuestions &questions,
     : QObject(parent),
       m_questions(questions),
       m_thumbnails(std::make_unique<Thumbnails>(thumbs)),
-      m_previews(std::make_unique<Previews>()),
+      m_previews(std::make_unique<Previews>(previewBytes, thumbs.rawJpgDisplayType)),
       m_controller(std::make_unique<AppController>(std::move(services),
                                                    static_cast<ImportQuestions &>(*this))),
       m_saveFlow(std::make_unique<SaveFlow>(*m_controller, m_jobs, questions)) {
@@ -290,7 +291,12 @@ void WindowSession::saveEnded(const SaveRunResult *result) {
     const auto saved = std::ranges::count(result->items, ItemResult::Saved, &ItemOutcome::result);
     const auto renamed =
         std::ranges::count(result->renames, RenameResult::Renamed, &ItemRename::result);
-    tell(text("status_runEnded", {std::to_string(saved), std::to_string(renamed)}));
+    const char *key = renamed == 0 ? "status_saved"
+                      : saved == 0 ? "status_renamed"
+                                   : "status_savedAndRenamed";
+    const std::string savedText = std::to_string(saved), renamedText = std::to_string(renamed);
+    tell(saved == 0 ? text(key, {renamed == 0 ? savedText : renamedText})
+                    : text(key, {savedText, renamedText}));
 }
 
 RenameSheetViews WindowSession::renameSheetViews() const {

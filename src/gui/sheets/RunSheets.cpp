@@ -53,6 +53,12 @@ QPlainTextEdit *textView(const char *nameKey, const QString &words, QuestionShee
     return view;
 }
 
+/// The sheet has said the first line already.
+QString withoutHeader(const std::string &errors) {
+    const QString all = qString(errors);
+    return all.mid(all.indexOf(QLatin1Char('\n')) + 1).trimmed();
+}
+
 QTreeWidgetItem *groupItem(QTreeWidget *tree, const std::string &title, std::size_t count) {
     auto *item = new QTreeWidgetItem(tree, {qString(title + " (" + std::to_string(count) + ')')});
     QFont bold = tree->font();
@@ -122,7 +128,8 @@ void openRunErrorsSheet(const SaveRunResult &result, QWidget *parent) {
             text(count == 1 ? "errorPanelInformativeText_back_single"
                             : "errorPanelInformativeText_back_multi"),
         parent);
-    textView("errors_text", qString(actionErrorText(result.errors, result.toolErrors)), sheet);
+    textView("errors_text", withoutHeader(actionErrorText(result.errors, result.toolErrors)),
+             sheet);
     sheet->addButton("errorPanelDefaultButton", QDialogButtonBox::AcceptRole)->setDefault(true);
     sheet->open();
 }
