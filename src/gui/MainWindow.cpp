@@ -11,10 +11,10 @@
 #include "ShiftBar.h"
 #include "StripArea.h"
 
-#include <QAction>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QMimeData>
 #include <QSplitter>
@@ -41,8 +41,12 @@ void share(QSplitter *splitter, std::initializer_list<int> shares) {
 
 ThumbnailSettings thumbnailSettings(const UserDefaults &defaults) {
     ThumbnailSettings settings;
+    // A screen of high density shows a cell with more pixels than the usual thumbnail has.
     settings.vqsFspUsesHigherResScrollingAtTheCostOfMuchRam =
+        qGuiApp->devicePixelRatio() > 1 ||
         defaults.boolForKey("vqsFspUsesHigherResScrollingAtTheCostOfMuchRam");
+    settings.rawJpgDisplayType =
+        static_cast<RawJpgDisplayType>(defaults.integerForKey("groupDisplayRawJpgPreviewDefault"));
     settings.autoBGThumbGeneration = defaults.boolForKey("autoBGThumbGeneration");
     return settings;
 }

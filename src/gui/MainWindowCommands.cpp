@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ActionSet.h"
+#include "Appearance.h"
 #include "Controls.h"
 #include "FilterBar.h"
 #include "FolderPanel.h"
@@ -129,7 +130,14 @@ void MainWindow::openZones(bool ofItems) {
 }
 
 void MainWindow::openPreferences() {
-    (new PreferencesSheet(*m_session, this))->open();
+    auto *sheet = new PreferencesSheet(*m_session, this);
+    connect(sheet, &PreferencesSheet::preferenceChanged, this, [this](const QString &key) {
+        if (key == QLatin1String("appearance"))
+            applyAppearance(
+                static_cast<Appearance>(m_session->defaults().integerForKey("appearance")));
+        m_strips->refreshLook();
+    });
+    sheet->open();
 }
 
 void MainWindow::openRename(RenameSheetRequest request) {

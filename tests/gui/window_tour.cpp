@@ -10,6 +10,7 @@
 #include "StripView.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
@@ -40,12 +41,13 @@ public:
         const struct {
             const char *name;
             void (Tour::*show)();
+            const char *zone = "Asia/Tokyo"; ///< of the computer
         } steps[] = {
             {"empty", &Tour::showEmpty},
             {"importing", &Tour::showImporting},
             {"out-of-order", &Tour::showTrip},
             {"drag", &Tour::showDrag},
-            {"alert", &Tour::showAlert},
+            {"alert", &Tour::showAlert, "Europe/Berlin"},
             {"zones", &Tour::showZones},
             {"pre-save", &Tour::showPreSave},
             {"saving", &Tour::showSaving},
@@ -56,7 +58,7 @@ public:
         for (const auto &step : steps) {
             if (!m_wanted.empty() && !m_wanted.contains(step.name))
                 continue;
-            openWindow();
+            openWindow(step.zone);
             (this->*step.show)();
             keepPicture(step.name);
             closeWindow();
@@ -67,16 +69,17 @@ public:
 private:
     WindowSession &session() { return m_window->session(); }
 
-    void openWindow() {
+    void openWindow(const char *zone) {
         AppServices services = systemServices();
         services.defaults = std::make_unique<UserDefaults>();
         services.defaults->setForThisRun("useMovieOptionsQTValuesWithoutShowingSheet", "1");
         services.defaults->setForThisRun("isMVHDTimezoneCorrectionEnabled", "1");
-        services.zones->setSystemZone(*services.zones->zoneWithName("Europe/Berlin"));
+        services.zones->setSystemZone(*services.zones->zoneWithName(zone));
         m_window = std::make_unique<MainWindow>(std::move(services));
         m_window->setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
         m_window->show();
         m_window->session().start();
+        QCursor::setPos(0, 0);
         QTest::qWait(settleMilliseconds);
     }
     void closeWindow() {
