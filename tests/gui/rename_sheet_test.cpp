@@ -101,10 +101,10 @@ TEST_F(RenameSheetTest, SavesFirstWhereChangesWait) {
     window.session.edit([&](AppController &app) {
         app.shiftFolder(*window.session.folders().front(), absl::Hours(1));
     });
-    window.questions.reply = Answer::Cancelled;
+    window.questions.confirmed = Answer::Cancelled;
     EXPECT_FALSE(open(RenameSheetRequest::RenameCurrent));
-    EXPECT_EQ(window.questions.asked.size(), 1U);
-    window.questions.reply = Answer::Accepted;
+    EXPECT_EQ(window.questions.confirmations.size(), 1U);
+    window.questions.confirmed = Answer::Accepted;
     const QPointer<RenameSheet> sheet = open(RenameSheetRequest::RenameCurrent);
     ASSERT_TRUE(sheet);
     EXPECT_EQ(column(sheet, RenameSheetRows::New), "1101.jpg 1102.jpg 1103.jpg ");

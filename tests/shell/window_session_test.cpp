@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "LittlePhoto.h"
-#include "ScriptedQuestions.h"
-#include "TemporaryFolder.h"
+#include "LittleWindow.h"
 #include "Texts.h"
 #include "WindowCommands.h"
 #include "WindowSession.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QThread>
 
-#include <absl/time/clock.h>
 #include <gmock/gmock.h>
 
 #include <filesystem>
@@ -25,7 +20,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-/// A window's session without a window, in UTC, over files of its own.
+/// A window's session without a window, in Berlin's time.
 class WindowSessionTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
@@ -37,34 +32,19 @@ protected:
     }
 
     WindowSessionTest() {
-        auto zones = std::make_unique<Zones>();
-        zones->setSystemZone(Zones::utc());
-        m_session = std::make_unique<WindowSession>(
-            AppServices{makeSystemFileLayer(), std::make_unique<UserDefaults>(), std::move(zones),
-                        [] { return absl::Now(); }},
-            m_questions);
-        QObject::connect(m_session.get(), &WindowSession::statusTold, m_session.get(),
+        QObject::connect(&session(), &WindowSession::statusTold, &session(),
                          [this](const QString &words) { m_status = words.toStdString(); });
     }
 
-    WindowSession &session() { return *m_session; }
-
-    std::string photo(const std::string &name, const std::string &stamp,
+    WindowSession &session() { return m_window.session; }
+    ScriptedQuestions &questions() { return m_window.questions; }
+    std::string photo(const std::string &folder, const std::string &name, const std::string &stamp,
                       const std::string &zone = {}) {
-        little::PhotoFields fields;
-        fields.original = fields.digitized = fields.modified = stamp;
-        fields.zoneOriginal = zone;
-        return m_disk.write(name, little::jpegPhoto(fields).bytes);
+        return m_window.photo(folder, name, stamp, zone);
     }
-    std::string folder(const std::string &name) const { return m_disk.path(name); }
-
+    std::string folder(const std::string &name) const { return m_window.disk.path(name); }
     void waitUntil(const std::function<bool()> &isDone) {
-        const QDeadlineTimer deadline(20'000);
-        while (!isDone() && !deadline.hasExpired()) {
-            QCoreApplication::processEvents();
-            QThread::msleep(1);
-        }
-        ASSERT_TRUE(isDone());
+        ASSERT_TRUE(little::LittleWindow::waitFor(isDone));
     }
     void open(const std::vector<std::string> &paths) {
         session().openPaths(paths);
@@ -82,26 +62,22 @@ protected:
     }
     void run(CommandId id) { EXPECT_TRUE(runInSession(id, session())); }
 
-    little::TemporaryFolder m_disk;
-    ScriptedQuestions m_questions;
+    little::LittleWindow m_window;
     std::string m_status;
-
-private:
-    std::unique_ptr<WindowSession> m_session;
 };
 
 TEST_F(WindowSessionTest, OpensWhatIsDroppedAndTellsOfTheRest) {
-    photo("a/A2.JPG", "2024:05:06 10:00:00");
-    photo("a/A1.JPG", "2024:05:06 09:00:00");
-    const std::string single = photo("b/B1.JPG", "2024:05:06 09:30:00");
-    photo("b/B2.JPG", "2024:05:06 09:40:00");
-    open({folder("a"), single, m_disk.write("b/notes.txt", "no photo"),
-          m_disk.write("b/way.gpx", "<gpx/>"), folder("gone")});
+    photo("a", "A2.JPG", "2024:05:06 10:00:00");
+    photo("a", "A1.JPG", "2024:05:06 09:00:00");
+    const std::string single = photo("b", "B1.JPG", "2024:05:06 09:30:00");
+    photo("b", "B2.JPG", "2024:05:06 09:40:00");
+    open({folder("a"), single, m_window.disk.write("b/notes.txt", "no photo"),
+          m_window.disk.write("b/way.gpx", "<gpx/>"), folder("gone")});
     EXPECT_THAT(order(), ElementsAre("A1", "B1", "A2"));
-    EXPECT_THAT(m_questions.notices, Contains(HasSubstr("notes.txt")));
-    EXPECT_THAT(m_questions.notices, Contains(HasSubstr("way.gpx")));
-    EXPECT_THAT(m_questions.notices, Contains(HasSubstr("gone")));
-    EXPECT_EQ(m_questions.notices.size(), 4U) << "one notice with three lines";
+    EXPECT_THAT(questions().notices, Contains(HasSubstr("notes.txt")));
+    EXPECT_THAT(questions().notices, Contains(HasSubstr("way.gpx")));
+    EXPECT_THAT(questions().notices, Contains(HasSubstr("gone")));
+    EXPECT_EQ(questions().notices.size(), 4U) << "one notice with three lines";
     // A second drop adds what is new, and the first item stays the main one.
     open({folder("b")});
     EXPECT_THAT(order(), ElementsAre("A1", "B1", "B2", "A2"));
@@ -112,7 +88,7 @@ TEST_F(WindowSessionTest, OpensWhatIsDroppedAndTellsOfTheRest) {
 
 TEST_F(WindowSessionTest, TenFoldersDroppedWhileAnImportRunsAllArrive) {
     for (int i = 0; i < 10; ++i)
-        photo(std::to_string(i) + "/P" + std::to_string(i) + ".JPG",
+        photo(std::to_string(i), "P" + std::to_string(i) + ".JPG",
               "2024:05:06 10:00:0" + std::to_string(i));
     for (int i = 0; i < 10; ++i)
         session().openPaths({folder(std::to_string(i))});
@@ -126,18 +102,18 @@ TEST_F(WindowSessionTest, TenFoldersDroppedWhileAnImportRunsAllArrive) {
 
 TEST_F(WindowSessionTest, ACancelledReadingEndsAndTheNextOneRuns) {
     for (int i = 0; i < 200; ++i)
-        photo("many/P" + std::to_string(i) + ".JPG", "2024:05:06 10:00:00");
+        photo("many", "P" + std::to_string(i) + ".JPG", "2024:05:06 10:00:00");
     session().openPaths({folder("many")});
     session().jobs().cancel(JobKind::Import);
     waitUntil([this] { return !session().jobs().isRunning(JobKind::Import); });
-    photo("few/F1.JPG", "2024:05:06 10:00:00");
+    photo("few", "F1.JPG", "2024:05:06 10:00:00");
     open({folder("few")});
     EXPECT_THAT(order(), Contains("F1"));
 }
 
 TEST_F(WindowSessionTest, ShiftsUndoesAndShowsWhatAnUndoTouched) {
-    photo("a/A1.JPG", "2024:05:06 10:00:00");
-    photo("b/B1.JPG", "2024:05:06 10:30:00");
+    photo("a", "A1.JPG", "2024:05:06 10:00:00");
+    photo("b", "B1.JPG", "2024:05:06 10:30:00");
     open({folder("a"), folder("b")});
     session().selectFolders({session().folders()[1]});
     CompoundFields fields;
@@ -158,30 +134,30 @@ TEST_F(WindowSessionTest, ShiftsUndoesAndShowsWhatAnUndoTouched) {
 }
 
 TEST_F(WindowSessionTest, SavesAfterTheQuestionAndNotWithoutTheAnswer) {
-    const std::string path = photo("a/A1.JPG", "2024:05:06 10:00:00", "+09:00");
+    const std::string path = photo("a", "A1.JPG", "2024:05:06 10:00:00", "+09:00");
     open({folder("a")});
     CompoundFields later;
     later.dmSeconds = "5";
     session().shiftSelectedFolders(later);
-    m_questions.acceptsProblems = false;
+    questions().acceptsProblems = false;
     const std::string before = little::fileContent(path);
     save();
-    EXPECT_FALSE(m_questions.problems.empty()) << "the zone stamp would be rewritten";
+    EXPECT_FALSE(questions().problems.empty()) << "the zone stamp would be rewritten";
     EXPECT_EQ(little::fileContent(path), before);
     EXPECT_TRUE(session().hasUnsavedChanges());
     EXPECT_EQ(m_status, text("status_nothingWritten"));
 
-    m_questions.acceptsProblems = true;
+    questions().acceptsProblems = true;
     session().save(true);
     EXPECT_FALSE(session().edit([](AppController &) { FAIL() << "a save runs"; }));
     waitUntil([this] { return session().saveFlow().isIdle(); });
     EXPECT_NE(little::fileContent(path), before);
     EXPECT_FALSE(session().hasUnsavedChanges());
-    EXPECT_THAT(m_questions.errors, IsEmpty());
+    EXPECT_THAT(questions().errors, IsEmpty());
 }
 
 TEST_F(WindowSessionTest, AFolderThatVanishedIsTold) {
-    photo("a/A1.JPG", "2024:05:06 10:00:00");
+    photo("a", "A1.JPG", "2024:05:06 10:00:00");
     open({folder("a")});
     std::filesystem::remove_all(folder("a"));
     bool wasTold = false;
@@ -192,21 +168,21 @@ TEST_F(WindowSessionTest, AFolderThatVanishedIsTold) {
 }
 
 TEST_F(WindowSessionTest, RemovingChangedFoldersAsksFirst) {
-    photo("a/A1.JPG", "2024:05:06 10:00:00");
-    photo("b/B1.JPG", "2024:05:06 11:00:00");
+    photo("a", "A1.JPG", "2024:05:06 10:00:00");
+    photo("b", "B1.JPG", "2024:05:06 11:00:00");
     open({folder("a"), folder("b")});
     session().selectFolders({session().folders()[0]});
     CompoundFields later;
     later.dmHours = "3";
     session().shiftSelectedFolders(later);
-    m_questions.confirmed = Answer::Cancelled;
+    questions().confirmed = Answer::Cancelled;
     run(CommandId::RemoveFolders);
     EXPECT_EQ(session().folders().size(), 2U);
-    m_questions.confirmed = Answer::Accepted;
+    questions().confirmed = Answer::Accepted;
     run(CommandId::RemoveFolders);
     EXPECT_THAT(order(), ElementsAre("B1"));
     EXPECT_FALSE(session().controller().undoManager().canUndo());
-    EXPECT_EQ(m_questions.confirmations.size(), 2U);
+    EXPECT_EQ(questions().confirmations.size(), 2U);
 }
 
 TEST_F(WindowSessionTest, EveryCommandHasATextAndKeysOfItsOwn) {

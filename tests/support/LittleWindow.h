@@ -2,6 +2,7 @@
 #pragma once
 
 #include "LittlePhoto.h"
+#include "ScriptedQuestions.h"
 #include "TemporaryFolder.h"
 #include "WindowSession.h"
 
@@ -14,45 +15,13 @@
 
 namespace chronomender::little {
 
-/// Answers every question at once, and keeps what was asked.
-class FakeQuestions : public WindowQuestions {
-public:
-    void emptyTagOptions(const MySingleFolderPtr &,
-                         std::function<void(PerFolderImportOptions)> answer) override {
-        answer({});
-    }
-    void movieOptions(const MySingleFolderPtr &,
-                      std::function<void(MovieOptions)> answer) override {
-        answer({});
-    }
-    void importOptions(const std::vector<std::string> &,
-                       std::function<void(std::optional<KeyStates>)> answer) override {
-        answer(KeyStates{});
-    }
-    void preSaveProblems(const PreProcessResult &, std::function<void(bool)> answer) override {
-        answer(true);
-    }
-    void runErrors(const SaveRunResult &) override { ++runErrorCount; }
-    void confirm(const Confirmation &question, std::function<void(Answer)> answer) override {
-        asked.push_back(question.message);
-        answer(reply);
-    }
-    void notice(const std::string &message, const std::vector<std::string> &) override {
-        asked.push_back(message);
-    }
-
-    Answer reply = Answer::Accepted;
-    std::vector<std::string> asked;
-    int runErrorCount = 0;
-};
-
 /// The session of a window over little photos on disk; the system's zone is Europe/Berlin.
 class LittleWindow {
 public:
     LittleWindow() : session(services(), questions) {}
 
     TemporaryFolder disk;
-    FakeQuestions questions;
+    ScriptedQuestions questions;
     WindowSession session;
 
     /// Waits for the event loop to bring something about.
@@ -62,12 +31,13 @@ public:
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
         return isThere();
     }
-    void photo(const std::string &folder, const std::string &name, const std::string &original,
-               const std::string &zoneStamp = {}) {
+    /// Its path.
+    std::string photo(const std::string &folder, const std::string &name,
+                      const std::string &original, const std::string &zoneStamp = {}) {
         PhotoFields fields{.original = original};
         if (!zoneStamp.empty())
             fields.zoneOriginal = zoneStamp;
-        disk.write(folder + '/' + name, jpegPhoto(fields).bytes + name);
+        return disk.write(folder + '/' + name, jpegPhoto(fields).bytes + name);
     }
     /// Reads folders of the disk; the first of them is selected.
     void open(const std::vector<std::string> &folders) {

@@ -216,6 +216,9 @@ void ZonesSheet::refresh() {
 }
 
 void ZonesSheet::apply() {
+    // What was typed is not looked up yet.
+    if (m_rows.rows().empty())
+        return;
     const ZoneWish wanted = wish();
     const bool isDone = m_session.edit([&](AppController &controller) {
         if (m_subject.isOfItems())
