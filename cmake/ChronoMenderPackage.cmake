@@ -12,13 +12,15 @@ install(FILES resources/package/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/d
 
 # Packages hold these compressed, without the time of compression.
 find_program(GZIP gzip REQUIRED)
+add_custom_target(package_files ALL)
 function(install_compressed source name destination)
   set(compressed ${CMAKE_CURRENT_BINARY_DIR}/package/${name}.gz)
   add_custom_command(OUTPUT ${compressed}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_CURRENT_BINARY_DIR}/package
     COMMAND sh -c "${GZIP} -9 -n -c '${CMAKE_CURRENT_SOURCE_DIR}/${source}' > '${compressed}'"
     DEPENDS ${source} VERBATIM)
-  add_custom_target(compress_${name} ALL DEPENDS ${compressed})
+  add_custom_target(compress_${name} DEPENDS ${compressed})
+  add_dependencies(package_files compress_${name})
   install(FILES ${compressed} DESTINATION ${destination})
 endfunction()
 install_compressed(resources/package/changelog changelog
@@ -45,7 +47,8 @@ set(CPACK_DEBIAN_PACKAGE_MAINTAINER
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Plugins and programs that are looked for at run time.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libimage-exiftool-perl, libqt6svg6, tzdata")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-image-formats-plugins, qt6-qpa-plugins")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS 
+    "libimage-exiftool-perl, libqt6svg6, qt6-image-formats-plugins, tzdata")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)

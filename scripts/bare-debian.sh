@@ -1,15 +1,17 @@
 # Sourced by scripts that try something in a bare Debian 12. Needs root and debootstrap.
 #
-#     bare_make NAME [FOLDER]   makes it in FOLDER (default: a new folder under /var/tmp), with git
-#     inside COMMAND…           runs something in it
-#     said TEXT                 tells how far NAME has come
-#     bare_done                 removes it, unless the folder was named
+#     bare_make NAME [FOLDER [PACKAGE…]]   makes it in FOLDER (default or empty: a new folder under
+#                                          /var/tmp), with these packages installed besides
+#     inside COMMAND…                      runs something in it
+#     inside_install PACKAGE…              installs packages with what they depend on, no more
+#     said TEXT                            tells how far NAME has come
+#     bare_done                            removes it, unless the folder was named
 #
 # Mirror and network settings of apt are taken from this machine; nothing else is. The folder is kept
 # when something fails.
 release=bookworm
 
-said() { echo "$bare_name: $1 ($((SECONDS - bare_started)) s so far)"; }
+said() { echo "$bare_name: $* ($((SECONDS - bare_started)) s so far)"; }
 
 bare_unmount() {
     for place in dev/shm dev proc; do
@@ -23,12 +25,18 @@ inside() {
         chroot "$root" "$@" </dev/null
 }
 
+inside_install() {
+    inside env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "$@" \
+        >/dev/null
+}
+
 bare_make() {
     bare_name=$1
     bare_started=$SECONDS
     ((EUID == 0)) || { echo "$bare_name: needs root" >&2; exit 1; }
     command -v debootstrap >/dev/null || { echo "$bare_name: install debootstrap first" >&2; exit 1; }
     bare_named=${2:-}
+    shift "$(($# < 2 ? $# : 2))"
     root=${bare_named:-$(mktemp -d /var/tmp/chronomender-bare.XXXXXX)}
     mkdir -p "$root"
     chmod 755 "$root" # apt reads its lists as a user of its own
@@ -63,9 +71,8 @@ bare_make() {
     while IFS= read -r line; do bare_proxies+=("$line"); done \
         < <(env | grep -iE '^(http|https|no)_proxy=' || true)
     inside apt-get update -qq
-    inside env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
-        git ca-certificates >/dev/null
-    said "bare $release with git: $(inside dpkg-query -W -f '.\n' | wc -l) packages"
+    if (($#)); then inside_install "$@"; fi
+    said "bare $release${*:+ with $*}: $(inside dpkg-query -W -f '.\n' | wc -l) packages"
 }
 
 bare_done() {

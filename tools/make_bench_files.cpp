@@ -7,6 +7,10 @@
 //
 // make_bench_files FOLDER COUNT large|bare: COUNT names of JPEGs as a camera of 24 megapixels makes
 // them, with a thumbnail or without. Each file has many names, as nobody's disk has room for them.
+//
+// make_bench_files FOLDER COUNT shots|bareshots: COUNT JPEGs with a thumbnail or without, each a
+// file of its own, in the order of their dates. The first hundred have 24 megapixels, the others a
+// small picture.
 
 #include "CameraExif.h"
 #include "Containers.h"
@@ -160,6 +164,13 @@ int makeFiles(const std::filesystem::path &root, std::size_t count, std::size_t 
     return 0;
 }
 
+int ended(const std::filesystem::path &root, int folder, bool isDone) {
+    close(folder);
+    if (!isDone)
+        std::fprintf(stderr, "make_bench_files: cannot write in %s\n", root.c_str());
+    return isDone ? 0 : 1;
+}
+
 int makeLargeFiles(const std::filesystem::path &root, std::size_t count, bool hasThumbnail) {
     constexpr std::size_t filesOnDisk = 40;
     std::filesystem::create_directories(root);
@@ -178,10 +189,26 @@ int makeLargeFiles(const std::filesystem::path &root, std::size_t count, bool ha
             exif.thumbnail = jpegOf(landscape(160, 120, 12 * 3600, 1), 85, false);
         isDone = writeFile(folder, name, fileOf(i, false, exif, picture).bytes, exif.wallClock);
     }
-    close(folder);
-    if (!isDone)
-        std::fprintf(stderr, "make_bench_files: cannot write in %s\n", root.c_str());
-    return isDone ? 0 : 1;
+    return ended(root, folder, isDone);
+}
+
+int makeShots(const std::filesystem::path &root, std::size_t count, bool hasThumbnail) {
+    constexpr std::size_t largeCount = 100, smallBody = 20'000;
+    std::filesystem::create_directories(root);
+    const int folder = open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const std::string large = largeBody(), small = body(smallBody);
+    const std::string thumbnail = jpegOf(landscape(160, 120, 12 * 3600, 1), 85, false);
+    bool isDone = folder >= 0;
+    for (std::size_t i = 0; i < count && isDone; ++i) {
+        auto exif = record(i);
+        exif.wallClock = absl::CivilSecond(2025, 6, 2) + static_cast<std::int64_t>(60 * i);
+        if (hasThumbnail)
+            exif.thumbnail = thumbnail;
+        isDone =
+            writeFile(folder, numberedName(i, "JPG"),
+                      fileOf(i, false, exif, i < largeCount ? large : small).bytes, exif.wallClock);
+    }
+    return ended(root, folder, isDone);
 }
 
 } // namespace
@@ -193,10 +220,13 @@ int main(int argc, char **argv) {
     if (kind == "large" || kind == "bare")
         return chronomender::tools::makeLargeFiles(argv[1], std::strtoul(argv[2], nullptr, 10),
                                                    kind == "large");
+    if (kind == "shots" || kind == "bareshots")
+        return chronomender::tools::makeShots(argv[1], std::strtoul(argv[2], nullptr, 10),
+                                              kind == "shots");
     const bool isMixed = argc == 5 && std::string_view(argv[4]) == "mixed";
     if (argc != 4 && !isMixed) {
         std::fprintf(stderr, "usage: make_bench_files FOLDER COUNT BODY_BYTES [mixed]\n"
-                             "       make_bench_files FOLDER COUNT large|bare\n");
+                             "       make_bench_files FOLDER COUNT large|bare|shots|bareshots\n");
         return 2;
     }
     return chronomender::tools::makeFiles(argv[1], std::strtoul(argv[2], nullptr, 10),
