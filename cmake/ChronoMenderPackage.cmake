@@ -34,11 +34,11 @@ set(CPACK_PACKAGE_VENDOR "The chronoMender developers")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "put the dates of photos and movies right")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "chronoMender shows the photos and movies of several cameras in one order,
- lets you shift them in time, set time zones and rename them, and writes the
- corrected dates into the files: exactly the bytes of a date, after proving
- that they are what was read.
- .
- This package holds the window chronomender and the command line mend.")
+lets you shift them in time, set time zones and rename them, and writes the
+corrected dates into the files: exactly the bytes of a date, after proving
+that they are what was read.
+.
+This package holds the window chronomender and the command line mend.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
