@@ -13,7 +13,7 @@ namespace chronomender {
 
 namespace {
 
-constexpr int kBackgroundNiceness = 5;
+constexpr int kBackgroundNiceness = 2;
 constexpr std::chrono::milliseconds kBetweenHeaps{12};
 
 } // namespace

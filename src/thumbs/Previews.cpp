@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <list>
+#include <thread>
 #include <unordered_map>
 
 namespace chronomender {
@@ -18,9 +19,14 @@ namespace {
 constexpr int kSideStep = 256;
 /// A user who leafs on no longer looks at what was asked for before.
 constexpr std::size_t kMostAsked = 8;
-constexpr int kThreads = 2;
+constexpr int kMostThreads = 2;
 /// Also of entries without a picture.
 constexpr std::size_t kMostEntries = 64;
+
+/// Half of the processors are left for the thumbnails of a folder that just came.
+int threadCount() {
+    return std::clamp(static_cast<int>(std::thread::hardware_concurrency()) / 2, 1, kMostThreads);
+}
 
 int longerSide(const QImage &image) {
     return std::max(image.width(), image.height());
@@ -42,7 +48,7 @@ struct Previews::State {
     State(std::size_t most, RawJpgDisplayType type)
         : mostBytes(most),
           rawJpgDisplayType(type),
-          workers(kThreads, PictureWorkers::Urgency::WaitedFor, [] {}) {
+          workers(threadCount(), PictureWorkers::Urgency::WaitedFor, [] {}) {
         nextRound.setSingleShot(true);
         QObject::connect(&nextRound, &QTimer::timeout, &nextRound, [this] { runAsked(); });
     }
