@@ -1909,6 +1909,15 @@ Beispiele:
     <message id="prefs_pageSaving">
         <translation>Sichern</translation>
     </message>
+    <message id="prefs_previewJpeg">
+        <translation>aus dem JPEG</translation>
+    </message>
+    <message id="prefs_previewRaw">
+        <translation>aus der Raw-Datei</translation>
+    </message>
+    <message id="prefs_rawJpgPreview">
+        <translation>&amp;Bild eines Raw mit seinem JPEG</translation>
+    </message>
     <message id="prefs_reset">
         <translation>Zurücksetzen</translation>
     </message>
@@ -3183,6 +3192,9 @@ Beispiele:
     </message>
     <message id="rename_yearName">
         <translation>Jahr</translation>
+    </message>
+    <message id="toolBar_title">
+        <translation>Werkzeuge</translation>
     </message>
 </context>
 </TS>

@@ -1909,6 +1909,15 @@ Examples:
     <message id="prefs_pageSaving">
         <translation>Saving</translation>
     </message>
+    <message id="prefs_previewJpeg">
+        <translation>of the JPEG</translation>
+    </message>
+    <message id="prefs_previewRaw">
+        <translation>of the raw file</translation>
+    </message>
+    <message id="prefs_rawJpgPreview">
+        <translation>&amp;Picture of a raw with its JPEG</translation>
+    </message>
     <message id="prefs_reset">
         <translation>Reset</translation>
     </message>
@@ -3183,6 +3192,9 @@ Examples:
     </message>
     <message id="rename_yearName">
         <translation>Year</translation>
+    </message>
+    <message id="toolBar_title">
+        <translation>Tools</translation>
     </message>
 </context>
 </TS>

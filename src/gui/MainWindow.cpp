@@ -3,6 +3,7 @@
 
 #include "ActionSet.h"
 #include "Controls.h"
+#include "DroppedPaths.h"
 #include "FilterBar.h"
 #include "FolderPanel.h"
 #include "InspectorPanel.h"
@@ -10,16 +11,16 @@
 #include "PreviewPanel.h"
 #include "ShiftBar.h"
 #include "StripArea.h"
+#include "WindowMemory.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QGuiApplication>
-#include <QMenu>
 #include <QMimeData>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QUrl>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -54,14 +55,6 @@ ThumbnailSettings thumbnailSettings(const UserDefaults &defaults) {
 std::unique_ptr<WindowSession> makeSession(AppServices services, WindowQuestions &questions) {
     const ThumbnailSettings thumbs = thumbnailSettings(*services.defaults);
     return std::make_unique<WindowSession>(std::move(services), questions, thumbs);
-}
-
-std::vector<std::string> pathsOf(const QMimeData &data) {
-    std::vector<std::string> paths;
-    for (const QUrl &url : data.urls())
-        if (url.isLocalFile())
-            paths.push_back(url.toLocalFile().toStdString());
-    return paths;
 }
 
 } // namespace
@@ -103,8 +96,37 @@ void MainWindow::layOut() {
     all->setSizes({timeline->sizeHint().height() * 2, timeline->sizeHint().height()});
     setCentralWidget(all);
     statusBar()->addWidget(new JobBar(session), 1);
+    addToolBar(makeToolBar());
+    WindowMemory(session.defaults()).restore(*this, splitters());
+    m_strips->setThumbSize(session.defaults().integerForKey("timelineThumbSize"));
     const QFontMetrics metrics = fontMetrics();
     resize(metrics.averageCharWidth() * 190, metrics.lineSpacing() * 52);
+}
+
+/// The steps of a trip, from left to right.
+QToolBar *MainWindow::makeToolBar() {
+    auto *bar = new QToolBar(qText("toolBar_title"));
+    bar->setObjectName(QStringLiteral("toolBar"));
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    using enum CommandId;
+    const std::vector<std::vector<CommandId>> groups{
+        {AddFolders}, {Undo, Redo}, {FolderZones, ResetShift}, {SaveAll, RenameAll}};
+    for (const auto &group : groups) {
+        if (!bar->actions().isEmpty())
+            bar->addSeparator();
+        for (const CommandId id : group)
+            bar->addAction(m_actions->action(id));
+    }
+    bar->toggleViewAction()->setVisible(false);
+    return bar;
+}
+
+std::vector<QSplitter *> MainWindow::splitters() const {
+    const auto found = centralWidget()->findChildren<QSplitter *>();
+    std::vector<QSplitter *> all{qobject_cast<QSplitter *>(centralWidget())};
+    all.insert(all.end(), found.begin(), found.end());
+    return all;
 }
 
 void MainWindow::connectSession() {
@@ -141,21 +163,12 @@ void MainWindow::changeEvent(QEvent *event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent *event) {
-    if (event->mimeData()->hasUrls())
+    if (!draggedPaths(event->mimeData()).empty())
         event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent *event) {
-    event->acceptProposedAction();
-    openDropped(pathsOf(*event->mimeData()), event->modifiers());
-}
-
-void MainWindow::openDropped(const std::vector<std::string> &paths,
-                             Qt::KeyboardModifiers modifiers) {
-    if (modifiers.testFlag(Qt::AltModifier))
-        m_session->openPathsWithOptions(paths);
-    else
-        m_session->openPaths(paths);
+    openDropped(*event, *m_session);
 }
 
 /// Until sessions are kept, closing loses what was not saved: so it asks.
@@ -163,6 +176,7 @@ void MainWindow::closeEvent(QCloseEvent *event) {
     const bool isBusy = !m_session->saveFlow().isIdle();
     if (m_mayClose || (!isBusy && !m_session->hasUnsavedChanges())) {
         m_session->jobs().cancelAll();
+        keepLook();
         event->accept();
         return;
     }
@@ -171,6 +185,12 @@ void MainWindow::closeEvent(QCloseEvent *event) {
         m_session->tell(text("status_waitForSave"));
     else
         askBeforeClosing();
+}
+
+/// For the next start.
+void MainWindow::keepLook() {
+    WindowMemory(m_session->defaults()).keep(*this, splitters());
+    m_session->defaults().set("timelineThumbSize", std::to_string(m_strips->thumbSize()));
 }
 
 void MainWindow::askBeforeClosing() {

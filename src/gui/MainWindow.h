@@ -12,6 +12,9 @@
 #include <string>
 #include <vector>
 
+class QSplitter;
+class QToolBar;
+
 namespace chronomender {
 
 class ActionSet;
@@ -43,13 +46,15 @@ protected:
 
 private:
     void layOut();
+    QToolBar *makeToolBar();
+    std::vector<QSplitter *> splitters() const;
+    void keepLook();
     void connectSession();
     void connectMenus();
     void refresh();
     void showTitle();
     struct WindowAction;
     void runInWindow(CommandId id);
-    void openDropped(const std::vector<std::string> &paths, Qt::KeyboardModifiers modifiers);
     void chooseFolders(bool withOptions);
     void goToOtherStrip();
     void openZones(bool ofItems);

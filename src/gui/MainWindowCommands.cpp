@@ -112,7 +112,10 @@ void MainWindow::chooseFolders(bool withOptions) {
         std::vector<std::string> paths;
         for (const QString &path : all)
             paths.push_back(path.toStdString());
-        openDropped(paths, withOptions ? Qt::AltModifier : Qt::NoModifier);
+        if (withOptions)
+            m_session->openPathsWithOptions(paths);
+        else
+            m_session->openPaths(paths);
     });
     dialog->open();
 }

@@ -46,6 +46,7 @@ constexpr PreferenceChoice suffixes[]{
 constexpr PreferenceChoice gpsTypes[]{{1, "prefs_choiceGpsShift"}, {0, "prefs_choiceGpsDate"}};
 constexpr PreferenceChoice appearances[]{
     {0, "prefs_appearanceSystem"}, {1, "prefs_appearanceLight"}, {2, "prefs_appearanceDark"}};
+constexpr PreferenceChoice rawJpgPreviews[] = {{0, "prefs_previewRaw"}, {1, "prefs_previewJpeg"}};
 constexpr PreferenceChoice gaps[]{{1, "prefs_gap1"},       {10, "prefs_gap10"},
                                   {60, "prefs_gap60"},     {600, "prefs_gap600"},
                                   {3600, "prefs_gap3600"}, {86400, "prefs_gap86400"}};
@@ -163,6 +164,7 @@ constexpr Preference table[] = {
      {},
      "prefs_groupThumbs"},
     {"autoBGThumbGeneration", "prefs_backgroundThumbs", Appearance, Switch},
+    {"groupDisplayRawJpgPreviewDefault", "prefs_rawJpgPreview", Appearance, Choice, rawJpgPreviews},
 };
 
 bool isColor(const std::string &value) {

@@ -27,6 +27,8 @@ const std::set<std::string_view> placedElsewhere{
     // filters
     "areFiltersCombined", "isFilterActive", "isRatingFilterActive", "lastActiveFilterPredicate",
     "ratingFilterSelectedOption",
+    // how the window looks
+    "mainWindowGeometry", "mainWindowSplitters", "timelineThumbSize",
     // the questions of an import
     "folderMode", "folderType", "isAlwaysShowOptionsDisabled", "tioFilterValues",
     "withEmptyExifFixDate",
@@ -38,7 +40,7 @@ const std::set<std::string_view> placedElsewhere{
     "dateCorrectionEXIFFinderModDate", "dateCorrectionEXIFFinderModDateEXIFModDateOptions",
     "dateCorrectionEXIFFinderModDateEXIFModDateUnchangedOption",
     "dateCorrectionEXIFFinderModDateUnchangedOption", "fixFinderDateOnImport",
-    "groupDisplayRawJpgPreviewDefault", "highlightUnsavedChangesInAltogetherMode"};
+    "highlightUnsavedChangesInAltogetherMode"};
 
 TEST(PreferenceTable, HoldsEveryPreferenceThatHasNoOtherPlace) {
     std::multiset<std::string_view> found(placedElsewhere.begin(), placedElsewhere.end());

@@ -2,6 +2,7 @@
 #include "FolderPanel.h"
 
 #include "Controls.h"
+#include "DroppedPaths.h"
 #include "FolderRowPainter.h"
 #include "PanelColors.h"
 #include "WindowSession.h"
@@ -12,7 +13,6 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStyledItemDelegate>
-#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -211,7 +211,7 @@ void FolderPanel::setDropTarget(bool isTarget) {
 }
 
 void FolderPanel::dragEnterEvent(QDragEnterEvent *event) {
-    if (!event->mimeData()->hasUrls())
+    if (draggedPaths(event->mimeData()).empty())
         return;
     event->acceptProposedAction();
     setDropTarget(true);
@@ -223,17 +223,7 @@ void FolderPanel::dragLeaveEvent(QDragLeaveEvent *) {
 
 void FolderPanel::dropEvent(QDropEvent *event) {
     setDropTarget(false);
-    std::vector<std::string> paths;
-    for (const QUrl &url : event->mimeData()->urls())
-        if (url.isLocalFile())
-            paths.push_back(url.toLocalFile().toStdString());
-    if (paths.empty())
-        return;
-    event->acceptProposedAction();
-    if (event->modifiers().testFlag(Qt::AltModifier)) // as on the rest of the window
-        m_session.openPathsWithOptions(paths);
-    else
-        m_session.openPaths(paths);
+    openDropped(*event, m_session);
 }
 
 void FolderPanel::paintEvent(QPaintEvent *) {

@@ -2,6 +2,7 @@
 #include "StripView.h"
 
 #include "Controls.h"
+#include "DroppedPaths.h"
 #include "StripAccessible.h"
 #include "StripFrame.h"
 #include "StripKeys.h"
@@ -17,7 +18,6 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QToolTip>
-#include <QUrl>
 
 #include <algorithm>
 #include <cmath>
@@ -27,14 +27,6 @@ namespace chronomender {
 namespace {
 
 constexpr double wheelStep = 120; // what a notch of a wheel tells
-
-std::vector<std::string> localPaths(const QMimeData *data) {
-    std::vector<std::string> paths;
-    for (const QUrl &url : data->urls())
-        if (url.isLocalFile())
-            paths.push_back(url.toLocalFile().toStdString());
-    return paths;
-}
 
 } // namespace
 
@@ -375,17 +367,12 @@ void StripView::endDrag(void (StripDrag::*ending)()) {
 }
 
 void StripView::dragEnterEvent(QDragEnterEvent *event) {
-    if (!localPaths(event->mimeData()).empty())
+    if (!draggedPaths(event->mimeData()).empty())
         event->acceptProposedAction();
 }
 
 void StripView::dropEvent(QDropEvent *event) {
-    event->acceptProposedAction();
-    const std::vector<std::string> paths = localPaths(event->mimeData());
-    if (event->modifiers().testFlag(Qt::AltModifier)) // as on the rest of the window
-        session().openPathsWithOptions(paths);
-    else
-        session().openPaths(paths);
+    openDropped(*event, session());
 }
 
 QString StripView::spokenName(const MySinglePicPtr &pic) const {
