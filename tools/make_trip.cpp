@@ -265,7 +265,7 @@ std::string jpegFile(const PlannedShot &plan, unsigned seed) {
         static_cast<int>(plan.trueTime - absl::CivilSecond(absl::CivilDay(plan.trueTime)));
     addGrain(picture, 4, seed);
     CameraRecord record = plan.record;
-    record.thumbnail = jpegOf(landscape(160, 120, secondOfDay, seed), 80, false);
+    record.thumbnail = jpegOf(landscape(160, 107, secondOfDay, seed), 80, false);
     TiffWriter tiff(record.order);
     addCameraTags(tiff, record);
     return withExif(jpegOf(picture, 88, false), tiff.build());

@@ -139,6 +139,7 @@ void MainWindow::connectSession() {
     connect(m_session.get(), &WindowSession::selectionChanged, this, soon);
     connect(m_session.get(), &WindowSession::stripsChanged, this, soon);
     connect(m_session.get(), &WindowSession::undoChanged, this, soon);
+    connect(&m_session->jobs(), &Jobs::changed, this, soon);
     connect(&m_session->saveFlow(), &SaveFlow::ended, this, [this] { closeAfterSave(); });
 }
 

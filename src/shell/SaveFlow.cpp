@@ -32,7 +32,7 @@ std::shared_ptr<Job> SaveFlow::beginJob(JobKind kind, const char *titleKey) {
 }
 
 bool SaveFlow::start(SaveRequest request, std::optional<RenameChoices> choices) {
-    if (!isIdle())
+    if (!isIdle() || m_jobs.isRunning(JobKind::Import))
         return false;
     m_request = std::move(request);
     m_choices = std::move(choices);

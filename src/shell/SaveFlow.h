@@ -33,7 +33,7 @@ public:
     Stage stage() const { return m_stage; }
     bool isIdle() const { return m_stage == Stage::Idle; }
     /// `choices` is what a rename goes by, in place of the preferences. False while another run is
-    /// under way.
+    /// under way, or a folder is being read.
     bool start(SaveRequest request, std::optional<RenameChoices> choices = {});
     /// The last run from its first stage on, as it was asked for.
     bool startAgain() { return start(m_request, m_choices); }

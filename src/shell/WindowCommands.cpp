@@ -24,12 +24,14 @@ constexpr WindowCommand commands[] = {
     {AddFolders, File, "command_addFolders", "Ctrl+O", NeedsIdle},
     {AddWithOptions, File, "command_addWithOptions", "Ctrl+Shift+O", NeedsIdle},
     {RemoveFolders, File, "command_removeFolders", "Ctrl+Backspace", folder},
-    {Save, File, "command_save", "Ctrl+S", folder | NeedsUnsaved, Lines::below},
-    {SaveAll, File, "command_saveAll", "Ctrl+Shift+S", NeedsIdle | NeedsUnsaved},
-    {SaveWithoutChanges, File, "command_saveWithoutChanges", "Ctrl+Alt+S", folder},
-    {RenameCurrent, File, "command_renameCurrent", "Ctrl+R", folder | NeedsItems, Lines::below},
-    {RenameAll, File, "command_renameAll", "Ctrl+Shift+R", NeedsIdle | NeedsItems},
-    {SaveAndRename, File, "command_saveAndRename", "Ctrl+Alt+R", NeedsIdle | NeedsItems},
+    {Save, File, "command_save", "Ctrl+S", folder | NeedsUnsaved | NeedsAllRead, Lines::below},
+    {SaveAll, File, "command_saveAll", "Ctrl+Shift+S", NeedsIdle | NeedsUnsaved | NeedsAllRead},
+    {SaveWithoutChanges, File, "command_saveWithoutChanges", "Ctrl+Alt+S", folder | NeedsAllRead},
+    {RenameCurrent, File, "command_renameCurrent", "Ctrl+R", folder | NeedsItems | NeedsAllRead,
+     Lines::below},
+    {RenameAll, File, "command_renameAll", "Ctrl+Shift+R", NeedsIdle | NeedsItems | NeedsAllRead},
+    {SaveAndRename, File, "command_saveAndRename", "Ctrl+Alt+R",
+     NeedsIdle | NeedsItems | NeedsAllRead},
     {ErrorLog, File, "command_errorLog", "Ctrl+L", NeedsNothing, Lines::below},
     {Preferences, File, "command_preferences", "Ctrl+,"},
     {Quit, File, "command_quit", "Ctrl+Q", NeedsNothing, Lines::below},
@@ -155,6 +157,7 @@ CommandNeeds metNeeds(const WindowSession &session) {
     };
     const bool isFiltered = controller.filters().isAnyFilterActive() || controller.foldersFilter();
     return met(session.saveFlow().isIdle(), NeedsIdle) |
+           met(!session.jobs().isRunning(JobKind::Import), NeedsAllRead) |
            met(!controller.source_full().empty(), NeedsItems) |
            met(!selected.empty(), NeedsSelection) | met(selected.size() > 1, NeedsSeveral) |
            met(!session.selectedFolders().empty(), NeedsFolder) |

@@ -96,10 +96,9 @@ enum CommandNeed : std::uint32_t {
     NeedsFilter = 1U << 8U, ///< a filter is on
     NeedsSecondStrip = 1U << 9U,
     NeedsAmbiguous = 1U << 10U, ///< a selected item's stamp means two instants
-    NeedsSingle = 1U << 11U,    ///< the selected folders are in single mode
-    NeedsTogether = 1U << 12U,
-    NeedsShift = 1U << 13U,  ///< a selected folder is shifted
-    NeedsMovies = 1U << 14U, ///< a selected folder has movies
+    NeedsShift = 1U << 11U,     ///< a selected folder is shifted
+    NeedsAllRead = 1U << 12U,   ///< no folder is being read
+    NeedsMovies = 1U << 13U,    ///< a selected folder has movies
 };
 using CommandNeeds = std::uint32_t;
 

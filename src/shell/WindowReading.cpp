@@ -38,7 +38,7 @@ void WindowSession::openPathsWithOptions(const std::vector<std::string> &paths) 
 }
 
 void WindowSession::openPaths(const std::vector<std::string> &paths, const KeyStates &keyStates) {
-    if (isChangeRefused())
+    if (isChangeRefused({}))
         return;
     const DropPlan plan = planDrop(paths);
     for (const RefusedPath &refused : plan.refused)
@@ -76,7 +76,9 @@ void WindowSession::read(const MySingleFolderPtr &folder, const std::vector<std:
         [this, folder, job](const ImportOutcome &outcome) { readingEnded(folder, outcome); });
 }
 
-void WindowSession::itemsReady(const std::vector<MySinglePicPtr> &items) {
+void WindowSession::itemsReady(const MySingleFolderPtr &folder,
+                               const std::vector<MySinglePicPtr> &items) {
+    m_reading.erase(folder.get());
     m_controller->buildNewSource();
     m_thumbnails->addImagesWithoutThumb(items);
     TimelineStrip &strip = timelines().mainTimeline();
@@ -112,10 +114,8 @@ void WindowSession::tellReadingNotes() {
 }
 
 void WindowSession::removeFolders(const std::vector<MySingleFolderPtr> &folders) {
-    if (isChangeRefused() || folders.empty())
+    if (isChangeRefused(folders) || folders.empty())
         return;
-    if (std::ranges::any_of(folders, [this](const auto &each) { return isBeingRead(*each); }))
-        return tell(text("status_waitForReading"));
     if (unsavedOf(folders).empty())
         return dropFolders(folders);
     const Confirmation question{text("removeFolders_message"),
@@ -130,7 +130,7 @@ void WindowSession::removeFolders(const std::vector<MySingleFolderPtr> &folders)
 }
 
 void WindowSession::dropFolders(const std::vector<MySingleFolderPtr> &folders) {
-    if (isChangeRefused())
+    if (isChangeRefused(folders))
         return;
     std::unordered_set<const void *> gone;
     for (const MySingleFolderPtr &folder : folders) {

@@ -88,8 +88,8 @@ void WindowSession::connectParts() {
             Q_EMIT foldersChanged();
         });
     m_controller->setItemsReady(
-        [this](const MySingleFolderPtr &, const std::vector<MySinglePicPtr> &items) {
-            itemsReady(items);
+        [this](const MySingleFolderPtr &folder, const std::vector<MySinglePicPtr> &items) {
+            itemsReady(folder, items);
         });
     connect(m_saveFlow.get(), &SaveFlow::stageChanged, this, [this] {
         m_thumbnails->setIsAutoBGThumbsPaused(m_saveFlow->stage() == SaveFlow::Stage::Writing);
@@ -184,15 +184,18 @@ void WindowSession::tellEverything() {
 
 // ---- changes
 
-bool WindowSession::isChangeRefused() {
-    if (m_saveFlow->isIdle())
-        return false;
-    tell(text("status_waitForSave"));
-    return true;
+/// A worker that reads a folder goes by its zones and its movie clock: they stay until it is done.
+bool WindowSession::isChangeRefused(const std::vector<MySingleFolderPtr> &folders) {
+    const bool isSaving = !m_saveFlow->isIdle();
+    const bool isReading =
+        std::ranges::any_of(folders, [this](const auto &each) { return isBeingRead(*each); });
+    if (isSaving || isReading)
+        tell(text(isSaving ? "status_waitForSave" : "status_waitForReading"));
+    return isSaving || isReading;
 }
 
 bool WindowSession::edit(const std::function<void(AppController &)> &change) {
-    if (isChangeRefused())
+    if (isChangeRefused(m_selectedFolders))
         return false;
     change(*m_controller);
     m_controller->buildNewSource();
@@ -206,14 +209,14 @@ void WindowSession::tellOutcome(DateChangeOutcome outcome) {
 }
 
 void WindowSession::undo() {
-    if (isChangeRefused())
+    if (isChangeRefused(folders()))
         return;
     m_controller->undoManager().undo();
     afterUndo();
 }
 
 void WindowSession::redo() {
-    if (isChangeRefused())
+    if (isChangeRefused(folders()))
         return;
     m_controller->undoManager().redo();
     afterUndo();
@@ -267,7 +270,7 @@ bool WindowSession::hasUnsavedChanges() const {
 }
 
 void WindowSession::save(bool ofAll, bool withoutChanges) {
-    if (isChangeRefused())
+    if (isChangeRefused({}))
         return;
     if (m_runningReads > 0)
         return tell(text("status_waitForReading"));

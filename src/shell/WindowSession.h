@@ -83,8 +83,8 @@ public:
 
     // ---- changes
     /// The one road for every correction: refused (with a word in the status line) while a save
-    /// runs. Afterwards the list is built anew and all views are told. True when it was carried
-    /// out.
+    /// runs, or a selected folder is being read. Afterwards the list is built anew and all views
+    /// are told. True when it was carried out.
     bool edit(const std::function<void(AppController &)> &change);
     /// A change that was refused, as dates would leave their bounds, is told in the status line.
     void tellOutcome(DateChangeOutcome outcome);
@@ -136,7 +136,7 @@ private:
     void openJob(const DropJob &job, const KeyStates &keyStates);
     void read(const MySingleFolderPtr &folder, const std::vector<std::string> &names,
               const KeyStates &keyStates);
-    void itemsReady(const std::vector<MySinglePicPtr> &items);
+    void itemsReady(const MySingleFolderPtr &folder, const std::vector<MySinglePicPtr> &items);
     void readingEnded(const MySingleFolderPtr &folder, const ImportOutcome &outcome);
     void noteReading(const ImportOutcome &outcome);
     void tellReadingNotes();
@@ -146,7 +146,7 @@ private:
     void tellEverything();
     void saveEnded(const SaveRunResult *result);
     void afterUndo();
-    bool isChangeRefused();
+    bool isChangeRefused(const std::vector<MySingleFolderPtr> &folders);
     void thumbnailsProgressed();
 
     WindowQuestions &m_questions;

@@ -315,6 +315,31 @@ TEST_F(KeyboardStory, MendsATripOfThreeCameras) {
     expectMended();
 }
 
+TEST_F(Story, ClosingAsksForWhatIsNotSaved) {
+    session().openPaths({m_disk.path("phone")});
+    waitForReading(1);
+    CompoundFields later;
+    later.dmHours = "2";
+    session().shiftSelectedFolders(later);
+    EXPECT_FALSE(m_window->close());
+    QTest::mouseClick(button(sheet(), "sheet_cancel"), Qt::LeftButton);
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_TRUE(session().hasUnsavedChanges());
+
+    EXPECT_FALSE(m_window->close());
+    QTest::mouseClick(button(sheet(), "closing_save"), Qt::LeftButton);
+    wait([this] { return !m_window->isVisible(); });
+    EXPECT_EQ(little::witness(m_disk.path("phone/PXL_1.JPG"), "-DateTimeOriginal"),
+              "2024:05:06 12:00:00\n");
+
+    m_window->show();
+    session().undo();
+    session().shiftSelectedFolders(later);
+    EXPECT_FALSE(m_window->close());
+    QTest::mouseClick(button(sheet(), "closing_discard"), Qt::LeftButton);
+    EXPECT_FALSE(m_window->isVisible());
+}
+
 /// No control without a name, no command without keys.
 TEST_F(Story, EveryControlHasANameAndEveryActionKeys) {
     const auto expectNames = [](const QWidget *root) {

@@ -93,6 +93,8 @@ TEST_F(WindowSessionTest, TenFoldersDroppedWhileAnImportRunsAllArrive) {
     for (int i = 0; i < 10; ++i)
         session().openPaths({folder(std::to_string(i))});
     EXPECT_TRUE(session().isBeingRead(*session().folders().front()));
+    EXPECT_FALSE(session().edit([](AppController &) { FAIL() << "its reader goes by it"; }));
+    EXPECT_FALSE(session().saveFlow().start({}));
     session().removeFolders({session().folders().front()});
     EXPECT_EQ(session().folders().size(), 10U) << "a folder that is being read stays";
     waitUntil([this] { return !session().jobs().isRunning(JobKind::Import); });
