@@ -1526,7 +1526,7 @@ Beispiele:
         <translation>%1 Dateien gesichert, %2 umbenannt</translation>
     </message>
     <message id="status_thumbnailsStopped">
-        <translation>Der Speicher ist knapp: Vorschaubilder nur noch für das, was zu sehen ist</translation>
+        <translation>Ab jetzt gibt es Vorschaubilder nur für das, was zu sehen ist</translation>
     </message>
     <message id="status_waitForReading">
         <translation>Bitte warten, bis alle Ordner gelesen sind</translation>
@@ -1545,6 +1545,9 @@ Beispiele:
     </message>
     <message id="command_addWithOptions">
         <translation>Mit &amp;Optionen hinzufügen …</translation>
+    </message>
+    <message id="command_alignSelected">
+        <translation>&amp;Anordnen …</translation>
     </message>
     <message id="command_clearFilters">
         <translation>&amp;Filter aufheben</translation>
@@ -3195,6 +3198,48 @@ Beispiele:
     </message>
     <message id="toolBar_title">
         <translation>Werkzeuge</translation>
+    </message>
+    <message id="align_apply">
+        <translation>Anwenden</translation>
+    </message>
+    <message id="align_choices">
+        <translation>Arten, die Auswahl zu ordnen</translation>
+    </message>
+    <message id="align_columnName">
+        <translation>Foto</translation>
+    </message>
+    <message id="align_columnNow">
+        <translation>Jetzt</translation>
+    </message>
+    <message id="align_columnThen">
+        <translation>Dann</translation>
+    </message>
+    <message id="align_copyNew">
+        <translation>Jedes Foto übernimmt ein anderes Datum, wie es beim Sichern geschrieben würde.</translation>
+    </message>
+    <message id="align_copyOld">
+        <translation>Jedes Foto übernimmt ein anderes Datum, das seine Datei enthält.</translation>
+    </message>
+    <message id="align_filename">
+        <translation>Dieselben Zeiten werden in der Reihenfolge der Dateinamen vergeben.</translation>
+    </message>
+    <message id="align_matchingGaps">
+        <translation>Das erste und das letzte Foto bleiben; die anderen werden gleichmäßig dazwischen verteilt.</translation>
+    </message>
+    <message id="align_minimizingGaps">
+        <translation>Das Hauptfoto bleibt; die anderen stehen im Abstand einer Sekunde darum herum.</translation>
+    </message>
+    <message id="align_reversing">
+        <translation>Die Zeiten werden vom Ende her vertauscht.</translation>
+    </message>
+    <message id="align_reversingAlt">
+        <translation>Die Reihenfolge kehrt sich um, und die Abstände mit ihr.</translation>
+    </message>
+    <message id="align_rows">
+        <translation>Was aus jedem Foto wird</translation>
+    </message>
+    <message id="align_title">
+        <translation>%1 Fotos ordnen</translation>
     </message>
 </context>
 </TS>

@@ -1526,7 +1526,7 @@ Examples:
         <translation>%1 files saved, %2 renamed</translation>
     </message>
     <message id="status_thumbnailsStopped">
-        <translation>Memory is short: thumbnails are made only for what is on screen</translation>
+        <translation>From now on thumbnails are made only for what is on screen</translation>
     </message>
     <message id="status_waitForReading">
         <translation>Please wait until all folders are read</translation>
@@ -1545,6 +1545,9 @@ Examples:
     </message>
     <message id="command_addWithOptions">
         <translation>Add with &amp;Options…</translation>
+    </message>
+    <message id="command_alignSelected">
+        <translation>&amp;Align…</translation>
     </message>
     <message id="command_clearFilters">
         <translation>&amp;Clear Filters</translation>
@@ -3195,6 +3198,48 @@ Examples:
     </message>
     <message id="toolBar_title">
         <translation>Tools</translation>
+    </message>
+    <message id="align_apply">
+        <translation>Apply</translation>
+    </message>
+    <message id="align_choices">
+        <translation>Ways to put the selection in order</translation>
+    </message>
+    <message id="align_columnName">
+        <translation>Photo</translation>
+    </message>
+    <message id="align_columnNow">
+        <translation>Now</translation>
+    </message>
+    <message id="align_columnThen">
+        <translation>Then</translation>
+    </message>
+    <message id="align_copyNew">
+        <translation>Each photo takes over another date as a save would write it.</translation>
+    </message>
+    <message id="align_copyOld">
+        <translation>Each photo takes over another date that its file holds.</translation>
+    </message>
+    <message id="align_filename">
+        <translation>The same times are given out in the order of the file names.</translation>
+    </message>
+    <message id="align_matchingGaps">
+        <translation>The first and the last photo stay; the others are spread evenly between them.</translation>
+    </message>
+    <message id="align_minimizingGaps">
+        <translation>The main photo stays; the others stand around it, one second apart.</translation>
+    </message>
+    <message id="align_reversing">
+        <translation>The times are swapped end for end.</translation>
+    </message>
+    <message id="align_reversingAlt">
+        <translation>The order is reversed, and so are the gaps.</translation>
+    </message>
+    <message id="align_rows">
+        <translation>What becomes of each photo</translation>
+    </message>
+    <message id="align_title">
+        <translation>Put %1 photos in order</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ActionSet.h"
+#include "AlignSheet.h"
 #include "Appearance.h"
 #include "Controls.h"
 #include "FilterBar.h"
@@ -38,7 +39,7 @@ const std::vector<CommandId> itemMenu{MoveWithArrows,
                                       NoMark,
                                       ToShelf,
                                       FromShelf,
-                                      AlignMatchingGaps,
+                                      AlignSelected,
                                       AlignMinimizingGaps,
                                       AlignFilename,
                                       AlignReversing,
@@ -85,6 +86,7 @@ void MainWindow::runInWindow(CommandId id) {
         {MoveWithArrows, [](auto &window) { window.m_strips->beginMoveWithArrows(); }},
         {ItemZones, [](auto &window) { window.openZones(true); }},
         {FolderZones, [](auto &window) { window.openZones(false); }},
+        {AlignSelected, [](auto &window) { (new AlignSheet(*window.m_session, &window))->open(); }},
         {OtherStrip, [](auto &window) { window.goToOtherStrip(); }},
         {LargerThumbs, [](auto &window) { window.m_strips->enlargeThumbs(1); }},
         {SmallerThumbs, [](auto &window) { window.m_strips->enlargeThumbs(-1); }},

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "AlignRows.h"
 #include "DateChapters.h"
 #include "DateModifications.h"
 #include "SelectionModes.h"
@@ -30,26 +31,6 @@ void align(WindowSession &session, AlignCommand command) {
         }
     });
 }
-
-struct AlignEntry {
-    CommandId id;
-    AlignCommand command;
-};
-constexpr std::array<AlignEntry, 13> alignEntries{{
-    {AlignMatchingGaps, AlignCommand::MatchingGaps},
-    {AlignMinimizingGaps, AlignCommand::MinimizingGaps},
-    {AlignFilename, AlignCommand::Filename},
-    {AlignReversing, AlignCommand::Reversing},
-    {AlignReversingAlt, AlignCommand::ReversingAlt},
-    {CopyDigitizedOld, AlignCommand::CopyDigitizedOld},
-    {CopyDigitizedNew, AlignCommand::CopyDigitizedNew},
-    {CopyTiffOld, AlignCommand::CopyTiffOld},
-    {CopyTiffNew, AlignCommand::CopyTiffNew},
-    {CopyFileCreationOld, AlignCommand::CopyFileCreationOld},
-    {CopyFileCreationNew, AlignCommand::CopyFileCreationNew},
-    {CopyFileModificationOld, AlignCommand::CopyFileModificationOld},
-    {CopyFileModificationNew, AlignCommand::CopyFileModificationNew},
-}};
 
 void select(WindowSession &session, void (Strips::*change)(TimelineStrip &)) {
     session.select([change](Strips &strips) { (strips.*change)(strips.focusedTimeline()); });
@@ -248,9 +229,8 @@ bool isChecked(CommandId id, const WindowSession &session) {
 bool runInSession(CommandId id, WindowSession &session) {
     if (!isAvailable(commandOf(id), metNeeds(session)))
         return true;
-    const auto aligned = std::ranges::find(alignEntries, id, &AlignEntry::id);
-    if (aligned != alignEntries.end()) {
-        align(session, aligned->command);
+    if (const AlignChoice *choice = alignChoiceOf(id)) {
+        align(session, choice->command);
         return true;
     }
     const auto found = std::ranges::find(actions, id, &Action::id);

@@ -58,7 +58,8 @@ constexpr WindowCommand commands[] = {
     {ToShelf, Items, "command_toShelf", "Ctrl+H", NeedsSelection, Lines::below},
     {FromShelf, Items, "command_fromShelf", "Ctrl+Shift+H", NeedsSelection | NeedsSecondStrip},
 
-    {AlignMatchingGaps, Align, "alignByMatchingGaps", "Ctrl+1", several},
+    {AlignSelected, Align, "command_alignSelected", "Ctrl+K", change},
+    {AlignMatchingGaps, Align, "alignByMatchingGaps", "Ctrl+1", several, Lines::below},
     {AlignMinimizingGaps, Align, "alignByMinimizingGaps", "Ctrl+2", several},
     {AlignFilename, Align, "alignByFileName", "Ctrl+3", several},
     {AlignReversing, Align, "alignByReversing", "Ctrl+4", several},

@@ -170,7 +170,8 @@ void WindowSession::thumbnailsProgressed() {
     if (progress.waiting == 0)
         return m_thumbnailsJob.reset();
     if (!m_thumbnailsJob)
-        m_thumbnailsJob = m_jobs.begin(JobKind::Thumbnails, text("job_thumbnails"), {});
+        m_thumbnailsJob = m_jobs.begin(JobKind::Thumbnails, text("job_thumbnails"),
+                                       [this] { m_thumbnails->stopBackgroundGeneration(); });
     m_thumbnailsJob->report(progress.finished, progress.finished + progress.waiting);
 }
 

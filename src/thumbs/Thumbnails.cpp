@@ -235,6 +235,10 @@ void Thumbnails::setIsAutoBGThumbsPaused(bool isPaused) {
     m_state->isAutoBGThumbsPaused = isPaused;
     m_state->soon();
 }
+void Thumbnails::stopBackgroundGeneration() {
+    m_state->stopAllOnFirstEvictMAIN();
+    m_state->soon(); // what is queued for nobody is taken back
+}
 bool Thumbnails::autoBGThumbGeneration() const {
     return m_state->settings.autoBGThumbGeneration;
 }

@@ -73,6 +73,8 @@ public:
     /// Nothing is begun while a save writes or a user asked for quiet.
     void setIsAutoBGThumbsPaused(bool isPaused);
     bool autoBGThumbGeneration() const;
+    /// From now on only what is on screen gets its thumbnails.
+    void stopBackgroundGeneration();
 
     /// How many items wait for a thumbnail, and how many were made or failed.
     struct Progress {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "AlignRows.h"
 #include "LittleWindow.h"
 #include "Texts.h"
 #include "WindowCommands.h"
@@ -133,6 +134,25 @@ TEST_F(WindowSessionTest, ShiftsUndoesAndShowsWhatAnUndoTouched) {
     EXPECT_FALSE(session().hasUnsavedChanges());
     run(CommandId::Undo);
     EXPECT_THAT(order(), ElementsAre("B1", "A1"));
+}
+
+TEST_F(WindowSessionTest, ShowsWhatAnAlignmentDoesBeforeItIsDone) {
+    for (const char *minute : {"00", "10", "50"})
+        photo("a", "A" + std::string(minute) + ".JPG",
+              "2024:05:06 10:" + std::string(minute) + ":00");
+    open({folder("a")});
+    run(CommandId::SelectAll);
+    const AlignSelection selection{session().selectedPics(), session().mainPic()};
+    const auto rows = [&] {
+        return alignRows(AlignCommand::MatchingGaps, selection,
+                         session().controller().liveContext(), session().zones(), 10);
+    };
+    ASSERT_EQ(rows().size(), 3U);
+    EXPECT_EQ(rows()[0].then, "") << "the first stays";
+    EXPECT_EQ(rows()[1].then, "6 May 2024, 10:25:00");
+    run(CommandId::AlignMatchingGaps);
+    EXPECT_EQ(rows()[1].now, "6 May 2024, 10:25:00");
+    EXPECT_EQ(rows()[1].then, "") << "it stands right already";
 }
 
 TEST_F(WindowSessionTest, SavesAfterTheQuestionAndNotWithoutTheAnswer) {
