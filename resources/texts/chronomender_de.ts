@@ -875,10 +875,10 @@ Beispiele:
         <translation>Ihre Korrektur bleibt erhalten; Sie können die Ursache beheben und erneut speichern.</translation>
     </message>
     <message id="errorPanelInformativeText_front_multi">
-        <translation>Bei %1 Dateien gab es Probleme:</translation>
+        <translation>Bei %1 Dateien gab es Probleme.</translation>
     </message>
     <message id="errorPanelInformativeText_front_single">
-        <translation>Bei einer Datei gab es ein Problem:</translation>
+        <translation>Bei einer Datei gab es ein Problem.</translation>
     </message>
     <message id="errorPanelMessageText">
         <translation>Es konnte nicht alles ausgeführt werden.</translation>
@@ -890,10 +890,10 @@ Beispiele:
         <translation>Markierung entfernen</translation>
     </message>
     <message id="mark_rejected">
-        <translation>Als Abgelehnt markieren</translation>
+        <translation>Als Ausschuss markieren</translation>
     </message>
     <message id="menu_align">
-        <translation>&amp;Anordnen</translation>
+        <translation>A&amp;nordnen</translation>
     </message>
     <message id="menu_copyOtherFileDate_selection">
         <translation>Anderes Datum jeder Datei übernehmen</translation>
@@ -1037,7 +1037,7 @@ Beispiele:
         <translation>Die im Foto gespeicherte Zeitzone würde ersetzt</translation>
     </message>
     <message id="preSaveSummary_error_12_zoneStampRewritten_details">
-        <translation>Das Foto sagt, in welcher Zeitzone seine Uhr ging. Sie haben keine Zielzeitzone gewählt; beim Speichern würden daher die Uhrzeit und der Zeitunterschied der Zone dieses Rechners geschrieben. Der Augenblick bleibt derselbe, aber die angezeigte Uhrzeit ändert sich. Um die Zone jedes Fotos zu behalten, wählen Sie als Ziel „own“; um die Zonen absichtlich zu ändern, speichern Sie trotzdem.</translation>
+        <translation>Das Foto sagt, in welcher Zeitzone seine Uhr ging. Sie haben keine Zielzeitzone gewählt; beim Speichern würden daher die Uhrzeit und der Zeitunterschied der Zone dieses Rechners geschrieben. Der Augenblick bleibt derselbe, aber die angezeigte Uhrzeit ändert sich. Um die Zone jedes Fotos zu behalten, wählen Sie sie selbst als Ziel; um die Zonen absichtlich zu ändern, speichern Sie trotzdem.</translation>
     </message>
     <message id="preSaveSummary_error_13_unreadableStamp">
         <translation>Eine Zeitangabe im Foto ist nicht lesbar und würde überschrieben</translation>
@@ -1515,6 +1515,9 @@ Beispiele:
     </message>
     <message id="status_read">
         <translation>%1 Medien aus %2 gelesen</translation>
+    </message>
+    <message id="status_read_one">
+        <translation>1 Medium aus %1 gelesen</translation>
     </message>
     <message id="status_renamed">
         <translation>%1 Dateien umbenannt</translation>
@@ -2366,7 +2369,7 @@ Beispiele:
         <translation>%1, %2</translation>
     </message>
     <message id="strip_empty">
-        <translation>Ordner mit Fotos und Filmen hier ablegen</translation>
+        <translation>Hier stehen alle Fotos und Filme in einer Reihenfolge, gleich aus welcher Kamera</translation>
     </message>
     <message id="strip_filtered">
         <translation>Alles ist durch einen Filter ausgeblendet oder liegt auf der Ablage</translation>

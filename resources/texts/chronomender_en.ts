@@ -875,10 +875,10 @@ Examples:
         <translation>Its correction is kept, so that you can remove the cause and save again.</translation>
     </message>
     <message id="errorPanelInformativeText_front_multi">
-        <translation>There were problems with %1 files:</translation>
+        <translation>There were problems with %1 files.</translation>
     </message>
     <message id="errorPanelInformativeText_front_single">
-        <translation>There was a problem with one file:</translation>
+        <translation>There was a problem with one file.</translation>
     </message>
     <message id="errorPanelMessageText">
         <translation>Not everything could be done.</translation>
@@ -1037,7 +1037,7 @@ Examples:
         <translation>The time zone stored in the photo would be replaced</translation>
     </message>
     <message id="preSaveSummary_error_12_zoneStampRewritten_details">
-        <translation>The photo says in which time zone its clock was. You chose no target time zone, so saving would write the time of this computer’s zone and its offset instead. The moment stays the same, but the clock time that is shown changes. To keep each photo’s own zone, choose the target “own”; to change the zones on purpose, save anyway.</translation>
+        <translation>The photo says in which time zone its clock was. You chose no target time zone, so saving would write the time of this computer’s zone and its offset instead. The moment stays the same, but the clock time that is shown changes. To let each photo keep its zone, choose its own zone as the target; to change the zones on purpose, save anyway.</translation>
     </message>
     <message id="preSaveSummary_error_13_unreadableStamp">
         <translation>A date in the photo cannot be read and would be overwritten</translation>
@@ -1516,6 +1516,9 @@ Examples:
     <message id="status_read">
         <translation>%1 items read from %2</translation>
     </message>
+    <message id="status_read_one">
+        <translation>1 item read from %1</translation>
+    </message>
     <message id="status_renamed">
         <translation>%1 files renamed</translation>
     </message>
@@ -1742,7 +1745,7 @@ Examples:
         <translation>where they lie more than 5 minutes apart</translation>
     </message>
     <message id="prefs_choiceAsDigitized">
-        <translation>takes the digitized date</translation>
+        <translation>takes the digitised date</translation>
     </message>
     <message id="prefs_choiceAsProgram">
         <translation>as chosen above</translation>
@@ -1784,7 +1787,7 @@ Examples:
         <translation>Ea&amp;rliest modification date</translation>
     </message>
     <message id="prefs_digitized">
-        <translation>&amp;Digitized date</translation>
+        <translation>&amp;Digitised date</translation>
     </message>
     <message id="prefs_digitizedFollows">
         <translation>Moves along where it equals the recording date</translation>
@@ -1805,10 +1808,10 @@ Examples:
         <translation>Treat raw with JPEG, and photo with movie, as &amp;one</translation>
     </message>
     <message id="prefs_folderColor">
-        <translation>Folder color %1</translation>
+        <translation>Folder colour %1</translation>
     </message>
     <message id="prefs_folderColors">
-        <translation>Folder colors</translation>
+        <translation>Folder colours</translation>
     </message>
     <message id="prefs_gap">
         <translation>Items dragged beyond the ends keep a &amp;distance of</translation>
@@ -1955,7 +1958,7 @@ Examples:
         <translation>&amp;Change date in the photo</translation>
     </message>
     <message id="prefs_tiffFollows">
-        <translation>Moves along where it equals the digitized date</translation>
+        <translation>Moves along where it equals the digitised date</translation>
     </message>
     <message id="prefs_title">
         <translation>Preferences</translation>
@@ -2366,7 +2369,7 @@ Examples:
         <translation>%1, %2</translation>
     </message>
     <message id="strip_empty">
-        <translation>Drop folders with photos and movies here</translation>
+        <translation>Here all photos and movies stand in one order, whatever camera they are from</translation>
     </message>
     <message id="strip_filtered">
         <translation>Everything is hidden by a filter or lies on the shelf</translation>
@@ -3170,10 +3173,10 @@ Examples:
         <translation>Save as New</translation>
     </message>
     <message id="rename_tints">
-        <translation>Sho&amp;w the elements in color</translation>
+        <translation>Sho&amp;w the elements in colour</translation>
     </message>
     <message id="rename_tintsName">
-        <translation>Show the elements in color</translation>
+        <translation>Show the elements in colour</translation>
     </message>
     <message id="rename_titleAll">
         <translation>Rename All Files</translation>

@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 // Outside any namespace, as the resource compiler names what it makes.
 static void registerIcons() {
@@ -59,6 +61,26 @@ QPalette paletteOf(bool isDark) {
     return palette;
 }
 
+/// Fusion draws the outline of check boxes and radio buttons darker than the window, which a dark
+/// window swallows. It takes that outline from the window's colour; here it gets a lighter one.
+class OutlinedStyle : public QProxyStyle {
+public:
+    OutlinedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override {
+        const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+        const bool isIndicator =
+            element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+        if (!isIndicator || !button)
+            return QProxyStyle::drawPrimitive(element, option, painter, widget);
+        QStyleOptionButton outlined = *button;
+        outlined.palette.setColor(QPalette::Window,
+                                  option->palette.color(QPalette::PlaceholderText).lighter(120));
+        QProxyStyle::drawPrimitive(element, &outlined, painter, widget);
+    }
+};
+
 } // namespace
 
 void applyAppearance(Appearance appearance) {
@@ -66,8 +88,7 @@ void applyAppearance(Appearance appearance) {
     static const QString systemStyle = QApplication::style()->objectName();
     const bool isSystem = appearance == Appearance::System;
     // Other styles draw some controls in the desktop's own colours.
-    QApplication::setStyle(
-        QStyleFactory::create(isSystem ? systemStyle : QStringLiteral("Fusion")));
+    QApplication::setStyle(isSystem ? QStyleFactory::create(systemStyle) : new OutlinedStyle);
     QApplication::setPalette(isSystem ? systemPalette : paletteOf(appearance == Appearance::Dark));
 }
 

@@ -8,6 +8,7 @@
 #include "InspectorPanel.h"
 #include "MainWindow.h"
 #include "PreferencesSheet.h"
+#include "PreviewPanel.h"
 #include "RenameSheet.h"
 #include "RunSheets.h"
 #include "ShiftBar.h"
@@ -61,7 +62,7 @@ void MainWindow::connectMenus() {
         };
     };
     connect(m_folders, &FolderPanel::menuWanted, this, menuOf(folderMenu));
-    connect(m_folders, &FolderPanel::addWanted, this, [this] { run(AddFolders); });
+    connect(m_preview, &PreviewPanel::addWanted, this, [this] { run(AddFolders); });
     connect(m_strips, &StripArea::menuWanted, this, menuOf(itemMenu));
     connect(m_inspector, &InspectorPanel::zonesWanted, this, [this] { run(ItemZones); });
     connect(m_inspector, &InspectorPanel::errorsWanted, this, [this] { run(CommandId::ErrorLog); });

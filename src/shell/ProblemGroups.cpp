@@ -2,6 +2,7 @@
 #include "ProblemGroups.h"
 
 #include "MySingleFolder.h"
+#include "RowTexts.h"
 #include "Texts.h"
 
 #include <map>
@@ -33,7 +34,7 @@ std::string problemHeader(const std::vector<ProblemGroup> &groups) {
     for (const ProblemGroup &group : groups)
         rows += group.rows.size();
     return rows == 1 ? text("preSaveSummary_header_single")
-                     : text("preSaveSummary_header_multi", {std::to_string(rows)});
+                     : text("preSaveSummary_header_multi", {numberText(rows)});
 }
 
 std::vector<MySinglePicPtr> itemsWithRewrittenZones(const std::vector<PreSaveFinding> &problems) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RenameCheck.h"
 
+#include "RowTexts.h"
 #include "Texts.h"
 
 namespace chronomender {
@@ -51,11 +52,11 @@ const CheckedName *RenameCheck::nameOf(const MySinglePic &pic) const {
 
 std::string RenameCheck::summary() const {
     const std::size_t free = m_names.size() - m_numbered - m_refused;
-    std::string words = text("rename_checkFree", {std::to_string(free)});
+    std::string words = text("rename_checkFree", {numberText(free)});
     if (m_numbered > 0)
-        words += ' ' + text("rename_checkNumbered", {std::to_string(m_numbered)});
+        words += ' ' + text("rename_checkNumbered", {numberText(m_numbered)});
     if (m_refused > 0)
-        words += ' ' + text("rename_checkRefused", {std::to_string(m_refused)});
+        words += ' ' + text("rename_checkRefused", {numberText(m_refused)});
     return words;
 }
 

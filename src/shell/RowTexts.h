@@ -4,6 +4,7 @@
 #include "FilterKeys.h"
 #include "UserDefaults.h"
 
+#include <concepts>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -26,6 +27,10 @@ std::string joinedWords(const std::vector<RowNote> &notes);
 std::string asSentence(const std::string &words);
 /// "1,204" as the user's region writes numbers.
 std::string numberText(std::int64_t number);
+template<std::integral Number>
+std::string numberText(Number number) {
+    return numberText(static_cast<std::int64_t>(number));
+}
 /// The text of `key` with the number in it; exactly one has a text of its own, `key` + "_one".
 std::string countText(std::string_view key, std::int64_t number);
 /// By what a display asks of items what a filter asks.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "RowTexts.h"
 #include "Texts.h"
 #include "WindowSession.h"
 
@@ -95,7 +96,9 @@ void WindowSession::readingEnded(const MySingleFolderPtr &folder, const ImportOu
         m_controller->cancellation().clear();
     m_controller->buildNewSource();
     tellEverything();
-    tell(text("status_read", {std::to_string(outcome.items.size()), folder->sfFolder}));
+    const std::size_t count = outcome.items.size();
+    tell(count == 1 ? text("status_read_one", {folder->sfFolder})
+                    : text("status_read", {numberText(count), folder->sfFolder}));
     if (m_runningReads == 0)
         tellReadingNotes();
 }

@@ -3,6 +3,7 @@
 
 #include "DateModifications.h"
 #include "RecoveryTexts.h"
+#include "RowTexts.h"
 #include "Texts.h"
 
 #include <algorithm>
@@ -297,7 +298,7 @@ void WindowSession::saveEnded(const SaveRunResult *result) {
     const char *key = renamed == 0 ? "status_saved"
                       : saved == 0 ? "status_renamed"
                                    : "status_savedAndRenamed";
-    const std::string savedText = std::to_string(saved), renamedText = std::to_string(renamed);
+    const std::string savedText = numberText(saved), renamedText = numberText(renamed);
     tell(saved == 0 ? text(key, {renamed == 0 ? savedText : renamedText})
                     : text(key, {savedText, renamedText}));
 }
@@ -380,7 +381,7 @@ void WindowSession::selectionIndexChanged() {
 
 void WindowSession::showFilterStatus(std::size_t hidden) {
     if (hidden > 0)
-        tell(text("status_hiddenByFilter", {std::to_string(hidden)}));
+        tell(text("status_hiddenByFilter", {numberText(hidden)}));
 }
 
 bool WindowSession::isOneFolderSelected() const {

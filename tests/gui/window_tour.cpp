@@ -8,9 +8,11 @@
 #include "Controls.h"
 #include "MainWindow.h"
 #include "StripView.h"
+#include "ZonesSheet.h"
 
 #include <QApplication>
 #include <QCursor>
+#include <QLineEdit>
 #include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
@@ -27,7 +29,7 @@ using namespace chronomender;
 
 namespace {
 
-constexpr int settleMilliseconds = 400, patienceMilliseconds = 60'000;
+constexpr int settleMilliseconds = 400, movingMilliseconds = 250, patienceMilliseconds = 60'000;
 
 class Tour {
 public:
@@ -42,16 +44,17 @@ public:
             const char *name;
             void (Tour::*show)();
             const char *zone = "Asia/Tokyo"; ///< of the computer
+            bool isMoving = false;           ///< gone in a moment: shown as it is
         } steps[] = {
             {"empty", &Tour::showEmpty},
-            {"importing", &Tour::showImporting},
+            {"importing", &Tour::showImporting, "Europe/Berlin", true},
             {"out-of-order", &Tour::showTrip},
             {"drag", &Tour::showDrag},
             {"alert", &Tour::showAlert, "Europe/Berlin"},
-            {"zones", &Tour::showZones},
-            {"pre-save", &Tour::showPreSave},
-            {"saving", &Tour::showSaving},
-            {"errors", &Tour::showErrors},
+            {"zones", &Tour::showZones, "Europe/Berlin"},
+            {"pre-save", &Tour::showPreSave, "Europe/Berlin"},
+            {"saving", &Tour::showSaving, "Europe/Berlin", true},
+            {"errors", &Tour::showErrors, "Europe/Berlin"},
             {"rename", &Tour::showRename},
             {"preferences", &Tour::showPreferences},
         };
@@ -60,6 +63,7 @@ public:
                 continue;
             openWindow(step.zone);
             (this->*step.show)();
+            QTest::qWait(step.isMoving ? movingMilliseconds : settleMilliseconds);
             keepPicture(step.name);
             closeWindow();
         }
@@ -76,8 +80,7 @@ private:
         services.defaults->setForThisRun("isMVHDTimezoneCorrectionEnabled", "1");
         services.zones->setSystemZone(*services.zones->zoneWithName(zone));
         m_window = std::make_unique<MainWindow>(std::move(services));
-        m_window->setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
-        m_window->show();
+        m_window->showMaximized();
         m_window->session().start();
         QCursor::setPos(0, 0);
         QTest::qWait(settleMilliseconds);
@@ -104,7 +107,6 @@ private:
         waitUntil([this] { return !session().jobs().isRunning(JobKind::Thumbnails); });
     }
     void keepPicture(const char *name) {
-        QTest::qWait(settleMilliseconds);
         const QPixmap picture = QGuiApplication::primaryScreen()->grabWindow(0);
         const std::string path = m_folder + '/' + name + ".png";
         if (picture.isNull() || !picture.save(qString(path)))
@@ -126,9 +128,7 @@ private:
     }
     StripView &strip() { return *m_window->findChild<StripView *>(); }
     QPoint placeOf(const MySinglePicPtr &each) {
-        const auto index = strip().strip()->indexOf(*each);
-        strip().scrollToShow(*index);
-        return strip().placeOf(*index).center();
+        return strip().placeOf(*strip().strip()->indexOf(*each)).center();
     }
 
     void showEmpty() {}
@@ -137,18 +137,17 @@ private:
         waitUntil([this] {
             const auto statuses = session().jobs().statuses();
             return statuses.empty() || (statuses.front().total > 0 &&
-                                        statuses.front().done * 3 > statuses.front().total);
+                                        statuses.front().done * 5 > statuses.front().total);
         });
     }
     void showTrip() {
         open({"canon", "gopro", "phone"});
-        selectPic("PXL_0003");
+        selectPic("PXL_0004");
     }
     void showDrag() {
         showTrip();
-        const QPoint from = placeOf(pic("IMG_4105"));
+        const QPoint from = placeOf(pic("IMG_4103")), to = placeOf(pic("PXL_0004"));
         QTest::mousePress(&strip(), Qt::LeftButton, {}, from);
-        const QPoint to = placeOf(pic("PXL_0003"));
         for (int part = 1; part <= 4; ++part)
             QTest::mouseMove(&strip(), from + (to - from) * part / 4, 30);
         QTest::qWait(settleMilliseconds);
@@ -161,6 +160,8 @@ private:
         open({"nikon", "canon", "phone"});
         selectPic("DSC_0235");
         m_window->run(CommandId::FolderZones);
+        const auto *sheet = m_window->findChild<ZonesSheet *>();
+        QTest::keyClicks(sheet->findChildren<QLineEdit *>().back(), QStringLiteral("japan"));
     }
     void showPreSave() {
         open({"canon", "phone"});
@@ -215,6 +216,7 @@ private:
 
 int main(int argc, char **argv) {
     QApplication application(argc, argv);
+    QApplication::setApplicationDisplayName(QStringLiteral("chronoMender"));
     std::string language = "en";
     bool isDark = false;
     std::vector<std::string> words;

@@ -8,10 +8,8 @@
 #include "WindowSession.h"
 
 #include <QDragEnterEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QPainter>
-#include <QPushButton>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
@@ -82,7 +80,6 @@ FolderPanel::FolderPanel(WindowSession &session, QWidget *parent)
     : QWidget(parent),
       m_session(session),
       m_model(session),
-      m_pages(new QStackedWidget(this)),
       m_list(named(new QListView, "folders_list")),
       m_refresh(refreshDelay, [this] { refresh(); }) {
     setAcceptDrops(true);
@@ -96,38 +93,13 @@ FolderPanel::FolderPanel(WindowSession &session, QWidget *parent)
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_pages->addWidget(makeEmptyPage());
-    m_pages->addWidget(m_list);
     auto *layout = new QVBoxLayout(this);
     const int frame = std::max(2, fontMetrics().height() / 6);
     layout->setContentsMargins(frame, frame, frame, frame);
-    layout->addWidget(m_pages);
+    layout->addWidget(m_list);
     setFocusProxy(m_list);
     connectSession();
     refresh();
-}
-
-QWidget *FolderPanel::makeEmptyPage() {
-    auto *page = new QWidget;
-    auto *title = new QLabel(qText("folders_empty"));
-    QFont font = title->font();
-    font.setPointSizeF(font.pointSizeF() * 1.25);
-    title->setFont(font);
-    auto *hint = new QLabel(qText("folders_emptyHint"));
-    hint->setForegroundRole(QPalette::PlaceholderText);
-    auto *add = named(new QPushButton(qText("folders_add")), "folders_add");
-    connect(add, &QPushButton::clicked, this, &FolderPanel::addWanted);
-    auto *layout = new QVBoxLayout(page);
-    layout->addStretch();
-    for (QLabel *label : {title, hint}) {
-        label->setAlignment(Qt::AlignCenter);
-        label->setWordWrap(true);
-        layout->addWidget(label);
-    }
-    layout->addSpacing(fontMetrics().height());
-    layout->addWidget(add, 0, Qt::AlignHCenter);
-    layout->addStretch();
-    return page;
 }
 
 void FolderPanel::connectSession() {
@@ -146,9 +118,6 @@ void FolderPanel::refresh() {
     m_isShowingSelection = true;
     m_model.refresh();
     m_isShowingSelection = false;
-    m_pages->setCurrentIndex(m_model.rowCount() > 0 ? 1 : 0);
-    setFocusProxy(m_pages->currentIndex() == 1 ? static_cast<QWidget *>(m_list)
-                                               : m_pages->widget(0)->findChild<QPushButton *>());
     showSelection();
 }
 

@@ -5,7 +5,6 @@
 #include "FolderListModel.h"
 
 #include <QListView>
-#include <QStackedWidget>
 #include <QWidget>
 
 #include <string>
@@ -26,8 +25,6 @@ public:
 Q_SIGNALS:
     /// A menu for the selected folders is asked for, by mouse or key.
     void menuWanted(const QPoint &globalPlace);
-    /// The person wants to choose folders to add.
-    void addWanted();
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -36,7 +33,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QWidget *makeEmptyPage();
     void connectSession();
     void refresh();
     void showSelection();
@@ -46,7 +42,6 @@ private:
 
     WindowSession &m_session;
     FolderListModel m_model;
-    QStackedWidget *m_pages = nullptr;
     QListView *m_list = nullptr;
     Coalesced m_refresh;
     bool m_isDropTarget = false;

@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 
 #include <numeric>
 
@@ -26,6 +27,7 @@ JobBar::JobBar(WindowSession &session, QWidget *parent)
       m_words(new QLabel),
       m_jobsLayout(new QHBoxLayout),
       m_counts(countsDelay, [this] { showCounts(); }) {
+    setMinimumHeight(QPushButton().sizeHint().height()); // so that a job's button moves nothing
     m_words->setTextFormat(Qt::PlainText);
     m_words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_jobsLayout->setSpacing(fontMetrics().height());

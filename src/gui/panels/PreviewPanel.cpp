@@ -2,6 +2,8 @@
 #include "PreviewPanel.h"
 
 #include "Controls.h"
+#include "Invitation.h"
+#include "PairPicture.h"
 #include "PanelColors.h"
 #include "PreviewCell.h"
 #include "WindowSession.h"
@@ -19,16 +21,6 @@ constexpr std::array<int, 4> pictureSides{512, 1024, 1536, 2560};
 int sideFor(int pixels) {
     const auto *const found = std::ranges::lower_bound(pictureSides, pixels);
     return found == pictureSides.end() ? pictureSides.back() : *found;
-}
-
-/// Of a pair whose leading file has no picture, that of the other one.
-PreviewAnswer previewOf(const MySinglePicPtr &pic, int side, Previews &previews) {
-    PreviewAnswer answer = previews.preview(pic, side);
-    const MySinglePicPtr &dependent = pic->group.bundleDependentImage;
-    if (answer.state != ThumbState::Unsupported || !dependent)
-        return answer;
-    PreviewAnswer other = previews.preview(dependent, side);
-    return other.state == ThumbState::Unsupported ? answer : other;
 }
 
 /// A thumbnail stands in while the preview is being made.
@@ -56,11 +48,15 @@ PreviewPicture emptyPicture(std::size_t index, bool isAnythingShown) {
 } // namespace
 
 PreviewPanel::PreviewPanel(WindowSession &session, QWidget *parent)
-    : QWidget(parent), m_session(session), m_refresh({}, [this] { refresh(); }) {
+    : QWidget(parent),
+      m_session(session),
+      m_invitation(new Invitation(this)),
+      m_refresh({}, [this] { refresh(); }) {
     for (std::size_t i = 0; i < m_cells.size(); ++i) {
         m_cells[i] = new PreviewCell([this] { return paletteOf(*this, m_session); }, this);
         connect(m_cells[i], &QAbstractButton::clicked, this, [this, i] { select(i); });
     }
+    connect(m_invitation, &Invitation::addWanted, this, &PreviewPanel::addWanted);
     setMinimumSize(fontMetrics().height() * 20, fontMetrics().height() * 10);
     const auto request = [this] { m_refresh.request(); };
     connect(&session, &WindowSession::selectionChanged, this, request);
@@ -87,9 +83,14 @@ void PreviewPanel::placeCells() {
     const std::array<QRectF, 3> places = previewPlaces(size(), font());
     for (std::size_t i = 0; i < m_cells.size(); ++i)
         m_cells[i]->setGeometry(places[i].toRect());
+    m_invitation->setGeometry(rect());
 }
 
 void PreviewPanel::refresh() {
+    const bool isInviting = m_session.folders().empty();
+    m_invitation->setVisible(isInviting);
+    for (PreviewCell *cell : m_cells)
+        cell->setVisible(!isInviting);
     m_facts = neighbourFacts(m_session.timelines().focusedTimeline(), m_session.mainPic(),
                              m_session.zones());
     for (std::size_t i = 0; i < m_cells.size(); ++i) {
@@ -116,7 +117,9 @@ void PreviewPanel::refreshPictures() {
             continue;
         }
         const PreviewAnswer answer =
-            previewOf(fact.pic, sideFor(m_cells[i]->pixelSide()), m_session.previews());
+            pictureOfPair(fact.pic, [&, side = sideFor(m_cells[i]->pixelSide())](const auto &pic) {
+                return m_session.previews().preview(pic, side);
+            });
         m_isAnyPending = m_isAnyPending || answer.state == ThumbState::Pending;
         PreviewPicture picture;
         picture.image = imageOf(answer, fact.pic, m_session.thumbnails());

@@ -10,6 +10,7 @@
 
 namespace chronomender {
 
+class Invitation;
 class PreviewCell;
 class WindowSession;
 
@@ -24,6 +25,8 @@ public:
 Q_SIGNALS:
     /// The main item was clicked.
     void mainActivated();
+    /// The person wants to choose folders to add.
+    void addWanted();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -37,6 +40,7 @@ private:
 
     WindowSession &m_session;
     std::array<PreviewCell *, 3> m_cells{};
+    Invitation *m_invitation = nullptr; ///< shown in their place while there is no folder
     NeighbourFacts m_facts;
     bool m_isAnyPending = false; ///< a thumbnail stands in for a preview
     Coalesced m_refresh;

@@ -4,6 +4,7 @@
 #include "Controls.h"
 #include "DateFields.h"
 #include "QuestionSheet.h"
+#include "RowTexts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -199,9 +200,9 @@ private:
 
 void openImportOptionsSheet(const std::vector<std::string> &paths, WindowSession &session,
                             QWidget *parent, std::function<void(std::optional<KeyStates>)> answer) {
-    const std::string message =
-        paths.size() == 1 ? text("importOptions_messageOne")
-                          : text("importOptions_messageMany", {std::to_string(paths.size())});
+    const std::string message = paths.size() == 1
+                                    ? text("importOptions_messageOne")
+                                    : text("importOptions_messageMany", {numberText(paths.size())});
     auto *sheet = new QuestionSheet(message, text("importOptions_information"), parent);
     const auto fields = std::make_shared<ImportOptionsFields>(sheet, session);
     sheet->addButton("importOptions_accept", QDialogButtonBox::AcceptRole, [=, &session] {

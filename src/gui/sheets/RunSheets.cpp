@@ -5,6 +5,7 @@
 #include "ErrorLog.h"
 #include "ProblemGroups.h"
 #include "QuestionSheet.h"
+#include "RowTexts.h"
 #include "SupportFolders.h"
 #include "WindowCommands.h"
 
@@ -60,7 +61,7 @@ QString withoutHeader(const std::string &errors) {
 }
 
 QTreeWidgetItem *groupItem(QTreeWidget *tree, const std::string &title, std::size_t count) {
-    auto *item = new QTreeWidgetItem(tree, {qString(title + " (" + std::to_string(count) + ')')});
+    auto *item = new QTreeWidgetItem(tree, {qString(title + " (" + numberText(count) + ')')});
     QFont bold = tree->font();
     bold.setBold(true);
     item->setFont(0, bold);
@@ -123,7 +124,7 @@ void openRunErrorsSheet(const SaveRunResult &result, QWidget *parent) {
     auto *sheet = new QuestionSheet(
         text("errorPanelMessageText"),
         (count == 1 ? text("errorPanelInformativeText_front_single")
-                    : text("errorPanelInformativeText_front_multi", {std::to_string(count)})) +
+                    : text("errorPanelInformativeText_front_multi", {numberText(count)})) +
             ' ' +
             text(count == 1 ? "errorPanelInformativeText_back_single"
                             : "errorPanelInformativeText_back_multi"),

@@ -76,7 +76,7 @@ ZonePicker::ZonePicker(const char *nameKey, QWidget *parent)
     header->setSectionResizeMode(ZoneListModel::Offset, QHeaderView::ResizeToContents);
     header->setSectionResizeMode(ZoneListModel::Note, QHeaderView::ResizeToContents);
     const QFontMetrics metrics = fontMetrics();
-    constexpr int fewestRows = 6, characters = 62;
+    constexpr int fewestRows = 6, characters = 78;
     m_list->setMinimumHeight(fewestRows * (metrics.height() + metrics.leading() + 4));
     setMinimumWidth(characters * metrics.averageCharWidth());
     auto *layout = new QVBoxLayout(this);

@@ -2,6 +2,7 @@
 #include "ZonesSheet.h"
 
 #include "Controls.h"
+#include "RowTexts.h"
 #include "ZoneList.h"
 
 #include <QButtonGroup>
@@ -33,9 +34,9 @@ std::string titleOf(const ZoneSubject &subject) {
     const std::size_t count = subject.isOfItems() ? subject.items.size() : subject.folders.size();
     if (subject.isOfItems())
         return count == 1 ? text("zones_forItem", {subject.items.front()->spName})
-                          : text("zones_forItems", {std::to_string(count)});
+                          : text("zones_forItems", {numberText(count)});
     return count == 1 ? text("zones_forFolder", {subject.folders.front()->sfFolder})
-                      : text("zones_forFolders", {std::to_string(count)});
+                      : text("zones_forFolders", {numberText(count)});
 }
 
 QLabel *plainLabel(const QString &words, QWidget *parent) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "PairPicture.h"
 #include "StripDrag.h"
 #include "StripMetrics.h"
 
@@ -13,7 +14,9 @@ namespace chronomender {
 struct StripShared {
     explicit StripShared(WindowSession &theSession) : session(theSession) {
         thumbnail = [&theSession](const MySinglePicPtr &pic, ThumbSide side) {
-            return theSession.thumbnails().spThumb(pic, side);
+            return pictureOfPair(pic, [&](const MySinglePicPtr &each) {
+                return theSession.thumbnails().spThumb(each, side);
+            });
         };
     }
 
