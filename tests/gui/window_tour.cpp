@@ -176,10 +176,10 @@ private:
     void showSaving() {
         session().openPaths({m_many});
         waitUntil([this] { return !session().jobs().isRunning(JobKind::Import); });
-        CompoundFields seconds;
-        seconds.dmSeconds = "20";
+        CompoundFields minutes;
+        minutes.dmMinutes = "5";
         session().selectFolders({session().folders().front()});
-        session().shiftSelectedFolders(seconds);
+        session().shiftSelectedFolders(minutes);
         m_window->run(CommandId::SaveAll);
         waitUntil([this] {
             const auto statuses = session().jobs().statuses();
