@@ -91,7 +91,7 @@ TEST(TextsTest, LoadsTheChosenLanguageAndFillsInArguments) {
               "Vor dem Speichern wurden 7 Probleme gefunden.");
     loadTexts("en");
     EXPECT_EQ(text("errorPanelInformativeText_front_multi", {"%1%2"}),
-              "There were problems with %1%2 files:")
+              "There were problems with %1%2 files.")
         << "what an argument holds is never taken for a place";
     EXPECT_EQ(text("no such key, %1 and %2", {"one"}), "no such key, one and %2");
 }

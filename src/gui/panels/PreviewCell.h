@@ -11,6 +11,7 @@ namespace chronomender {
 
 /// One shot of the preview, drawn by its painter; it can be clicked. Main thread.
 class PreviewCell : public QAbstractButton {
+    Q_OBJECT
 public:
     /// `palette` is asked at each drawing.
     PreviewCell(std::function<PaintPalette()> palette, QWidget *parent);
