@@ -39,9 +39,8 @@ bool SaveFlow::start(SaveRequest request, std::optional<RenameChoices> choices) 
     m_controller.setRenameChoices(m_choices);
     m_job = beginJob(JobKind::Check, "workPanelPreSave");
     setStage(Stage::Checking);
-    m_controller.startPreProcess(
-        m_request, [job = m_job](std::size_t done, std::size_t total) { job->report(done, total); },
-        [this](PreProcessResult found) { checked(std::move(found)); });
+    m_controller.startPreProcess(m_request, reporter(m_job),
+                                 [this](PreProcessResult found) { checked(std::move(found)); });
     return true;
 }
 

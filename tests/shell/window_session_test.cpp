@@ -168,6 +168,7 @@ TEST_F(WindowSessionTest, SavesAfterTheQuestionAndNotWithoutTheAnswer) {
     EXPECT_EQ(little::fileContent(path), before);
     EXPECT_TRUE(session().hasUnsavedChanges());
     EXPECT_EQ(m_status, text("status_nothingWritten"));
+    EXPECT_FALSE(session().jobs().isAnyRunning());
 
     questions().acceptsProblems = true;
     session().save(true);
