@@ -88,7 +88,9 @@ std::string_view sourceSlotName(SpType type) {
 std::vector<SlotRow> slotsOf(const MySinglePic &pic, const MySingleFolder &folder,
                              const NewDateContext &liveContext, const Zones &zones) {
     const auto copy = std::make_shared<MySinglePic>(pic);
-    calculateNewDates(*copy, liveContext);
+    NewDateContext context = liveContext;
+    context.isSavingInProgress = false; // what a save calculates, it keeps in a copy of its own
+    calculateNewDates(*copy, context);
     std::vector<SlotRow> rows;
     const char *kind = pic.isMovie() ? "slot_movie_" : "slot_";
     for (const SlotView &view : slotViews(*copy, folder, zones)) {

@@ -100,7 +100,8 @@ ZoneRows::ZoneRows(const Zones &zones, Date at) : m_zones(&zones), m_at(at) {
                           country != nullptr || name == "UTC"};
         all.emplace_back(std::move(row), std::move(searched));
     }
-    std::ranges::stable_partition(all, [](const auto &each) { return each.second.isCurrent; });
+    std::stable_partition(all.begin(), all.end(),
+                          [](const auto &each) { return each.second.isCurrent; });
     for (auto &[row, searched] : all) {
         m_rows.push_back(std::move(row));
         m_searched.push_back(std::move(searched));

@@ -59,6 +59,7 @@ std::vector<std::uint32_t> PictureWorkers::takeBack() {
         tasks.swap(m_tasks);
     }
     std::vector<std::uint32_t> ids;
+    ids.reserve(tasks.size());
     for (const Task &task : tasks)
         ids.push_back(task.sessionUniqueId);
     return ids;

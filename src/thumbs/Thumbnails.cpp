@@ -193,7 +193,7 @@ QSize Thumbnails::validatedThumbSize(const MySinglePicPtr &pic) const {
     return entry ? entry->largestThumbSize : kSizeOfSuppressed;
 }
 
-void Thumbnails::setOnScreen(std::vector<MySinglePicPtr> pics) {
+void Thumbnails::setOnScreen(const std::vector<MySinglePicPtr> &pics) {
     std::vector<std::uint32_t> ids;
     bool isNews = false;
     for (const MySinglePicPtr &pic : pics) {

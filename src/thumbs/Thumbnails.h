@@ -62,7 +62,7 @@ public:
     QSize validatedThumbSize(const MySinglePicPtr &pic) const;
 
     /// What is on screen now, most wanted first: made before everything else.
-    void setOnScreen(std::vector<MySinglePicPtr> pics);
+    void setOnScreen(const std::vector<MySinglePicPtr> &pics);
     /// Items whose thumbnails are made when nothing on screen waits.
     void addImagesWithoutThumb(const std::vector<MySinglePicPtr> &pics);
     /// The file is another one now: its thumbnail is made again.

@@ -8,6 +8,7 @@
 #include "NeighbourFacts.h"
 #include "ShiftFacts.h"
 #include "SourceViews.h"
+#include "Texts.h"
 #include "ZoneLookup.h"
 
 #include <gmock/gmock.h>
@@ -200,6 +201,7 @@ TEST_F(PanelRows, aQuickFilterIsFoundAgain) {
 }
 
 TEST(JobRows, tellWhatIsKnown) {
+    loadTexts("en");
     JobStatus status{JobKind::Import, "Reading canon", 120, 400, 35.4, absl::Seconds(8)};
     EXPECT_EQ(progressText(status), "120 of 400 · 35 per second · 8 s left");
     status.perSecond = 1.26;

@@ -15,6 +15,7 @@ std::vector<FolderRow>
 FolderListModel::rowsOf(const std::vector<MySingleFolderPtr> &folders) const {
     const FilterContext context = filterContext(m_session.zones(), m_session.defaults());
     std::vector<FolderRow> rows;
+    rows.reserve(folders.size());
     for (const MySingleFolderPtr &folder : folders)
         rows.push_back(folderRow(*folder, context, m_session.isBeingRead(*folder)));
     return rows;

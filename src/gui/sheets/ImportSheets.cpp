@@ -50,7 +50,7 @@ void keep(UserDefaults &defaults, std::string_view key, bool value) {
 } // namespace
 
 void openEmptyTagsSheet(const MySingleFolderPtr &folder, WindowSession &session, QWidget *parent,
-                        std::function<void(PerFolderImportOptions)> answer) {
+                        const std::function<void(PerFolderImportOptions)> &answer) {
     auto *sheet =
         new QuestionSheet(text("emptyTags_message", {folder ? folder->sfFolder : std::string()}),
                           text("emptyTags_information"), parent);
@@ -84,7 +84,7 @@ void openEmptyTagsSheet(const MySingleFolderPtr &folder, WindowSession &session,
 }
 
 void openMovieOptionsSheet(const MySingleFolderPtr &folder, WindowSession &session, QWidget *parent,
-                           std::function<void(MovieOptions)> answer) {
+                           const std::function<void(MovieOptions)> &answer) {
     UserDefaults &defaults = session.defaults();
     const MovieOptions stored{defaults.boolForKey("isMDTADateEnabled"),
                               defaults.boolForKey("isMVHDTimezoneCorrectionEnabled")};
@@ -199,7 +199,8 @@ private:
 } // namespace
 
 void openImportOptionsSheet(const std::vector<std::string> &paths, WindowSession &session,
-                            QWidget *parent, std::function<void(std::optional<KeyStates>)> answer) {
+                            QWidget *parent,
+                            const std::function<void(std::optional<KeyStates>)> &answer) {
     const std::string message = paths.size() == 1
                                     ? text("importOptions_messageOne")
                                     : text("importOptions_messageMany", {numberText(paths.size())});

@@ -17,12 +17,13 @@ namespace chronomender {
 /// How the empty date tags of a folder's files are to be read. Closed without an answer, the files
 /// are left alone.
 void openEmptyTagsSheet(const MySingleFolderPtr &folder, WindowSession &session, QWidget *parent,
-                        std::function<void(PerFolderImportOptions)> answer);
+                        const std::function<void(PerFolderImportOptions)> &answer);
 /// Which clock the movies of a folder tell. Closed without an answer, the preferences hold.
 void openMovieOptionsSheet(const MySingleFolderPtr &folder, WindowSession &session, QWidget *parent,
-                           std::function<void(MovieOptions)> answer);
+                           const std::function<void(MovieOptions)> &answer);
 /// The choices of one import; none when it is not wanted.
 void openImportOptionsSheet(const std::vector<std::string> &paths, WindowSession &session,
-                            QWidget *parent, std::function<void(std::optional<KeyStates>)> answer);
+                            QWidget *parent,
+                            const std::function<void(std::optional<KeyStates>)> &answer);
 
 } // namespace chronomender

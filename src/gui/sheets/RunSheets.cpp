@@ -92,7 +92,7 @@ void addProblems(const std::vector<ProblemGroup> &groups, QTreeWidget *tree, QLa
 } // namespace
 
 void openPreSaveSheet(const PreProcessResult &found, bool renames, QWidget *parent,
-                      std::function<void(PreSaveAnswer)> answer) {
+                      const std::function<void(PreSaveAnswer)> &answer) {
     const std::vector<ProblemGroup> groups = groupedProblems(found.problems);
     auto *sheet =
         new QuestionSheet(problemHeader(groups), text("preSaveSummary_header_subline"), parent);

@@ -20,7 +20,7 @@ enum class PreSaveAnswer : std::uint8_t {
 };
 /// The problems that were found before anything was written, and what is to become of them.
 void openPreSaveSheet(const PreProcessResult &found, bool renames, QWidget *parent,
-                      std::function<void(PreSaveAnswer)> answer);
+                      const std::function<void(PreSaveAnswer)> &answer);
 /// What a run could not do, by reason, with the files.
 void openRunErrorsSheet(const SaveRunResult &result, QWidget *parent);
 /// Lines to be read, selected and copied.

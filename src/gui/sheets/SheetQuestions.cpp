@@ -10,23 +10,21 @@
 
 #include <QPushButton>
 
-#include <utility>
-
 namespace chronomender {
 
 void SheetQuestions::emptyTagOptions(const MySingleFolderPtr &folder,
                                      std::function<void(PerFolderImportOptions)> answer) {
-    openEmptyTagsSheet(folder, *m_session, m_window, std::move(answer));
+    openEmptyTagsSheet(folder, *m_session, m_window, answer);
 }
 
 void SheetQuestions::movieOptions(const MySingleFolderPtr &folder,
                                   std::function<void(MovieOptions)> answer) {
-    openMovieOptionsSheet(folder, *m_session, m_window, std::move(answer));
+    openMovieOptionsSheet(folder, *m_session, m_window, answer);
 }
 
 void SheetQuestions::importOptions(const std::vector<std::string> &paths,
                                    std::function<void(std::optional<KeyStates>)> answer) {
-    openImportOptionsSheet(paths, *m_session, m_window, std::move(answer));
+    openImportOptionsSheet(paths, *m_session, m_window, answer);
 }
 
 /// Keeping each stamp's offset is a correction of its own, undoable; the save then looks again.
@@ -38,7 +36,7 @@ void SheetQuestions::preSaveProblems(const PreProcessResult &found,
         session->saveFlow().startAgain();
     };
     openPreSaveSheet(found, m_session->saveFlow().renames(), m_window,
-                     [answer = std::move(answer), keepZones](PreSaveAnswer given) {
+                     [answer, keepZones](PreSaveAnswer given) {
                          answer(given == PreSaveAnswer::Save);
                          if (given == PreSaveAnswer::KeepZones)
                              keepZones();

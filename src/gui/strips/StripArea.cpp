@@ -148,9 +148,10 @@ void StripArea::tellOnScreen() {
     }
     std::ranges::stable_sort(wanted, {}, &Wanted::distance);
     std::vector<MySinglePicPtr> pics;
+    pics.reserve(wanted.size());
     for (Wanted &each : wanted)
         pics.push_back(std::move(each.pic));
-    m_shared.session.thumbnails().setOnScreen(std::move(pics));
+    m_shared.session.thumbnails().setOnScreen(pics);
 }
 
 } // namespace chronomender
