@@ -72,7 +72,10 @@ MainWindow::MainWindow(AppServices services)
     refresh();
 }
 
-MainWindow::~MainWindow() = default;
+/// Panels and sheets look at the session until their end, so they go first.
+MainWindow::~MainWindow() {
+    qDeleteAll(findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly));
+}
 
 void MainWindow::layOut() {
     WindowSession &session = *m_session;

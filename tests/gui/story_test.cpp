@@ -340,6 +340,16 @@ TEST_F(Story, ClosingAsksForWhatIsNotSaved) {
     EXPECT_FALSE(m_window->isVisible());
 }
 
+TEST_F(Story, TheWindowMayGoInTheMiddleOfEverything) {
+    session().openPaths({m_disk.path("phone"), m_disk.path("canon")});
+    waitForReading(2);
+    m_window->run(CommandId::MoveWithArrows);
+    ASSERT_TRUE(strip().isDragging());
+    QTest::keyClick(&strip(), Qt::Key_Left);
+    session().openPaths({m_disk.path("nikon")});
+    m_window.reset(); // with a drag, a reading and thumbnails under way
+}
+
 /// No control without a name, no command without keys.
 TEST_F(Story, EveryControlHasANameAndEveryActionKeys) {
     const auto expectNames = [](const QWidget *root) {
