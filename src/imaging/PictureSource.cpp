@@ -4,6 +4,7 @@
 #include "HeifPicture.h"
 #include "JpegPicture.h"
 #include "MoviePicture.h"
+#include "NameParts.h"
 #include "PictureFile.h"
 #include "QtPicture.h"
 #include "RawPicture.h"
@@ -14,12 +15,6 @@
 namespace chronomender {
 
 namespace {
-
-std::string_view extensionOf(std::string_view path) {
-    const std::string_view name = path.substr(path.find_last_of('/') + 1);
-    const std::size_t dot = name.find_last_of('.');
-    return dot == std::string_view::npos ? std::string_view() : name.substr(dot + 1);
-}
 
 using Decode = UprightPicture (*)(PictureFile &, const PictureWish &);
 
@@ -59,7 +54,8 @@ constexpr Decoder kDecoders[]{
 
 /// The name only says what is tried first where the first bytes say nothing.
 FileFormatType formatOf(PictureFile &file) {
-    const std::string_view extension = extensionOf(file.path());
+    const std::string_view path = file.path();
+    const std::string_view extension = extensionOfName(path.substr(path.find_last_of('/') + 1));
     const bool isMovieByName = isMovieFormat(fileFormatTypeForExtension(extension));
     return fileFormatTypeForContent(file.firstBytes(), extension)
         .value_or(isMovieByName ? FileFormatOtherMovie : FileFormatNone);
