@@ -1654,6 +1654,9 @@ Beispiele:
     <message id="command_onlyTheseFolders">
         <translation>&amp;Nur diese Ordner zeigen</translation>
     </message>
+    <message id="command_openItem">
+        <translation>In anderem Programm &amp;öffnen</translation>
+    </message>
     <message id="command_otherStrip">
         <translation>Zur &amp;anderen Zeitleiste</translation>
     </message>
@@ -2108,7 +2111,7 @@ Beispiele:
         <translation>Neue Vorlage</translation>
     </message>
     <message id="rename_frontDots">
-        <translation>&amp;Punkte am Anfang</translation>
+        <translation>&amp;Punkte am Namensanfang</translation>
     </message>
     <message id="rename_keepAddOn">
         <translation>Texte behalten, die Dateien schon haben</translation>
@@ -2459,7 +2462,7 @@ Beispiele:
         <translation>Ordner</translation>
     </message>
     <message id="folders_missing">
-        <translation>nicht gefunden</translation>
+        <translation>nicht erreichbar</translation>
     </message>
     <message id="folders_movieClockLocal">
         <translation>Filme in Kamerazeit</translation>

@@ -1654,6 +1654,9 @@ Examples:
     <message id="command_onlyTheseFolders">
         <translation>Show &amp;Only These Folders</translation>
     </message>
+    <message id="command_openItem">
+        <translation>&amp;Open in Another Program</translation>
+    </message>
     <message id="command_otherStrip">
         <translation>Go to the O&amp;ther Timeline</translation>
     </message>
@@ -2108,7 +2111,7 @@ Examples:
         <translation>New Template</translation>
     </message>
     <message id="rename_frontDots">
-        <translation>&amp;Dots in front</translation>
+        <translation>&amp;Dots at the start of names</translation>
     </message>
     <message id="rename_keepAddOn">
         <translation>Keep the texts that files have already</translation>
@@ -2459,7 +2462,7 @@ Examples:
         <translation>Folders</translation>
     </message>
     <message id="folders_missing">
-        <translation>not found</translation>
+        <translation>cannot be reached</translation>
     </message>
     <message id="folders_movieClockLocal">
         <translation>movies in camera time</translation>

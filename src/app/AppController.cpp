@@ -110,10 +110,7 @@ std::unique_ptr<DateDrag> AppController::beginDateDrag(const MySinglePicPtr &dra
 }
 
 DateChangeOutcome AppController::commitDateDrag(DateDrag &drag) {
-    const DateChangeOutcome outcome = drag.commit(m_undo);
-    if (outcome == DateChangeOutcome::Done)
-        m_source->buildNewSourceWithNewSelectionOption(NewSelection::Keep, Refilter::FullBuild);
-    return outcome;
+    return drag.commit(m_undo);
 }
 
 DateChangeOutcome AppController::dropByOrder(const DropByOrder &drop) {

@@ -119,7 +119,7 @@ public:
     Marking &marking() { return m_marking; }
     /// Starts the drag of a thumbnail; see DateDrag.
     std::unique_ptr<DateDrag> beginDateDrag(const MySinglePicPtr &dragged, TimelineStrip &strip);
-    /// Ends it, with its dates, and builds the list again.
+    /// Ends it, with its dates. The list is to be built again.
     DateChangeOutcome commitDateDrag(DateDrag &drag);
 
     /// Gives items dates by those of others; see chronomender::dropByOrder. The list is to be built

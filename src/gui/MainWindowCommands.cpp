@@ -16,8 +16,10 @@
 #include "ZonesSheet.h"
 
 #include <QAction>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QMenu>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -31,20 +33,17 @@ using enum CommandId;
 const std::vector<CommandId> folderMenu{
     FolderZones,   ResetShift,        TogetherMode,     SingleMode,    MovieClock,   Save,
     RenameCurrent, SelectFolderItems, OnlyTheseFolders, FolderToShelf, RemoveFolders};
-const std::vector<CommandId> itemMenu{MoveWithArrows,
-                                      ItemZones,
-                                      EarlierReading,
-                                      AddMissingTags,
-                                      Keeper,
-                                      Rejected,
-                                      NoMark,
-                                      ToShelf,
-                                      FromShelf,
-                                      AlignSelected,
-                                      AlignMinimizingGaps,
-                                      AlignFilename,
-                                      AlignReversing,
-                                      AlignReversingAlt};
+const std::vector<CommandId> itemMenu{MoveWithArrows, ItemZones,      EarlierReading,
+                                      AddMissingTags, OpenItem,       Keeper,
+                                      Rejected,       NoMark,         ToShelf,
+                                      FromShelf,      AlignSelected,  AlignMinimizingGaps,
+                                      AlignFilename,  AlignReversing, AlignReversingAlt};
+
+/// In the one that the desktop keeps for such files.
+void openInAnotherProgram(const MySinglePicPtr &pic) {
+    if (pic)
+        QDesktopServices::openUrl(QUrl::fromLocalFile(qString(pic->spPath())));
+}
 
 } // namespace
 
@@ -63,7 +62,9 @@ void MainWindow::connectMenus() {
     };
     connect(m_folders, &FolderPanel::menuWanted, this, menuOf(folderMenu));
     connect(m_preview, &PreviewPanel::addWanted, this, [this] { run(AddFolders); });
+    connect(m_preview, &PreviewPanel::mainActivated, this, [this] { run(OpenItem); });
     connect(m_strips, &StripArea::menuWanted, this, menuOf(itemMenu));
+    connect(m_strips, &StripArea::activated, this, [this] { run(OpenItem); });
     connect(m_inspector, &InspectorPanel::zonesWanted, this, [this] { run(ItemZones); });
     connect(m_inspector, &InspectorPanel::errorsWanted, this, [this] { run(CommandId::ErrorLog); });
 }
@@ -85,6 +86,7 @@ void MainWindow::runInWindow(CommandId id) {
         {Quit, [](auto &window) { window.close(); }},
         {Find, [](auto &window) { window.m_filter->focusWords(); }},
         {MoveWithArrows, [](auto &window) { window.m_strips->beginMoveWithArrows(); }},
+        {OpenItem, [](auto &window) { openInAnotherProgram(window.m_session->mainPic()); }},
         {ItemZones, [](auto &window) { window.openZones(true); }},
         {FolderZones, [](auto &window) { window.openZones(false); }},
         {AlignSelected, [](auto &window) { (new AlignSheet(*window.m_session, &window))->open(); }},

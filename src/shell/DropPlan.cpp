@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -48,7 +49,7 @@ public:
     void add(const std::string &path) {
         struct stat status = {};
         if (::stat(path.c_str(), &status) != 0)
-            refuse(path, DropRefusal::NotFound);
+            refuse(path, errno == EACCES ? DropRefusal::NoAccess : DropRefusal::NotFound);
         else if (S_ISDIR(status.st_mode))
             addFolder(path);
         else if (const auto refusal = refusalOfFile(path))

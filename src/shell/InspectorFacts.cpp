@@ -59,12 +59,16 @@ std::string zonesOf(const MySinglePic &pic, const MySingleFolder &folder, const 
                  targetTimeZoneForPic(pic, folder, zones).name);
 }
 
+absl::Duration wayOf(const NewDateContext &liveContext) {
+    return liveContext.drag ? liveContext.drag->tempMoveDateByDuringLiveMod : absl::ZeroDuration();
+}
+
 std::vector<FactRow> factsOf(const MySinglePic &pic, const MySingleFolder &folder,
-                             const Zones &zones) {
+                             const NewDateContext &liveContext, const Zones &zones) {
     Facts facts;
     facts.add("inspector_dateFrom", sourceText(pic));
     facts.add("inspector_zones", zonesOf(pic, folder, zones));
-    facts.add("inspector_shift", shiftText(pic.presentShift()));
+    facts.add("inspector_shift", shiftText(pic.presentShift() + wayOf(liveContext)));
     facts.add("inspector_camera", pic.camera.pivMakeModel);
     facts.add("inspector_lens", pic.camera.lens);
     facts.add("inspector_size", sizeText(pic));
@@ -108,7 +112,7 @@ std::vector<SlotRow> slotsOf(const MySinglePic &pic, const MySingleFolder &folde
 
 FileFacts fileFacts(const MySinglePic &pic, const MySingleFolder &folder,
                     const NewDateContext &liveContext, const Zones &zones) {
-    return {{}, factsOf(pic, folder, zones), slotsOf(pic, folder, liveContext, zones)};
+    return {{}, factsOf(pic, folder, liveContext, zones), slotsOf(pic, folder, liveContext, zones)};
 }
 
 std::vector<RowNote> notesOf(const MySinglePic &pic) {
@@ -128,7 +132,8 @@ InspectorFacts ofOne(const MySinglePic &pic, const MySingleFolder &folder,
     facts.title = nameWithCompanions(pic);
     facts.folder = folder.sfFolder;
     facts.colorIndex = folder.colorIndex;
-    facts.date = dayAndTimeText(pic.spDateTimeModified(), displayZone(pic, folder, context.zones));
+    facts.date = dayAndTimeText(shifted(pic.spDateTimeModified(), wayOf(liveContext)),
+                                displayZone(pic, folder, context.zones));
     facts.notes = notesOf(pic);
     facts.alerts = alertRows(pic, context);
     facts.files.push_back(fileFacts(pic, folder, liveContext, context.zones));

@@ -49,8 +49,9 @@ struct InspectorFacts {
     bool operator==(const InspectorFacts &) const = default;
 };
 
-/// Everything about one item, or what several share. New dates are calculated on copies. Main
-/// thread; of several items one pass over what they remember.
+/// Everything about one item, or what several share. New dates are calculated on copies; those of
+/// one item follow the drag of the context. Main thread; of several items one pass over what they
+/// remember.
 InspectorFacts inspectorFacts(const std::vector<MySinglePicPtr> &pics,
                               const NewDateContext &liveContext, const FilterContext &context);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "DateDrag.h"
 #include "MySingleFolder.h"
 #include "TimelineStrip.h"
 #include "Zones.h"
@@ -26,9 +27,9 @@ struct NeighbourFact {
     std::string words() const;
 };
 
-/// By the strip that shows the main item; all empty without one.
+/// By the strip that shows the main item, as it shows it during a `drag`; all empty without one.
 using NeighbourFacts = std::array<NeighbourFact, 3>;
 NeighbourFacts neighbourFacts(const TimelineStrip &strip, const MySinglePicPtr &mainPic,
-                              const Zones &zones);
+                              const Zones &zones, const DateDrag *drag = nullptr);
 
 } // namespace chronomender

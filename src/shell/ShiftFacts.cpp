@@ -49,10 +49,17 @@ DateModificationFields ownFieldsOf(const MySinglePic &pic) {
     return fieldsFromTimeInterval(pic.shift.singlePicModification, false);
 }
 
-void takeFolders(ShiftFacts &facts, const MyCompoundFolder &folders) {
+DateModificationFields fieldsOf(const MySingleFolder &folder, const DateDrag *drag) {
+    if (!drag || drag->folder().get() != &folder)
+        return folder.sfDateModifications;
+    return fieldsFromTimeInterval(
+        folder.sfDateModificationsTimeInterval + drag->tempMoveDateByDuringLiveMod(), false);
+}
+
+void takeFolders(ShiftFacts &facts, const MyCompoundFolder &folders, const DateDrag *drag) {
     SharedFields shared;
     for (const MySingleFolderPtr &folder : folders.folders())
-        shared.add(folder->sfDateModifications);
+        shared.add(fieldsOf(*folder, drag));
     facts.fields = shared.fields();
 }
 
@@ -71,13 +78,15 @@ void takeItems(ShiftFacts &facts, const std::vector<MySinglePicPtr> &items) {
 }
 
 /// What a shift does is seen best at one item: the first one that has a date.
-std::string hintOf(const MySinglePic &pic, const Zones &zones) {
+std::string hintOf(const MySinglePic &pic, const Zones &zones, const DateDrag *drag) {
     const MySingleFolderPtr folder = pic.spSingleRealFolder();
     if (!folder || !isMovable(pic) || isMarker(pic.spDateTimeOriginal))
         return {};
     const absl::TimeZone zone = displayZone(pic, *folder, zones);
     const std::string before = dayAndTimeText(pic.spDateTimeOriginal, zone);
-    const std::string after = dayAndTimeText(pic.spDateTimeModified(), zone);
+    const Date held = pic.spDateTimeModified();
+    const OptionalDate dragged = drag ? draggedDate(pic, drag->liveDragOf(pic)) : std::nullopt;
+    const std::string after = dayAndTimeText(dragged.value_or(held), zone);
     return before == after ? text("shift_hintUnchanged", {pic.spName, before})
                            : text("shift_hint", {pic.spName, before, after});
 }
@@ -98,9 +107,7 @@ const MySinglePic *firstOfFolders(const MyCompoundFolder &folders) {
 
 /// Text key of why nothing can be shifted; null where something can.
 const char *obstacle(const ShiftFacts &facts, const MyCompoundFolder &folders,
-                     const std::vector<MySinglePicPtr> &items, bool isSaving) {
-    if (isSaving)
-        return "shift_saving";
+                     const std::vector<MySinglePicPtr> &items) {
     if (folders.folders().empty())
         return "shift_noFolder";
     if (facts.mode.isMixed())
@@ -117,23 +124,27 @@ const char *obstacle(const ShiftFacts &facts, const MyCompoundFolder &folders,
 } // namespace
 
 ShiftFacts shiftFacts(const MyCompoundFolder &folders, const std::vector<MySinglePicPtr> &items,
-                      bool isSaving, const Zones &zones) {
+                      bool isSaving, const Zones &zones, const DateDrag *drag) {
     ShiftFacts facts;
     facts.mode = folders.sfEditMode();
-    if (const char *key = obstacle(facts, folders, items, isSaving)) {
+    if (const char *key = obstacle(facts, folders, items)) {
         facts.reason = text(key);
         return facts;
     }
     const bool isTogether = facts.mode.value == EditMode::Together;
     facts.target = isTogether ? ShiftFacts::Target::Folders : ShiftFacts::Target::Items;
     if (isTogether)
-        takeFolders(facts, folders);
+        takeFolders(facts, folders, drag);
     else
         takeItems(facts, items);
     facts.isShifted = isTogether ? folders.isTogetherDateUIModified() : folders.isDateModified();
     const MySinglePic *selected = firstMovable(items);
     const MySinglePic *shown = selected ? selected : firstOfFolders(folders);
-    facts.hint = shown ? hintOf(*shown, zones) : std::string();
+    facts.hint = shown ? hintOf(*shown, zones, drag) : std::string();
+    if (isSaving) {
+        facts.target = ShiftFacts::Target::Nothing;
+        facts.reason = text("shift_saving");
+    }
     return facts;
 }
 

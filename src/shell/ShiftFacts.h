@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "DateDrag.h"
 #include "DateModifications.h"
 #include "FolderDrag.h"
 #include "MyCompoundFolder.h"
@@ -26,10 +27,10 @@ struct ShiftFacts {
     std::string hint;       ///< what becomes of the first item's date
 };
 
-/// `isSaving`: nothing can be changed now. `items` are the selected ones in display order. Main
-/// thread.
+/// `isSaving`: nothing can be changed now, but seen. `items` are the selected ones in display
+/// order. What a `drag` would make of them is told as if it were done. Main thread.
 ShiftFacts shiftFacts(const MyCompoundFolder &folders, const std::vector<MySinglePicPtr> &items,
-                      bool isSaving, const Zones &zones);
+                      bool isSaving, const Zones &zones, const DateDrag *drag = nullptr);
 
 /// The fields of a shift as a person edits them, in the order of the screen.
 inline constexpr std::array<std::optional<std::string> CompoundFields::*, 5> shiftFields{

@@ -57,6 +57,7 @@ constexpr WindowCommand commands[] = {
     {PreviousKeeper, Items, "command_previousKeeper", "Alt+Shift+K", NeedsItems},
     {ToShelf, Items, "command_toShelf", "Ctrl+H", NeedsSelection, Lines::below},
     {FromShelf, Items, "command_fromShelf", "Ctrl+Shift+H", NeedsSelection | NeedsSecondStrip},
+    {OpenItem, Items, "command_openItem", "Ctrl+Return", NeedsSelection, Lines::below},
 
     {AlignSelected, Align, "command_alignSelected", "Ctrl+K", change},
     {AlignMatchingGaps, Align, "alignByMatchingGaps", "Ctrl+1", several, Lines::below},

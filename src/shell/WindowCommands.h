@@ -42,6 +42,7 @@ enum class CommandId : std::uint8_t {
     PreviousKeeper,
     ToShelf,
     FromShelf,
+    OpenItem,
     AlignSelected,
     AlignMatchingGaps,
     AlignMinimizingGaps,

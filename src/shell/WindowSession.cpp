@@ -209,6 +209,11 @@ void WindowSession::tellOutcome(DateChangeOutcome outcome) {
         tell(text("status_outOfBounds"));
 }
 
+void WindowSession::setDateDrag(const DateDrag *drag) {
+    m_dateDrag = drag;
+    Q_EMIT dateDragMoved();
+}
+
 void WindowSession::undo() {
     if (isChangeRefused(folders()))
         return;

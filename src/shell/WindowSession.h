@@ -95,6 +95,11 @@ public:
     /// The selected folders show their original dates again, in their mode.
     void resetShift();
 
+    /// The drag under way, for all that tells of the dates that it would give; null for none.
+    const DateDrag *dateDrag() const { return m_dateDrag; }
+    /// By who leads it: at its start, with each step, and null before it is gone.
+    void setDateDrag(const DateDrag *drag);
+
     // ---- save and rename
     bool hasUnsavedChanges() const;
     /// The selected folders, or all.
@@ -114,6 +119,7 @@ Q_SIGNALS:
     void thumbsChanged();
     void previewsChanged();
     void undoChanged();
+    void dateDragMoved(); ///< it would give other dates now, or has ended
     /// The system's zone changed: whoever holds a drag gives it up before dates move.
     void dateChangeAborted();
     void statusTold(const QString &words);
@@ -157,6 +163,7 @@ private:
     /// Folders that are being read, each with the one whose reading found it.
     std::unordered_map<const MySingleFolder *, const MySingleFolder *> m_reading;
     std::size_t m_runningReads = 0;
+    const DateDrag *m_dateDrag = nullptr;
     std::vector<std::string> m_readingNotes; ///< told when the last reading has ended
     std::shared_ptr<Job> m_thumbnailsJob;
     std::unique_ptr<AppController> m_controller;

@@ -171,6 +171,15 @@ Date DateDrag::tempTimeDuringLiveMod(const MySinglePic &pic) const {
     return m_state->date(master ? *master : pic);
 }
 
+LiveDrag DateDrag::liveDragOf(const MySinglePic &pic) const {
+    const Date date = tempTimeDuringLiveMod(pic);
+    return {date, isMarker(date) ? absl::ZeroDuration() : date - pic.spDateTimeModified_sort()};
+}
+
+MySingleFolderPtr DateDrag::folder() const {
+    return m_state ? m_state->folder : nullptr;
+}
+
 bool DateDrag::isMoving(const MySinglePicPtr &pic) const {
     return m_state && m_state->moves(pic);
 }

@@ -4,6 +4,7 @@
 #include "DragTarget.h"
 #include "FolderDrag.h"
 #include "MyTimelinesController.h"
+#include "NewDates.h"
 
 #include <memory>
 #include <optional>
@@ -44,6 +45,10 @@ public:
     void moveTo(DragTarget target);
     /// The date that the item shows during the drag.
     Date tempTimeDuringLiveMod(const MySinglePic &pic) const;
+    /// The same for a date calculation: where the item would stand, and by which way.
+    LiveDrag liveDragOf(const MySinglePic &pic) const;
+    /// The folder that moves as a whole; null where items move by themselves.
+    MySingleFolderPtr folder() const;
     /// The drag moves this item, be it with its folder. False once the drag has ended.
     bool isMoving(const MySinglePicPtr &pic) const;
     /// The main item's way in time so far.

@@ -1,8 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StripArea.h"
 
+#include "InspectorFacts.h"
 #include "LittleTimelines.h"
 #include "LittleWindow.h"
+#include "NeighbourFacts.h"
+#include "ShiftFacts.h"
+#include "Texts.h"
+
+#include <gmock/gmock.h>
 
 #include <QAccessible>
 #include <QDropEvent>
@@ -86,6 +92,28 @@ protected:
         press(placeOf(item));
         move(placeOf(item, 30));
         move(placeOf(target, fromMiddle));
+    }
+    /// What stands beside the strip tells of b and its folder as if the drag were done.
+    void expectPanelsFollow(const std::string &date) {
+        const DateDrag *drag = session.dateDrag();
+        ASSERT_NE(drag, nullptr);
+        const Zones &zones = session.zones();
+        const NeighbourFacts around = neighbourFacts(strip, pic('b'), zones, drag);
+        EXPECT_EQ(around[1].date, date);
+        EXPECT_EQ(around[2].distance, "2 h later");
+        EXPECT_EQ(around[0].distance, text("preview_sameTime"));
+        NewDateContext context = session.controller().liveContext();
+        context.drag = drag->liveDragOf(*pic('b'));
+        const InspectorFacts facts =
+            inspectorFacts({pic('b')}, context, filterContext(zones, session.defaults()));
+        EXPECT_EQ(facts.date, date);
+        EXPECT_THAT(facts.files[0].slots[0].newText, testing::HasSubstr("10:00:00"));
+        const ShiftFacts shift =
+            shiftFacts(session.selectedCompound(), {pic('b')}, false, zones, drag);
+        EXPECT_EQ(shift.fields.dmDirection, "-");
+        EXPECT_EQ(shift.fields.dmHours, "1");
+        EXPECT_THAT(shift.hint, testing::EndsWith(date));
+        EXPECT_FALSE(shift.isShifted) << "there is nothing to reset yet";
     }
     void key(Qt::Key which, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(&view, which, modifiers);
@@ -198,6 +226,7 @@ TEST_F(StripTest, aDragMovesTheFolderToWhereItIsDropped) {
     EXPECT_EQ(pic('b')->spDateTimeModified(), pic('b')->spDateTimeOriginal) << "only shown";
     EXPECT_TRUE(view.accessibleDescription().contains(QStringLiteral("6 May 2024, 10:00:00")));
     EXPECT_TRUE(view.accessibleDescription().contains(QStringLiteral("1 h earlier")));
+    expectPanelsFollow("6 May 2024, 10:00:00");
     move(placeOf('e', 62)); // behind the last item that stays
     EXPECT_EQ(shown(), "acebdf");
     release(placeOf('e', 62));
@@ -205,6 +234,7 @@ TEST_F(StripTest, aDragMovesTheFolderToWhereItIsDropped) {
     EXPECT_EQ(shown(), "acebdf");
     EXPECT_FALSE(strip.tempSource);
     EXPECT_TRUE(view.accessibleDescription().isEmpty());
+    EXPECT_EQ(session.dateDrag(), nullptr);
     session.undo();
     EXPECT_EQ(nikonShift(), absl::ZeroDuration());
 }

@@ -29,6 +29,7 @@ InspectorPanel::InspectorPanel(WindowSession &session, QWidget *parent)
     connect(&session, &WindowSession::selectionChanged, this, request);
     connect(&session, &WindowSession::listChanged, this, request);
     connect(&session, &WindowSession::foldersChanged, this, request);
+    connect(&session, &WindowSession::dateDragMoved, this, request);
     rebuild();
 }
 
@@ -39,9 +40,12 @@ void InspectorPanel::changeEvent(QEvent *event) {
 }
 
 void InspectorPanel::refresh() {
+    const std::vector<MySinglePicPtr> pics = m_session.selectedPics();
+    NewDateContext liveContext = m_session.controller().liveContext();
+    if (const DateDrag *drag = m_session.dateDrag(); drag && pics.size() == 1)
+        liveContext.drag = drag->liveDragOf(*pics.front());
     InspectorFacts facts =
-        inspectorFacts(m_session.selectedPics(), m_session.controller().liveContext(),
-                       filterContext(m_session.zones(), m_session.defaults()));
+        inspectorFacts(pics, liveContext, filterContext(m_session.zones(), m_session.defaults()));
     if (facts == m_facts)
         return;
     m_facts = std::move(facts);

@@ -62,6 +62,7 @@ PreviewPanel::PreviewPanel(WindowSession &session, QWidget *parent)
     connect(&session, &WindowSession::selectionChanged, this, request);
     connect(&session, &WindowSession::listChanged, this, request);
     connect(&session, &WindowSession::foldersChanged, this, request);
+    connect(&session, &WindowSession::dateDragMoved, this, request);
     connect(&session, &WindowSession::previewsChanged, this, [this] { refreshPictures(); });
     connect(&session, &WindowSession::thumbsChanged, this, [this] {
         if (m_isAnyPending)
@@ -92,7 +93,7 @@ void PreviewPanel::refresh() {
     for (PreviewCell *cell : m_cells)
         cell->setVisible(!isInviting);
     m_facts = neighbourFacts(m_session.timelines().focusedTimeline(), m_session.mainPic(),
-                             m_session.zones());
+                             m_session.zones(), m_session.dateDrag());
     for (std::size_t i = 0; i < m_cells.size(); ++i) {
         const NeighbourFact &fact = m_facts[i];
         PreviewCell &cell = *m_cells[i];

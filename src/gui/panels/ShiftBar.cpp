@@ -141,6 +141,7 @@ void ShiftBar::connectControls() {
     connect(&m_session, &WindowSession::foldersChanged, this, request);
     connect(&m_session, &WindowSession::listChanged, this, request);
     connect(&m_session, &WindowSession::selectionChanged, this, request);
+    connect(&m_session, &WindowSession::dateDragMoved, this, request);
     connect(&m_session.saveFlow(), &SaveFlow::stageChanged, this, request);
 }
 
@@ -168,8 +169,9 @@ bool ShiftBar::eventFilter(QObject *watched, QEvent *event) {
 
 void ShiftBar::refresh() {
     const std::vector<MySinglePicPtr> pics = m_session.selectedPics();
-    const ShiftFacts facts = shiftFacts(m_session.selectedCompound(), pics,
-                                        !m_session.saveFlow().isIdle(), m_session.zones());
+    const ShiftFacts facts =
+        shiftFacts(m_session.selectedCompound(), pics, !m_session.saveFlow().isIdle(),
+                   m_session.zones(), m_session.dateDrag());
     if (Subject subject = subjectOf(facts, pics); subject != m_subject) {
         dropEdit(); // what was half edited was meant for others
         m_subject = std::move(subject);

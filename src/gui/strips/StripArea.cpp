@@ -75,7 +75,6 @@ void StripArea::followStrips() {
         m_title->hide();
         if (hadFocus)
             m_first->setFocus(Qt::OtherFocusReason);
-        Q_EMIT heightChanged();
         return;
     }
     const char *key = strip->isShelf() ? "strip_shelf" : "strip_mirror";
@@ -91,7 +90,6 @@ void StripArea::followStrips() {
         m_title->show();
         m_second->show();
         setTabOrder(m_first, m_second);
-        Q_EMIT heightChanged();
     }
     // A strip of another kind begins with sizes of its own.
     if (strip->geometry.thumbSize != m_first->strip()->geometry.thumbSize ||
@@ -126,7 +124,6 @@ void StripArea::refreshLook() {
     m_first->refreshLook();
     if (m_second)
         m_second->refreshLook();
-    Q_EMIT heightChanged();
 }
 
 /// The items in view and near it, by their distance from the middle, of both strips in turn.

@@ -35,7 +35,6 @@ Q_SIGNALS:
     /// For the main item and all that is selected with it.
     void menuWanted(const QPoint &globalPosition);
     void activated();
-    void heightChanged();
 
 private:
     void connectView(StripView *view);

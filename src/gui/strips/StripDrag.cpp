@@ -53,6 +53,11 @@ StripDrag::StripDrag(WindowSession &session, const MySinglePicPtr &pic, Timeline
       m_drag(std::move(drag)) {
     m_live.date = [this](const MySinglePic &each) { return m_drag->tempTimeDuringLiveMod(each); };
     m_live.isMoving = [this](const MySinglePicPtr &each) { return m_drag->isMoving(each); };
+    m_session.setDateDrag(m_drag.get());
+}
+
+StripDrag::~StripDrag() {
+    m_session.setDateDrag(nullptr);
 }
 
 TimelineStrip *StripDrag::presentStrip() {
@@ -127,6 +132,7 @@ void StripDrag::moveTo(TimelineStrip &strip, const Aim &aim, const MySinglePicPt
     m_live.target = shownTarget(strip, aim);
     strip.scrollX +=
         double{strip.geometry.cellWidth()} * static_cast<double>(shownIndex(*anchor) - before);
+    m_session.setDateDrag(m_drag.get());
 }
 
 void StripDrag::pointTo(double x) {
@@ -140,6 +146,7 @@ void StripDrag::pointNowhere() {
     m_drag->moveTo({});
     m_aim.reset();
     m_live.target = {};
+    m_session.setDateDrag(m_drag.get());
 }
 
 void StripDrag::listChanged() {

@@ -16,9 +16,12 @@ namespace chronomender {
 /// at the same item again. Main thread.
 class StripDrag {
 public:
-    /// Null when nothing of it can be moved. The session outlives the drag.
+    /// Null when nothing of it can be moved. The session outlives the drag, and is told of it.
     static std::unique_ptr<StripDrag> begin(WindowSession &session, const MySinglePicPtr &pic,
                                             TimelineStrip &strip);
+    ~StripDrag();
+    StripDrag(const StripDrag &) = delete;
+    StripDrag &operator=(const StripDrag &) = delete;
 
     /// The pointer is at x of the strip as it is shown. Over items that are dragged themselves the
     /// target stays what it is.
