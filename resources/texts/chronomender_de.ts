@@ -1795,6 +1795,9 @@ Beispiele:
     <message id="prefs_digitizedFollows">
         <translation>Zieht mit, wo es dem Aufnahmedatum gleicht</translation>
     </message>
+    <message id="prefs_embeddedThumbs">
+        <translation>Nur in &amp;Dateien enthaltene Vorschaubilder</translation>
+    </message>
     <message id="prefs_fileDate">
         <translation>Änderungsdatum der Da&amp;tei</translation>
     </message>
@@ -1862,7 +1865,7 @@ Beispiele:
         <translation>Zeitachse</translation>
     </message>
     <message id="prefs_groupThumbs">
-        <translation>Vorschaubilder (ab dem nächsten Start)</translation>
+        <translation>Vorschaubilder</translation>
     </message>
     <message id="prefs_groupTiff">
         <translation>Fotos, die nur ein Änderungsdatum haben</translation>
@@ -3024,6 +3027,9 @@ Beispiele:
     </message>
     <message id="thumb_damagedOrUnknown">
         <translation>Das Bild ist beschädigt oder von unbekannter Art</translation>
+    </message>
+    <message id="thumb_noneInFile">
+        <translation>Die Datei enthält kein Vorschaubild; zum Erzeugen auswählen</translation>
     </message>
     <message id="thumb_noPicture">
         <translation>Die Datei enthält kein Bild</translation>

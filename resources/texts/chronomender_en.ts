@@ -1795,6 +1795,9 @@ Examples:
     <message id="prefs_digitizedFollows">
         <translation>Moves along where it equals the recording date</translation>
     </message>
+    <message id="prefs_embeddedThumbs">
+        <translation>Only &amp;thumbnails that the files hold</translation>
+    </message>
     <message id="prefs_fileDate">
         <translation>File’s &amp;modification date</translation>
     </message>
@@ -1862,7 +1865,7 @@ Examples:
         <translation>Timeline</translation>
     </message>
     <message id="prefs_groupThumbs">
-        <translation>Thumbnails (from the next start)</translation>
+        <translation>Thumbnails</translation>
     </message>
     <message id="prefs_groupTiff">
         <translation>Photos with nothing but a change date</translation>
@@ -3024,6 +3027,9 @@ Examples:
     </message>
     <message id="thumb_damagedOrUnknown">
         <translation>The picture is damaged or of an unknown kind</translation>
+    </message>
+    <message id="thumb_noneInFile">
+        <translation>The file holds no thumbnail; select it to make one</translation>
     </message>
     <message id="thumb_noPicture">
         <translation>There is no picture in the file</translation>

@@ -16,7 +16,6 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QGuiApplication>
 #include <QMimeData>
 #include <QSplitter>
 #include <QStatusBar>
@@ -40,27 +39,11 @@ void share(QSplitter *splitter, std::initializer_list<int> shares) {
     splitter->setChildrenCollapsible(false);
 }
 
-ThumbnailSettings thumbnailSettings(const UserDefaults &defaults) {
-    ThumbnailSettings settings;
-    // A screen of high density shows a cell with more pixels than the usual thumbnail has.
-    settings.vqsFspUsesHigherResScrollingAtTheCostOfMuchRam =
-        qGuiApp->devicePixelRatio() > 1 ||
-        defaults.boolForKey("vqsFspUsesHigherResScrollingAtTheCostOfMuchRam");
-    settings.rawJpgDisplayType =
-        static_cast<RawJpgDisplayType>(defaults.integerForKey("groupDisplayRawJpgPreviewDefault"));
-    settings.autoBGThumbGeneration = defaults.boolForKey("autoBGThumbGeneration");
-    return settings;
-}
-
-std::unique_ptr<WindowSession> makeSession(AppServices services, WindowQuestions &questions) {
-    const ThumbnailSettings thumbs = thumbnailSettings(*services.defaults);
-    return std::make_unique<WindowSession>(std::move(services), questions, thumbs);
-}
-
 } // namespace
 
 MainWindow::MainWindow(AppServices services)
-    : m_session(makeSession(std::move(services), m_questions)) {
+    : m_session(std::make_unique<WindowSession>(std::move(services), m_questions)) {
+    applyThumbnailPreferences();
     m_questions.setWindow(this, m_session.get());
     setAcceptDrops(true);
     m_actions = new ActionSet(*this, *m_session, [this](CommandId id) { run(id); });

@@ -59,6 +59,7 @@ private:
     void goToOtherStrip();
     void openZones(bool ofItems);
     void openPreferences();
+    void applyThumbnailPreferences();
     void openRename(RenameSheetRequest request);
     void askBeforeClosing();
     void closeAfterSave();

@@ -18,6 +18,7 @@
 #include <QAction>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QUrl>
 
@@ -143,9 +144,24 @@ void MainWindow::openPreferences() {
         if (key == QLatin1String("appearance"))
             applyAppearance(
                 static_cast<Appearance>(m_session->defaults().integerForKey("appearance")));
+        applyThumbnailPreferences();
         m_strips->refreshLook();
     });
     sheet->open();
+}
+
+void MainWindow::applyThumbnailPreferences() {
+    const UserDefaults &defaults = m_session->defaults();
+    ThumbnailSettings settings;
+    // A screen of high density shows a cell with more pixels than the usual thumbnail has.
+    settings.vqsFspUsesHigherResScrollingAtTheCostOfMuchRam =
+        qGuiApp->devicePixelRatio() > 1 ||
+        defaults.boolForKey("vqsFspUsesHigherResScrollingAtTheCostOfMuchRam");
+    settings.rawJpgDisplayType =
+        static_cast<RawJpgDisplayType>(defaults.integerForKey("groupDisplayRawJpgPreviewDefault"));
+    settings.autoBGThumbGeneration = defaults.boolForKey("autoBGThumbGeneration");
+    settings.autoThumbMode = defaults.boolForKey("autoThumbMode");
+    m_session->setThumbnailSettings(settings);
 }
 
 void MainWindow::openRename(RenameSheetRequest request) {

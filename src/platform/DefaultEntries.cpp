@@ -19,6 +19,7 @@ constexpr DefaultEntry entries[] = {
     {"appearance", "0", Choice, {0, 1, 2}},
     {"areFiltersCombined", "0", Choice, {0, 1}},
     {"autoBGThumbGeneration", "1", Choice, {0, 1}},
+    {"autoThumbMode", "0", Choice, {0, 1}},
     {"counterType", "1", Choice, {0, 1}},
     {"counterType_prefersCompoundAltOption", "0", Choice, {0, 1}},
     {"createFileGroups", "1", Choice, {0, 1}},

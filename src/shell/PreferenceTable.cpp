@@ -164,6 +164,7 @@ constexpr Preference table[] = {
      {},
      "prefs_groupThumbs"},
     {"autoBGThumbGeneration", "prefs_backgroundThumbs", Appearance, Switch},
+    {"autoThumbMode", "prefs_embeddedThumbs", Appearance, Switch},
     {"groupDisplayRawJpgPreviewDefault", "prefs_rawJpgPreview", Appearance, Choice, rawJpgPreviews},
 };
 

@@ -168,6 +168,17 @@ void WindowSession::checkFolders() {
     });
 }
 
+void WindowSession::setThumbnailSettings(const ThumbnailSettings &settings) {
+    if (settings == m_thumbnails->settings())
+        return;
+    m_thumbnails->setSettings(settings);
+    m_previews->setRawJpgDisplayType(settings.rawJpgDisplayType);
+    for (const MySingleFolderPtr &folder : folders())
+        m_thumbnails->addImagesWithoutThumb(folder->sfPicDetails_fullArray);
+    Q_EMIT thumbsChanged();
+    Q_EMIT previewsChanged();
+}
+
 void WindowSession::thumbnailsProgressed() {
     const Thumbnails::Progress progress = m_thumbnails->progress();
     if (progress.waiting == 0)

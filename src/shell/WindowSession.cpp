@@ -55,12 +55,11 @@ std::vector<MySingleFolderPtr> amongThose(const std::vector<MySingleFolderPtr> &
 
 } // namespace
 
-WindowSession::WindowSession(AppServices services, WindowQuestions &questions,
-                             ThumbnailSettings thumbs, QObject *parent)
+WindowSession::WindowSession(AppServices services, WindowQuestions &questions, QObject *parent)
     : QObject(parent),
       m_questions(questions),
-      m_thumbnails(std::make_unique<Thumbnails>(thumbs)),
-      m_previews(std::make_unique<Previews>(previewBytes, thumbs.rawJpgDisplayType)),
+      m_thumbnails(std::make_unique<Thumbnails>(ThumbnailSettings())),
+      m_previews(std::make_unique<Previews>(previewBytes)),
       m_controller(std::make_unique<AppController>(std::move(services),
                                                    static_cast<ImportQuestions &>(*this))),
       m_saveFlow(std::make_unique<SaveFlow>(*m_controller, m_jobs, questions)) {

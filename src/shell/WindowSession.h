@@ -33,8 +33,7 @@ class WindowSession : public QObject, private ImportQuestions, private SourceVie
     Q_OBJECT
 public:
     /// `questions` outlives the session.
-    WindowSession(AppServices services, WindowQuestions &questions, ThumbnailSettings thumbs = {},
-                  QObject *parent = nullptr);
+    WindowSession(AppServices services, WindowQuestions &questions, QObject *parent = nullptr);
     ~WindowSession() override;
 
     AppController &controller() { return *m_controller; }
@@ -45,6 +44,8 @@ public:
     MyTimelinesController &timelines() { return m_controller->timelines(); }
     Thumbnails &thumbnails() { return *m_thumbnails; }
     Previews &previews() { return *m_previews; }
+    /// Holds at once: thumbnails and previews that are others by it are made anew.
+    void setThumbnailSettings(const ThumbnailSettings &settings);
     Jobs &jobs() { return m_jobs; }
     const Jobs &jobs() const { return m_jobs; }
     SaveFlow &saveFlow() { return *m_saveFlow; }

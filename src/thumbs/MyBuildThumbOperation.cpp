@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace chronomender {
 
@@ -22,6 +23,11 @@ constexpr ReasonKey kReasonKeys[]{
     {PictureFailure::Cancelled, "thumb_damagedOrUnknown"}, // never shown
 };
 
+bool isTooSmall(const QImage &image) {
+    return !image.isNull() &&
+           std::max(image.width(), image.height()) < static_cast<int>(ThumbSide::Normal);
+}
+
 } // namespace
 
 BuiltThumb MyBuildThumbOperation::buildThumb(const Cancellation &cancellation) const {
@@ -32,10 +38,18 @@ BuiltThumb MyBuildThumbOperation::buildThumb(const Cancellation &cancellation) c
             return {std::move(entry), {}};
     }
     const auto side = keepMaxi == KeepMaxi::Yes ? ThumbSide::Maxi : ThumbSide::Normal;
-    const UprightPicture picture = newImageFromSource(
-        path, static_cast<int>(side), PictureChoice::EmbeddedIfLargeEnough, &cancellation);
+    const auto make = [&](PictureChoice kind) {
+        return newImageFromSource(path, static_cast<int>(side), kind, &cancellation);
+    };
+    UprightPicture picture = make(choice);
+    const bool isEmbeddedOnly = choice == PictureChoice::EmbeddedOnly;
+    if (isEmbeddedOnly && isTooSmall(picture.image)) {
+        if (UprightPicture decoded = make(PictureChoice::Decoded); !decoded.image.isNull())
+            picture = std::move(decoded);
+    }
     return {setSpThumb(picture.image, keepMaxi),
-            picture.failure.value_or(PictureFailure::DamagedOrUnknown)};
+            picture.failure.value_or(PictureFailure::DamagedOrUnknown),
+            isEmbeddedOnly && picture.failure == PictureFailure::NoPicture};
 }
 
 std::string thumbSourcePath(const MySinglePic &pic, RawJpgDisplayType rawJpgDisplayType) {

@@ -16,7 +16,8 @@ class MySinglePic;
 /// What one run of an operation made, or why it made nothing.
 struct BuiltThumb {
     std::optional<ThumbEntry> entry;
-    PictureFailure failure{}; ///< without an entry
+    PictureFailure failure{};      ///< without an entry
+    bool didEXIFThumbFail = false; ///< only an embedded picture was wanted, and there is none
 };
 
 /// Makes one item's thumbnail, from bytes that were kept or from its file. It holds copies of what
@@ -25,6 +26,8 @@ struct MyBuildThumbOperation {
     std::string path;
     QByteArray compressedData; ///< empty: from the file
     KeepMaxi keepMaxi = KeepMaxi::No;
+    /// Also with `EmbeddedOnly`, one that does not reach the normal size is made anew.
+    PictureChoice choice = PictureChoice::EmbeddedIfLargeEnough;
 
     BuiltThumb buildThumb(const Cancellation &cancellation) const;
 };

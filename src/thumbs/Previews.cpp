@@ -9,6 +9,7 @@
 #include <list>
 #include <thread>
 #include <unordered_map>
+#include <utility>
 
 namespace chronomender {
 
@@ -43,12 +44,11 @@ struct Previews::State {
         int queuedSide = 0;           ///< that a worker was given; 0: none
         std::uint32_t generation = 0; ///< tells an entry from an older one of the same item
         std::string path;
+        std::weak_ptr<MySinglePic> pic;
     };
 
-    State(std::size_t most, RawJpgDisplayType type)
-        : mostBytes(most),
-          rawJpgDisplayType(type),
-          workers(threadCount(), PictureWorkers::Urgency::WaitedFor, [] {}) {
+    explicit State(std::size_t most)
+        : mostBytes(most), workers(threadCount(), PictureWorkers::Urgency::WaitedFor, [] {}) {
         nextRound.setSingleShot(true);
         QObject::connect(&nextRound, &QTimer::timeout, &nextRound, [this] { runAsked(); });
     }
@@ -57,12 +57,13 @@ struct Previews::State {
     void ask(const MySinglePicPtr &pic, Entry &entry, int side);
     void runAsked();
     void ran(std::uint32_t id, std::uint32_t generation, int side, const UprightPicture &picture);
+    void setRawJpgDisplayType(RawJpgDisplayType type);
     void use(std::uint32_t id);
     void remove(std::uint32_t id);
     void dropOld();
 
     std::size_t mostBytes, bytes = 0;
-    RawJpgDisplayType rawJpgDisplayType;
+    RawJpgDisplayType rawJpgDisplayType = RawJpgDisplayType::Master;
     std::unordered_map<std::uint32_t, Entry> entries;
     std::list<std::uint32_t> used, asked; // the last one in front
     std::uint32_t generations = 0;
@@ -89,6 +90,15 @@ PreviewAnswer Previews::State::answer(const MySinglePicPtr &pic, int side) {
     return {ThumbState::Pending, entry.image};
 }
 
+void Previews::State::setRawJpgDisplayType(RawJpgDisplayType type) {
+    const RawJpgDisplayType before = std::exchange(rawJpgDisplayType, type);
+    for (const std::uint32_t id : std::list(used)) {
+        const MySinglePicPtr pic = entries.at(id).pic.lock();
+        if (!pic || thumbSourcePath(*pic, before) != thumbSourcePath(*pic, type))
+            remove(id);
+    }
+}
+
 void Previews::State::use(std::uint32_t id) {
     used.remove(id); // a handful of entries
     used.push_front(id);
@@ -97,6 +107,7 @@ void Previews::State::use(std::uint32_t id) {
 void Previews::State::ask(const MySinglePicPtr &pic, Entry &entry, int side) {
     entry.askedSide = side;
     entry.path = thumbSourcePath(*pic, rawJpgDisplayType);
+    entry.pic = pic;
     asked.remove(pic->sessionUniqueId);
     asked.push_front(pic->sessionUniqueId);
     if (asked.size() > kMostAsked)
@@ -162,10 +173,12 @@ void Previews::State::remove(std::uint32_t id) {
     asked.remove(id);
 }
 
-Previews::Previews(std::size_t mostBytes, RawJpgDisplayType rawJpgDisplayType)
-    : m_state(std::make_unique<State>(mostBytes, rawJpgDisplayType)) {}
+Previews::Previews(std::size_t mostBytes) : m_state(std::make_unique<State>(mostBytes)) {}
 Previews::~Previews() = default;
 
+void Previews::setRawJpgDisplayType(RawJpgDisplayType type) {
+    m_state->setRawJpgDisplayType(type);
+}
 void Previews::setChanged(std::function<void(std::uint32_t)> changed) {
     m_state->changed = std::move(changed);
 }

@@ -24,12 +24,13 @@ struct PreviewAnswer {
 /// a bound. Main thread, with an event loop.
 class Previews {
 public:
-    explicit Previews(std::size_t mostBytes = 192U << 20U,
-                      RawJpgDisplayType rawJpgDisplayType = RawJpgDisplayType::Master);
+    explicit Previews(std::size_t mostBytes = 192U << 20U);
     ~Previews();
     Previews(const Previews &) = delete;
     Previews &operator=(const Previews &) = delete;
 
+    /// Those of groups are made anew when it is another one than before; at first it is the master.
+    void setRawJpgDisplayType(RawJpgDisplayType type);
     /// Called on the main thread when an answer is another one now.
     void setChanged(std::function<void(std::uint32_t sessionUniqueId)> changed);
     /// The picture with its longer side at `side` pixels or a little more (never enlarged). Where

@@ -29,6 +29,7 @@ ThumbItem &ThumbItems::item(const MySinglePicPtr &pic) {
 void ThumbItems::renew(ThumbItem &item) {
     item.generation = ++m_generations;
     item.failure.reset();
+    item.didEXIFThumbFail = false;
     setBuilt(item, false);
     setStage(item, ThumbStage::Waiting);
 }
@@ -49,6 +50,15 @@ void ThumbItems::forget(std::uint32_t sessionUniqueId) {
     setStage(*item, ThumbStage::Idle);
     setBuilt(*item, false);
     m_items.erase(sessionUniqueId); // the lists pass over what they do not find
+}
+
+std::vector<std::uint32_t> ThumbItems::ids() const {
+    std::vector<std::uint32_t> ids;
+    ids.reserve(m_items.size());
+    for (const auto &[id, item] : m_items)
+        ids.push_back(id);
+    std::ranges::sort(ids);
+    return ids;
 }
 
 void ThumbItems::setStage(ThumbItem &item, ThumbStage stage) {

@@ -23,13 +23,16 @@ enum class ThumbStage : std::uint8_t {
 struct ThumbItem {
     std::weak_ptr<MySinglePic> pic;
     ThumbStage stage = ThumbStage::Idle;
-    bool isBuilt = false;         ///< made or failed since its file was last another one
+    bool isBuilt = false;         ///< made or failed since its picture was last another one
     bool isAsked = false;         ///< stands in the list of what was drawn without
     bool isBackground = false;    ///< stands in the list of the rest
     bool isSeen = false;          ///< somebody looked at it while it waited
     std::uint32_t generation = 0; ///< another one for each file that it stood for
     /// `didBuildThumbFail`: why, until the file is another one.
     std::optional<PictureFailure> failure;
+    bool didEXIFThumbFail = false; ///< the failure: its file holds no thumbnail
+    /// Somebody looked at it in large, so its next thumbnail may be decoded.
+    bool wasVisisbleInPreviewsWithoutThumb = false;
 };
 
 /// The items that thumbnails are made of, and the order in which: what is on screen, then what was
@@ -40,7 +43,9 @@ public:
     ThumbItem *find(std::uint32_t sessionUniqueId);
     const ThumbItem *find(std::uint32_t sessionUniqueId) const;
     void forget(std::uint32_t sessionUniqueId);
-    /// The item's file is another one now: what is under way is of no use, and it waits again.
+    /// Of all items, in the order in which they came into the session.
+    std::vector<std::uint32_t> ids() const;
+    /// The item's picture is another one now: what is under way is of no use, and it waits again.
     void renew(ThumbItem &item);
 
     /// All changes of an item's stage go through here, so that they are counted.

@@ -18,13 +18,15 @@ namespace {
 constexpr std::size_t kMostItemsOfARound = 151, kFewLeft = 32;
 constexpr QSize kSizeOfSuppressed{200, 200};
 
+std::string_view reasonKey(const ThumbItem &item) {
+    return item.didEXIFThumbFail ? "thumb_noneInFile" : thumbReasonKey(*item.failure);
+}
+
 } // namespace
 
 struct Thumbnails::State {
     explicit State(ThumbnailSettings given)
         : settings(given),
-          keepMaxi(given.vqsFspUsesHigherResScrollingAtTheCostOfMuchRam ? KeepMaxi::Yes
-                                                                        : KeepMaxi::No),
           cache(given.decodedBytes, given.compressedBytes),
           workers(given.threads, PictureWorkers::Urgency::Background, [this] { heapDelivered(); }) {
         cache.setWillEvictObject([this](std::uint32_t) { stopAllOnFirstEvictMAIN(); });
@@ -33,6 +35,12 @@ struct Thumbnails::State {
     }
 
     ThumbAnswer answer(const MySinglePicPtr &pic, ThumbSide side);
+    void change(const ThumbnailSettings &now);
+    bool isMadeAnew(const MySinglePic &pic, const ThumbItem &item,
+                    const ThumbnailSettings &before) const;
+    bool autoBGThumbGeneration() const {
+        return settings.autoBGThumbGeneration && !isBackgroundStopped;
+    }
     void addImageWithoutThumb(const MySinglePicPtr &pic);
     bool want(const MySinglePicPtr &pic, bool isSeen);
     void takeBack();
@@ -47,12 +55,11 @@ struct Thumbnails::State {
     }
 
     ThumbnailSettings settings;
-    KeepMaxi keepMaxi;
     ThumbCache cache;
     ThumbItems items;
     Changed changed;
     std::function<void()> paused;
-    bool isAutoBGThumbsPaused = false;
+    bool isAutoBGThumbsPaused = false, isBackgroundStopped = false;
     std::vector<std::uint32_t> changedIds;
     QTimer nextRound;
     PictureWorkers workers; // ends before all that its deliveries use
@@ -61,8 +68,10 @@ struct Thumbnails::State {
 ThumbAnswer Thumbnails::State::answer(const MySinglePicPtr &pic, ThumbSide side) {
     const ThumbItem *item = items.find(pic->sessionUniqueId);
     const ThumbEntry *entry = cache.entry(pic->sessionUniqueId);
-    const bool isRemade = item && item->stage != ThumbStage::Idle;
     if (entry && entry->isDecoded()) {
+        if (!item->isBuilt && item->stage == ThumbStage::Idle)
+            addImageWithoutThumb(pic); // what is there is of older times
+        const bool isRemade = item->stage != ThumbStage::Idle;
         const auto state = isRemade ? ThumbState::Pending : ThumbState::Ready;
         if (side == ThumbSide::Mini || entry->prevThumb.isNull())
             return {state, entry->miniThumb, side != ThumbSide::Mini};
@@ -70,9 +79,35 @@ ThumbAnswer Thumbnails::State::answer(const MySinglePicPtr &pic, ThumbSide side)
         return {state, isMaxi ? entry->maxiThumb : entry->prevThumb};
     }
     if (item && item->failure)
-        return {ThumbState::Unsupported, {}, false, thumbReasonKey(*item->failure)};
+        return {ThumbState::Unsupported, {}, false, reasonKey(*item)};
     addImageWithoutThumb(pic);
     return {};
+}
+
+void Thumbnails::State::change(const ThumbnailSettings &now) {
+    const ThumbnailSettings before = std::exchange(settings, now);
+    if (now.autoBGThumbGeneration != before.autoBGThumbGeneration)
+        isBackgroundStopped = false;
+    takeBack(); // what nobody began is made as it is wanted now
+    for (const std::uint32_t id : items.ids()) {
+        ThumbItem &item = *items.find(id);
+        const MySinglePicPtr pic = item.pic.lock();
+        if (!pic || !isMadeAnew(*pic, item, before))
+            continue;
+        items.renew(item);
+        items.addBackground(id, false);
+    }
+    soon();
+}
+
+bool Thumbnails::State::isMadeAnew(const MySinglePic &pic, const ThumbItem &item,
+                                   const ThumbnailSettings &before) const {
+    const bool mayLackOne = item.didEXIFThumbFail || item.stage == ThumbStage::Queued;
+    return (before.autoThumbMode && !settings.autoThumbMode && mayLackOne) ||
+           before.vqsFspUsesHigherResScrollingAtTheCostOfMuchRam !=
+               settings.vqsFspUsesHigherResScrollingAtTheCostOfMuchRam ||
+           thumbSourcePath(pic, before.rawJpgDisplayType) !=
+               thumbSourcePath(pic, settings.rawJpgDisplayType);
 }
 
 void Thumbnails::State::addImageWithoutThumb(const MySinglePicPtr &pic) {
@@ -81,13 +116,14 @@ void Thumbnails::State::addImageWithoutThumb(const MySinglePicPtr &pic) {
     soon();
 }
 
-/// Makes an item wait that has neither a decoded thumbnail nor a reason to have none; true when it
-/// begins to.
+/// Makes an item wait that has neither a decoded thumbnail of today nor a reason to have none; true
+/// when it begins to.
 bool Thumbnails::State::want(const MySinglePicPtr &pic, bool isSeen) {
     ThumbItem &item = items.item(pic);
     item.isSeen |= isSeen;
     const ThumbEntry *entry = cache.entry(pic->sessionUniqueId);
-    if (item.stage != ThumbStage::Idle || item.failure || (entry && entry->isDecoded()))
+    if (item.stage != ThumbStage::Idle || item.failure ||
+        (entry && entry->isDecoded() && item.isBuilt))
         return false;
     items.setStage(item, ThumbStage::Waiting);
     return true;
@@ -108,7 +144,7 @@ void Thumbnails::State::runThumbs() {
     if (isAutoBGThumbsPaused)
         return;
     const auto background =
-        settings.autoBGThumbGeneration ? ThumbItems::Background::Yes : ThumbItems::Background::No;
+        autoBGThumbGeneration() ? ThumbItems::Background::Yes : ThumbItems::Background::No;
     std::vector<PictureWorkers::Task> tasks;
     for (const std::uint32_t id : items.takeRound(kMostItemsOfARound, background)) {
         ThumbItem *item = items.find(id);
@@ -120,7 +156,7 @@ void Thumbnails::State::runThumbs() {
     }
     workers.add(std::move(tasks));
     // What was taken back is background's from now on; where that is off, nobody waits for it.
-    if (!settings.autoBGThumbGeneration)
+    if (!autoBGThumbGeneration())
         items.clearBackground();
 }
 
@@ -128,8 +164,13 @@ PictureWorkers::Task Thumbnails::State::task(const MySinglePicPtr &pic, const Th
     const std::uint32_t id = pic->sessionUniqueId;
     const ThumbEntry *entry = cache.entry(id);
     const bool isKept = item.isBuilt && entry; // else the bytes are of an older file
-    MyBuildThumbOperation operation{thumbSourcePath(*pic, settings.rawJpgDisplayType),
-                                    isKept ? entry->compressedData : QByteArray(), keepMaxi};
+    const bool isEmbeddedOnly =
+        settings.autoThumbMode && !item.wasVisisbleInPreviewsWithoutThumb && !pic->isMovie();
+    MyBuildThumbOperation operation{
+        thumbSourcePath(*pic, settings.rawJpgDisplayType),
+        isKept ? entry->compressedData : QByteArray(),
+        settings.vqsFspUsesHigherResScrollingAtTheCostOfMuchRam ? KeepMaxi::Yes : KeepMaxi::No,
+        isEmbeddedOnly ? PictureChoice::EmbeddedOnly : PictureChoice::EmbeddedIfLargeEnough};
     return {id, [this, id, generation = item.generation,
                  operation = std::move(operation)](const Cancellation &cancellation) {
                 BuiltThumb built = operation.buildThumb(cancellation);
@@ -146,6 +187,7 @@ void Thumbnails::State::ranAutoBGThumb(std::uint32_t id, std::uint32_t generatio
         return;
     items.setStage(*item, ThumbStage::Idle);
     items.setBuilt(*item, true);
+    item->wasVisisbleInPreviewsWithoutThumb = false;
     if (built.entry) {
         const bool isSeen = std::exchange(item->isSeen, false);
         cache.setEntry(id, std::move(*built.entry),
@@ -153,6 +195,7 @@ void Thumbnails::State::ranAutoBGThumb(std::uint32_t id, std::uint32_t generatio
     } else {
         cache.remove(id);
         item->failure = built.failure; // hadBuildThumbError
+        item->didEXIFThumbFail = built.didEXIFThumbFail;
     }
     changedIds.push_back(id);
 }
@@ -167,8 +210,9 @@ void Thumbnails::State::heapDelivered() {
 /// Once bytes are lost there is no room for all: making more in the background would only throw
 /// others out.
 void Thumbnails::State::stopAllOnFirstEvictMAIN() {
-    if (!std::exchange(settings.autoBGThumbGeneration, false))
+    if (!autoBGThumbGeneration())
         return;
+    isBackgroundStopped = true;
     items.clearBackground();
     if (paused)
         paused();
@@ -176,6 +220,13 @@ void Thumbnails::State::stopAllOnFirstEvictMAIN() {
 
 Thumbnails::Thumbnails(ThumbnailSettings settings) : m_state(std::make_unique<State>(settings)) {}
 Thumbnails::~Thumbnails() = default;
+
+const ThumbnailSettings &Thumbnails::settings() const {
+    return m_state->settings;
+}
+void Thumbnails::setSettings(const ThumbnailSettings &settings) {
+    m_state->change(settings);
+}
 
 void Thumbnails::setChanged(Changed changed) {
     m_state->changed = std::move(changed);
@@ -207,7 +258,7 @@ void Thumbnails::setOnScreen(const std::vector<MySinglePicPtr> &pics) {
 }
 
 void Thumbnails::addImagesWithoutThumb(const std::vector<MySinglePicPtr> &pics) {
-    if (!m_state->settings.autoBGThumbGeneration)
+    if (!autoBGThumbGeneration())
         return;
     for (const MySinglePicPtr &pic : pics) {
         if (m_state->cache.contains(pic->sessionUniqueId))
@@ -222,6 +273,15 @@ void Thumbnails::updateThumb(const MySinglePicPtr &pic) {
     m_state->items.renew(m_state->items.item(pic));
     m_state->items.ask(pic->sessionUniqueId);
     m_state->soon();
+}
+
+void Thumbnails::setVisibleInPreviews(const MySinglePicPtr &pic) {
+    if (!m_state->settings.autoThumbMode || m_state->cache.contains(pic->sessionUniqueId))
+        return;
+    ThumbItem &item = m_state->items.item(pic);
+    const bool mayBeDecoded = !item.failure || item.didEXIFThumbFail;
+    if (mayBeDecoded && !std::exchange(item.wasVisisbleInPreviewsWithoutThumb, true))
+        updateThumb(pic);
 }
 
 void Thumbnails::forget(const std::vector<MySinglePicPtr> &pics) {
@@ -240,7 +300,7 @@ void Thumbnails::stopBackgroundGeneration() {
     m_state->soon(); // what is queued for nobody is taken back
 }
 bool Thumbnails::autoBGThumbGeneration() const {
-    return m_state->settings.autoBGThumbGeneration;
+    return m_state->autoBGThumbGeneration();
 }
 Thumbnails::Progress Thumbnails::progress() const {
     return {m_state->items.waitingToBeBuilt(), m_state->items.built()};

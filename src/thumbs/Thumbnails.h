@@ -35,8 +35,11 @@ struct ThumbnailSettings {
     std::size_t compressedBytes = 1024U << 20U; ///< bound of what they can be made again from
     bool vqsFspUsesHigherResScrollingAtTheCostOfMuchRam = false; ///< Maxi is kept
     bool autoBGThumbGeneration = true; ///< items that nobody looks at yet get theirs, too
+    bool autoThumbMode = false;        ///< photos get what is embedded in their files, no more
     int threads = 0;                   ///< 0: one for each processor
     RawJpgDisplayType rawJpgDisplayType = RawJpgDisplayType::Master;
+
+    bool operator==(const ThumbnailSettings &) const = default;
 };
 
 /// The thumbnails of a session's items: made on workers in the order of what is on screen, kept
@@ -49,6 +52,11 @@ public:
     ~Thumbnails();
     Thumbnails(const Thumbnails &) = delete;
     Thumbnails &operator=(const Thumbnails &) = delete;
+
+    const ThumbnailSettings &settings() const;
+    /// Makes anew what looks different by them, and nothing else; bounds and threads stay those of
+    /// the beginning. A background that was stopped stays off until its own setting changes.
+    void setSettings(const ThumbnailSettings &settings);
 
     /// Called on the main thread, with many items at once: their answers are others now.
     void setChanged(Changed changed);
@@ -67,11 +75,14 @@ public:
     void addImagesWithoutThumb(const std::vector<MySinglePicPtr> &pics);
     /// The file is another one now: its thumbnail is made again.
     void updateThumb(const MySinglePicPtr &pic);
+    /// Somebody looked at it in large: where its file holds no thumbnail, one is made now.
+    void setVisibleInPreviews(const MySinglePicPtr &pic);
     /// Items that left the session.
     void forget(const std::vector<MySinglePicPtr> &pics);
 
     /// Nothing is begun while a save writes or a user asked for quiet.
     void setIsAutoBGThumbsPaused(bool isPaused);
+    /// Whether the background gets its thumbnails: wanted, and not stopped.
     bool autoBGThumbGeneration() const;
     /// From now on only what is on screen gets its thumbnails.
     void stopBackgroundGeneration();

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Appearance.h"
+#include "Controls.h"
+#include "LittlePicture.h"
 #include "LittleWindow.h"
+#include "MainWindow.h"
 #include "PreferencesSheet.h"
 #include "Texts.h"
 
@@ -48,6 +51,35 @@ TEST(PreferencesSheet, AppliesAtOnceAndPutsBack) {
     EXPECT_FALSE(defaults.boolForKey("isSubFolderAutoImportEnabled") || box->isChecked());
     EXPECT_TRUE(reset->isHidden());
     EXPECT_EQ(told, "isSubFolderAutoImportEnabled isSubFolderAutoImportEnabled ");
+}
+
+TEST(PreferencesSheet, ThumbnailsFollowAtOnce) {
+    const little::TemporaryFolder disk;
+    qputenv("CHRONOMENDER_HOME", QByteArray::fromStdString(disk.path("home")));
+    for (const char *name : {"a/1.jpg", "a/2.jpg", "a/3.jpg", "a/4.jpg"})
+        disk.write(name, little::pictureFile(little::fourQuarters(300, 200), "jpeg") + name);
+    MainWindow window({makeSystemFileLayer(), std::make_unique<UserDefaults>(),
+                       std::make_unique<Zones>(), [] { return absl::Now(); }});
+    WindowSession &session = window.session();
+    window.show();
+    window.run(CommandId::Preferences);
+    auto *box =
+        controlOf<QCheckBox>(window, qText("prefs_embeddedThumbs").remove(QLatin1Char('&')));
+    ASSERT_TRUE(box);
+    const auto shows = [&](bool isFirst, ThumbState state) {
+        return little::LittleWindow::waitFor([&] {
+            const auto &pics = session.timelines().source_filtered();
+            const auto &pic = isFirst ? pics.front() : pics.back();
+            return session.thumbnails().spThumb(pic).state == state;
+        });
+    };
+    box->click();
+    session.openPaths({disk.path("a")});
+    ASSERT_TRUE(little::LittleWindow::waitFor([&] { return session.mainPic() != nullptr; }));
+    EXPECT_TRUE(shows(true, ThumbState::Ready)) << "it is seen in large";
+    EXPECT_TRUE(shows(false, ThumbState::Unsupported));
+    box->click();
+    EXPECT_TRUE(shows(false, ThumbState::Ready));
 }
 
 TEST(PreferencesSheet, EveryControlSetsWhatItShows) {

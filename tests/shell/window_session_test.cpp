@@ -103,6 +103,16 @@ TEST_F(WindowSessionTest, TenFoldersDroppedWhileAnImportRunsAllArrive) {
     EXPECT_FALSE(session().isBeingRead(*session().folders().front()));
 }
 
+TEST_F(WindowSessionTest, TheBackgroundSwitchedOnMakesWhatIsMissing) {
+    photo("a", "A1.JPG", "2024:05:06 10:00:00");
+    photo("a", "A2.JPG", "2024:05:06 10:00:00");
+    session().setThumbnailSettings({.autoBGThumbGeneration = false});
+    open({folder("a")});
+    EXPECT_EQ(session().thumbnails().progress().waiting, 0U);
+    session().setThumbnailSettings({});
+    EXPECT_EQ(session().thumbnails().progress().waiting, 2U);
+}
+
 TEST_F(WindowSessionTest, ACancelledReadingEndsAndTheNextOneRuns) {
     for (int i = 0; i < 200; ++i)
         photo("many", "P" + std::to_string(i) + ".JPG", "2024:05:06 10:00:00");

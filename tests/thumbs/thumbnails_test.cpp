@@ -24,6 +24,10 @@ protected:
             until([&] { return m_thumbs->spThumb(pic, side).state != ThumbState::Pending; }));
         return m_thumbs->spThumb(pic, side);
     }
+    std::string shown(const MySinglePicPtr &pic) {
+        const ThumbAnswer answer = ready(pic);
+        return answer.image.isNull() ? std::string(answer.reasonKey) : quarters(answer.image);
+    }
     bool hasEnded() {
         return until([&] { return m_thumbs->progress().waiting == 0; });
     }
@@ -130,6 +134,11 @@ TEST_F(ThumbnailsTest, TheFirstLossOfBytesEndsTheBackgroundForTheSession) {
     EXPECT_EQ(m_thumbs->progress().waiting, 0U);
     EXPECT_EQ(quarters(ready(pics.back()).image), "rgbw"); // who looks at one still gets it
     EXPECT_EQ(m_pauses, 1);
+    m_thumbs->setSettings({.autoThumbMode = true}); // has nothing to do with it
+    EXPECT_FALSE(m_thumbs->autoBGThumbGeneration());
+    m_thumbs->setSettings({.autoBGThumbGeneration = false});
+    m_thumbs->setSettings({}); // switched on again by hand
+    EXPECT_TRUE(m_thumbs->autoBGThumbGeneration());
 }
 
 TEST_F(ThumbnailsTest, AGroupShowsTheHalfThatIsWanted) {
@@ -138,11 +147,66 @@ TEST_F(ThumbnailsTest, AGroupShowsTheHalfThatIsWanted) {
     movie->spType = SpTypeMovieMdta;
     makeDependent(jpeg, raw);
     makeDependent(movie, still);
+    start();
+    Previews previews;
     for (const auto type : {RawJpgDisplayType::Master, RawJpgDisplayType::Dependent}) {
-        start({.rawJpgDisplayType = type});
+        m_thumbs->setSettings({.rawJpgDisplayType = type});
+        previews.setRawJpgDisplayType(type);
         EXPECT_EQ(ready(raw).image.width() < 126, type == RawJpgDisplayType::Dependent);
+        EXPECT_TRUE(until([&] { return previews.preview(raw, 256).state == ThumbState::Ready; }));
+        EXPECT_EQ(previews.preview(raw, 256).image.width() < 256,
+                  type == RawJpgDisplayType::Dependent);
         EXPECT_EQ(ready(still).image.width(), 126);
     }
+}
+
+TEST_F(ThumbnailsTest, AChangedSettingMakesAnewWhatItConcerns) {
+    const auto photo = addPhoto("photo.jpg"), raw = addPhoto("a.raf"), jpeg = addPhoto("a.jpg");
+    makeDependent(jpeg, raw);
+    start({.threads = 1});
+    m_thumbs->addImagesWithoutThumb({photo, raw});
+    ASSERT_TRUE(hasEnded());
+    using Ids = std::vector<std::uint32_t>;
+    const Ids all{photo->sessionUniqueId, raw->sessionUniqueId};
+    const std::pair<ThumbnailSettings, Ids> steps[]{
+        {{}, {}},
+        {{.autoThumbMode = true}, {}},
+        {{.rawJpgDisplayType = RawJpgDisplayType::Dependent}, {all[1]}},
+        {{.vqsFspUsesHigherResScrollingAtTheCostOfMuchRam = true}, all},
+        {{.autoBGThumbGeneration = false}, {}}, // until somebody looks
+    };
+    for (const auto &[settings, madeAnew] : steps) {
+        m_made.clear();
+        m_thumbs->setSettings(settings);
+        ASSERT_TRUE(hasEnded());
+        EXPECT_EQ(m_made, madeAnew);
+    }
+    EXPECT_EQ(m_thumbs->validatedThumbSize(photo).width(), 252);
+    EXPECT_EQ(ready(photo, ThumbSide::Maxi).image.width(), 126);
+}
+
+TEST_F(ThumbnailsTest, OnlyEmbeddedOnesUntilSomebodyLooks) {
+    const auto withEmbedded = [&](const std::string &name, int side) {
+        const QImage embedded = fourQuarters(side, side).mirrored();
+        return add(name, cameraJpeg(fourQuarters(300, 200), 1, embedded));
+    };
+    const auto bare = addPhoto("bare.jpg"), other = addPhoto("other.jpg"),
+               movie = addPhoto("movie.mov"), embedded = withEmbedded("embedded.jpg", 160),
+               tooSmall = withEmbedded("tooSmall.jpg", 120), broken = add("broken.jpg", "nothing");
+    movie->spType = SpTypeMovieMdta;
+    start({.autoThumbMode = true});
+    const std::pair<MySinglePicPtr, std::string> found[]{
+        {bare, "thumb_noneInFile"}, {other, "thumb_noneInFile"}, {movie, "rgbw"},
+        {embedded, "bwrg"},         {tooSmall, "rgbw"},          {broken, "thumb_damagedOrUnknown"},
+    };
+    for (const auto &[pic, thumbnail] : found)
+        EXPECT_EQ(shown(pic), thumbnail) << pic->spName;
+    for (const auto &pic : {bare, embedded, broken})
+        m_thumbs->setVisibleInPreviews(pic);
+    EXPECT_EQ(m_thumbs->progress().waiting, 1U);
+    EXPECT_EQ(shown(bare) + shown(other), "rgbwthumb_noneInFile");
+    m_thumbs->setSettings({});
+    EXPECT_EQ(shown(other) + shown(embedded), "rgbwbwrg");
 }
 
 TEST_F(ThumbnailsTest, EndInTheMiddle) {

@@ -119,7 +119,10 @@ void PreviewPanel::refreshPictures() {
         }
         const PreviewAnswer answer =
             pictureOfPair(fact.pic, [&, side = sideFor(m_cells[i]->pixelSide())](const auto &pic) {
-                return m_session.previews().preview(pic, side);
+                PreviewAnswer found = m_session.previews().preview(pic, side);
+                if (found.state != ThumbState::Pending)
+                    m_session.thumbnails().setVisibleInPreviews(pic);
+                return found;
             });
         m_isAnyPending = m_isAnyPending || answer.state == ThumbState::Pending;
         PreviewPicture picture;
