@@ -136,14 +136,15 @@ void WindowSession::dropFolders(const std::vector<MySingleFolderPtr> &folders) {
     if (isChangeRefused(folders))
         return;
     std::unordered_set<const void *> gone;
+    std::vector<MySinglePicPtr> pics;
     for (const MySingleFolderPtr &folder : folders) {
         gone.insert(folder.get());
         for (const MySinglePicPtr &pic : folder->sfPicDetails_fullArray)
             for (const MySinglePicPtr &half : {pic, pic->group.bundleDependentImage})
-                if (half)
-                    gone.insert(half.get());
-        m_thumbnails->forget(folder->sfPicDetails_fullArray);
+                if (half && gone.insert(half.get()).second)
+                    pics.push_back(half);
     }
+    m_thumbnails->forget(pics);
     m_controller->undoManager().removeAllActionsWithTargets(gone);
     m_controller->droppedFolders().remove(folders);
     m_controller->buildNewSource();
