@@ -1588,6 +1588,9 @@ Beispiele:
     <message id="command_errorLog">
         <translation>Fehler&amp;protokoll</translation>
     </message>
+    <message id="command_filter">
+        <translation>Fi&amp;ltern …</translation>
+    </message>
     <message id="command_find">
         <translation>&amp;Suchen …</translation>
     </message>
@@ -2404,8 +2407,44 @@ Beispiele:
     <message id="filter_all">
         <translation>Alle</translation>
     </message>
+    <message id="filter_anyValue">
+        <translation>beliebig</translation>
+    </message>
+    <message id="filter_asText">
+        <translation>Dieser Filter lässt sich nicht in Zeilen zeigen. Er gilt so, wie er hier steht.</translation>
+    </message>
+    <message id="filter_beginsWith">
+        <translation>beginnt mit</translation>
+    </message>
     <message id="filter_clear">
         <translation>A&amp;ufheben</translation>
+    </message>
+    <message id="filter_contains">
+        <translation>enthält</translation>
+    </message>
+    <message id="filter_counts">
+        <translation>%1, %2</translation>
+    </message>
+    <message id="filter_dateAfter">
+        <translation>nach</translation>
+    </message>
+    <message id="filter_dateBefore">
+        <translation>vor</translation>
+    </message>
+    <message id="filter_dateFrom">
+        <translation>ab</translation>
+    </message>
+    <message id="filter_dateIs">
+        <translation>genau</translation>
+    </message>
+    <message id="filter_dateIsNot">
+        <translation>nicht genau</translation>
+    </message>
+    <message id="filter_dateUpTo">
+        <translation>bis</translation>
+    </message>
+    <message id="filter_endsWith">
+        <translation>endet auf</translation>
     </message>
     <message id="filter_hidden">
         <translation>%1 ausgeblendet</translation>
@@ -2413,8 +2452,68 @@ Beispiele:
     <message id="filter_hidden_one">
         <translation>1 ausgeblendet</translation>
     </message>
+    <message id="filter_is">
+        <translation>ist</translation>
+    </message>
+    <message id="filter_isNot">
+        <translation>ist nicht</translation>
+    </message>
     <message id="filter_keepers">
         <translation>Behaltene</translation>
+    </message>
+    <message id="filter_kindCamera">
+        <translation>Kamera</translation>
+    </message>
+    <message id="filter_kindDate">
+        <translation>Datum</translation>
+    </message>
+    <message id="filter_kindMedia">
+        <translation>Art des Mediums</translation>
+    </message>
+    <message id="filter_kindName">
+        <translation>Dateiname</translation>
+    </message>
+    <message id="filter_kindRange">
+        <translation>Zeitraum</translation>
+    </message>
+    <message id="filter_kindState">
+        <translation>Zustand</translation>
+    </message>
+    <message id="filter_match">
+        <translation>Medien er&amp;füllen</translation>
+    </message>
+    <message id="filter_matchAll">
+        <translation>alle</translation>
+    </message>
+    <message id="filter_matchAny">
+        <translation>mindestens eine</translation>
+    </message>
+    <message id="filter_matchEnd">
+        <translation>dieser Bedingungen:</translation>
+    </message>
+    <message id="filter_matchName">
+        <translation>Wie viele Bedingungen gelten müssen</translation>
+    </message>
+    <message id="filter_mediaLivePhoto">
+        <translation>Live Photo</translation>
+    </message>
+    <message id="filter_mediaLivePhotosInARow">
+        <translation>Live Photo, mit dem nächsten verbunden</translation>
+    </message>
+    <message id="filter_mediaMovie">
+        <translation>Film</translation>
+    </message>
+    <message id="filter_mediaPhoto">
+        <translation>Foto</translation>
+    </message>
+    <message id="filter_mediaRawAndJpeg">
+        <translation>Raw mit JPEG</translation>
+    </message>
+    <message id="filter_more">
+        <translation>Mehr …</translation>
+    </message>
+    <message id="filter_moreName">
+        <translation>Nach mehr als Wörtern filtern</translation>
     </message>
     <message id="filter_notRejected">
         <translation>Ohne Ausschuss</translation>
@@ -2422,8 +2521,128 @@ Beispiele:
     <message id="filter_other">
         <translation>Ein eigener Filter ist aktiv</translation>
     </message>
+    <message id="filter_rangeFrom">
+        <translation>von</translation>
+    </message>
+    <message id="filter_rangeTill">
+        <translation>bis</translation>
+    </message>
     <message id="filter_rating">
         <translation>Z&amp;eigen</translation>
+    </message>
+    <message id="filter_reset">
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message id="filter_row">
+        <translation>Bedingung %1: %2</translation>
+    </message>
+    <message id="filter_rowAdd">
+        <translation>Bedingung darunter hinzufügen</translation>
+    </message>
+    <message id="filter_rowFrom">
+        <translation>erster Tag</translation>
+    </message>
+    <message id="filter_rowKind">
+        <translation>wonach gefragt wird</translation>
+    </message>
+    <message id="filter_rowOperator">
+        <translation>Vergleich</translation>
+    </message>
+    <message id="filter_rowRemove">
+        <translation>entfernen</translation>
+    </message>
+    <message id="filter_rowTill">
+        <translation>letzter Tag</translation>
+    </message>
+    <message id="filter_rowValue">
+        <translation>Wert</translation>
+    </message>
+    <message id="filter_shown">
+        <translation>%1 Medien gezeigt</translation>
+    </message>
+    <message id="filter_shown_one">
+        <translation>1 Medium gezeigt</translation>
+    </message>
+    <message id="filter_startAnew">
+        <translation>&amp;Neu beginnen</translation>
+    </message>
+    <message id="filter_stateAlert">
+        <translation>Bedarf eines Blicks</translation>
+    </message>
+    <message id="filter_stateChanged">
+        <translation>Von anderem Programm geändert</translation>
+    </message>
+    <message id="filter_stateError">
+        <translation>Fehler beim Sichern oder Umbenennen</translation>
+    </message>
+    <message id="filter_stateLocation">
+        <translation>Mit Ort</translation>
+    </message>
+    <message id="filter_stateMissing">
+        <translation>Datei nicht gefunden</translation>
+    </message>
+    <message id="filter_stateReadAgain">
+        <translation>Muss neu gelesen werden</translation>
+    </message>
+    <message id="filter_stateUnsaved">
+        <translation>Nicht gesichert</translation>
+    </message>
+    <message id="filter_stateZone">
+        <translation>In anderer Zeitzone als dieser Computer</translation>
+    </message>
+    <message id="filter_templateKeepNow">
+        <translation>Sichern</translation>
+    </message>
+    <message id="filter_templateName">
+        <translation>Name der Vorlage</translation>
+    </message>
+    <message id="filter_templateRemove">
+        <translation>&amp;Entfernen …</translation>
+    </message>
+    <message id="filter_templateRemoveNow">
+        <translation>Entfernen</translation>
+    </message>
+    <message id="filter_templateRemoveTitle">
+        <translation>Die Vorlage „%1“ entfernen?</translation>
+    </message>
+    <message id="filter_templateRename">
+        <translation>&amp;Umbenennen …</translation>
+    </message>
+    <message id="filter_templateRenameNow">
+        <translation>Umbenennen</translation>
+    </message>
+    <message id="filter_templateRenameTitle">
+        <translation>Die Vorlage „%1“ umbenennen</translation>
+    </message>
+    <message id="filter_templateReplaces">
+        <translation>Ersetzt die Vorlage dieses Namens</translation>
+    </message>
+    <message id="filter_templates">
+        <translation>&amp;Vorlage:</translation>
+    </message>
+    <message id="filter_templateSave">
+        <translation>Als Vorlage &amp;sichern …</translation>
+    </message>
+    <message id="filter_templateSaveTitle">
+        <translation>Diesen Filter als Vorlage sichern</translation>
+    </message>
+    <message id="filter_templatesName">
+        <translation>Vorlage</translation>
+    </message>
+    <message id="filter_templatesNone">
+        <translation>keine</translation>
+    </message>
+    <message id="filter_templateTooLong">
+        <translation>Dieser Filter ist für eine Vorlage zu lang</translation>
+    </message>
+    <message id="filter_templateUnreadable">
+        <translation>Diese Vorlage ist nicht lesbar</translation>
+    </message>
+    <message id="filter_textName">
+        <translation>Der geltende Filter als Text</translation>
+    </message>
+    <message id="filter_title">
+        <translation>Filter</translation>
     </message>
     <message id="filter_words">
         <translation>Nach Name oder Kamera filtern</translation>

@@ -1588,6 +1588,9 @@ Examples:
     <message id="command_errorLog">
         <translation>Error &amp;Log</translation>
     </message>
+    <message id="command_filter">
+        <translation>Fi&amp;lter…</translation>
+    </message>
     <message id="command_find">
         <translation>&amp;Find…</translation>
     </message>
@@ -2404,8 +2407,44 @@ Examples:
     <message id="filter_all">
         <translation>All</translation>
     </message>
+    <message id="filter_anyValue">
+        <translation>any</translation>
+    </message>
+    <message id="filter_asText">
+        <translation>This filter cannot be shown as rows. It runs as it is written here.</translation>
+    </message>
+    <message id="filter_beginsWith">
+        <translation>begins with</translation>
+    </message>
     <message id="filter_clear">
         <translation>C&amp;lear</translation>
+    </message>
+    <message id="filter_contains">
+        <translation>contains</translation>
+    </message>
+    <message id="filter_counts">
+        <translation>%1, %2</translation>
+    </message>
+    <message id="filter_dateAfter">
+        <translation>after</translation>
+    </message>
+    <message id="filter_dateBefore">
+        <translation>before</translation>
+    </message>
+    <message id="filter_dateFrom">
+        <translation>at or after</translation>
+    </message>
+    <message id="filter_dateIs">
+        <translation>exactly</translation>
+    </message>
+    <message id="filter_dateIsNot">
+        <translation>not exactly</translation>
+    </message>
+    <message id="filter_dateUpTo">
+        <translation>at or before</translation>
+    </message>
+    <message id="filter_endsWith">
+        <translation>ends with</translation>
     </message>
     <message id="filter_hidden">
         <translation>%1 hidden</translation>
@@ -2413,8 +2452,68 @@ Examples:
     <message id="filter_hidden_one">
         <translation>1 hidden</translation>
     </message>
+    <message id="filter_is">
+        <translation>is</translation>
+    </message>
+    <message id="filter_isNot">
+        <translation>is not</translation>
+    </message>
     <message id="filter_keepers">
         <translation>Keepers</translation>
+    </message>
+    <message id="filter_kindCamera">
+        <translation>Camera</translation>
+    </message>
+    <message id="filter_kindDate">
+        <translation>Date</translation>
+    </message>
+    <message id="filter_kindMedia">
+        <translation>Kind of media</translation>
+    </message>
+    <message id="filter_kindName">
+        <translation>File name</translation>
+    </message>
+    <message id="filter_kindRange">
+        <translation>Date range</translation>
+    </message>
+    <message id="filter_kindState">
+        <translation>State</translation>
+    </message>
+    <message id="filter_match">
+        <translation>Items mat&amp;ch</translation>
+    </message>
+    <message id="filter_matchAll">
+        <translation>all</translation>
+    </message>
+    <message id="filter_matchAny">
+        <translation>any</translation>
+    </message>
+    <message id="filter_matchEnd">
+        <translation>of these conditions:</translation>
+    </message>
+    <message id="filter_matchName">
+        <translation>How many conditions must hold</translation>
+    </message>
+    <message id="filter_mediaLivePhoto">
+        <translation>Live photo</translation>
+    </message>
+    <message id="filter_mediaLivePhotosInARow">
+        <translation>Live photo joined with the next</translation>
+    </message>
+    <message id="filter_mediaMovie">
+        <translation>Movie</translation>
+    </message>
+    <message id="filter_mediaPhoto">
+        <translation>Photo</translation>
+    </message>
+    <message id="filter_mediaRawAndJpeg">
+        <translation>Raw with JPEG</translation>
+    </message>
+    <message id="filter_more">
+        <translation>More…</translation>
+    </message>
+    <message id="filter_moreName">
+        <translation>Filter by more than words</translation>
     </message>
     <message id="filter_notRejected">
         <translation>Not rejected</translation>
@@ -2422,8 +2521,128 @@ Examples:
     <message id="filter_other">
         <translation>A filter of its own is on</translation>
     </message>
+    <message id="filter_rangeFrom">
+        <translation>from</translation>
+    </message>
+    <message id="filter_rangeTill">
+        <translation>through</translation>
+    </message>
     <message id="filter_rating">
         <translation>Sho&amp;w</translation>
+    </message>
+    <message id="filter_reset">
+        <translation>C&amp;lear</translation>
+    </message>
+    <message id="filter_row">
+        <translation>Condition %1: %2</translation>
+    </message>
+    <message id="filter_rowAdd">
+        <translation>add a condition below</translation>
+    </message>
+    <message id="filter_rowFrom">
+        <translation>first day</translation>
+    </message>
+    <message id="filter_rowKind">
+        <translation>what is asked</translation>
+    </message>
+    <message id="filter_rowOperator">
+        <translation>comparison</translation>
+    </message>
+    <message id="filter_rowRemove">
+        <translation>remove</translation>
+    </message>
+    <message id="filter_rowTill">
+        <translation>last day</translation>
+    </message>
+    <message id="filter_rowValue">
+        <translation>value</translation>
+    </message>
+    <message id="filter_shown">
+        <translation>%1 items shown</translation>
+    </message>
+    <message id="filter_shown_one">
+        <translation>1 item shown</translation>
+    </message>
+    <message id="filter_startAnew">
+        <translation>Start A&amp;new</translation>
+    </message>
+    <message id="filter_stateAlert">
+        <translation>Deserves a look</translation>
+    </message>
+    <message id="filter_stateChanged">
+        <translation>Changed by another program</translation>
+    </message>
+    <message id="filter_stateError">
+        <translation>Error of a save or rename</translation>
+    </message>
+    <message id="filter_stateLocation">
+        <translation>With a location</translation>
+    </message>
+    <message id="filter_stateMissing">
+        <translation>File not found</translation>
+    </message>
+    <message id="filter_stateReadAgain">
+        <translation>Must be read again</translation>
+    </message>
+    <message id="filter_stateUnsaved">
+        <translation>Not saved</translation>
+    </message>
+    <message id="filter_stateZone">
+        <translation>In another zone than this computer</translation>
+    </message>
+    <message id="filter_templateKeepNow">
+        <translation>Save</translation>
+    </message>
+    <message id="filter_templateName">
+        <translation>Name of the template</translation>
+    </message>
+    <message id="filter_templateRemove">
+        <translation>&amp;Delete…</translation>
+    </message>
+    <message id="filter_templateRemoveNow">
+        <translation>Delete</translation>
+    </message>
+    <message id="filter_templateRemoveTitle">
+        <translation>Delete the template “%1”?</translation>
+    </message>
+    <message id="filter_templateRename">
+        <translation>&amp;Rename…</translation>
+    </message>
+    <message id="filter_templateRenameNow">
+        <translation>Rename</translation>
+    </message>
+    <message id="filter_templateRenameTitle">
+        <translation>Rename the template “%1”</translation>
+    </message>
+    <message id="filter_templateReplaces">
+        <translation>Replaces the template of this name</translation>
+    </message>
+    <message id="filter_templates">
+        <translation>&amp;Template:</translation>
+    </message>
+    <message id="filter_templateSave">
+        <translation>&amp;Save as Template…</translation>
+    </message>
+    <message id="filter_templateSaveTitle">
+        <translation>Save this filter as a template</translation>
+    </message>
+    <message id="filter_templatesName">
+        <translation>Template</translation>
+    </message>
+    <message id="filter_templatesNone">
+        <translation>none</translation>
+    </message>
+    <message id="filter_templateTooLong">
+        <translation>This filter is too long for a template</translation>
+    </message>
+    <message id="filter_templateUnreadable">
+        <translation>This template cannot be read</translation>
+    </message>
+    <message id="filter_textName">
+        <translation>The running filter as text</translation>
+    </message>
+    <message id="filter_title">
+        <translation>Filter</translation>
     </message>
     <message id="filter_words">
         <translation>Filter by name or camera</translation>

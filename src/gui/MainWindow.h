@@ -57,6 +57,7 @@ private:
     void runInWindow(CommandId id);
     void chooseFolders(bool withOptions);
     void goToOtherStrip();
+    void openFilter();
     void openZones(bool ofItems);
     void openPreferences();
     void applyThumbnailPreferences();

@@ -4,6 +4,7 @@
 #include "Appearance.h"
 #include "Controls.h"
 #include "FilterBar.h"
+#include "FilterSheet.h"
 #include "FolderPanel.h"
 #include "InspectorPanel.h"
 #include "MainWindow.h"
@@ -64,6 +65,7 @@ void MainWindow::connectMenus() {
     connect(m_folders, &FolderPanel::menuWanted, this, menuOf(folderMenu));
     connect(m_preview, &PreviewPanel::addWanted, this, [this] { run(AddFolders); });
     connect(m_preview, &PreviewPanel::mainActivated, this, [this] { run(OpenItem); });
+    connect(m_filter, &FilterBar::editorWanted, this, [this] { run(EditFilter); });
     connect(m_strips, &StripArea::menuWanted, this, menuOf(itemMenu));
     connect(m_strips, &StripArea::activated, this, [this] { run(OpenItem); });
     connect(m_inspector, &InspectorPanel::zonesWanted, this, [this] { run(ItemZones); });
@@ -86,6 +88,7 @@ void MainWindow::runInWindow(CommandId id) {
         {Preferences, [](auto &window) { window.openPreferences(); }},
         {Quit, [](auto &window) { window.close(); }},
         {Find, [](auto &window) { window.m_filter->focusWords(); }},
+        {EditFilter, [](auto &window) { window.openFilter(); }},
         {MoveWithArrows, [](auto &window) { window.m_strips->beginMoveWithArrows(); }},
         {OpenItem, [](auto &window) { openInAnotherProgram(window.m_session->mainPic()); }},
         {ItemZones, [](auto &window) { window.openZones(true); }},
@@ -131,6 +134,11 @@ void MainWindow::goToOtherStrip() {
         timelines.setMirrorFirstRespState(!timelines.mirrorFirstRespState());
     });
     m_strips->focusStrip();
+}
+
+void MainWindow::openFilter() {
+    m_filter->finishTyping();
+    (new FilterSheet(*m_session, this))->open();
 }
 
 void MainWindow::openZones(bool ofItems) {

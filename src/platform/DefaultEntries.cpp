@@ -49,6 +49,7 @@ constexpr DefaultEntry entries[] = {
     {"displayTimelineLabels", "1", Choice, {0, 1}},
     {"dragGapOuterEdges", "60", Choice, {1, 10, 60, 600, 3600, 86400}},
     {"exifToolPath", "", Text},
+    {"filterTemplates", "", Text},
     {"fixFinderDateOnImport", "0", Choice, {0, 1}},
     {"folderColors_7",
      "#d9534f #f0962e #e3c22b #5cb85c #2ba8a0 #3f86d6 #8a63d2 #d65aa5 #8d6e63 #78909c", Text},

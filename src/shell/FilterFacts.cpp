@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FilterFacts.h"
 
+#include "FilterEditor.h"
 #include "FilterRows.h"
 #include "FilterSourceController.h"
+#include "FilterTemplateStore.h"
 
 namespace chronomender {
 namespace {
@@ -41,6 +43,7 @@ Predicate quickPredicate(const std::string &words) {
 }
 
 void restoreFilter(FilterSourceController &filters, const UserDefaults &defaults) {
+    filters.allSources = storedFilterTemplates(defaults);
     if (!filters.isAnyFilterActive())
         return;
     auto stored = parsePredicate(defaults.stringForKey("lastActiveFilterPredicate"));
@@ -66,9 +69,8 @@ void setQuickFilter(const QuickFilter &wanted, FilterSourceController &filters,
         filters.refreshFilter();
         return;
     }
-    defaults.set("isFilterActive", wanted.words.empty() ? "0" : "1");
-    filters.didChangePredicate(wanted.words.empty() ? std::nullopt
-                                                    : std::optional(quickPredicate(wanted.words)));
+    filterBy(wanted.words.empty() ? std::nullopt : std::optional(quickPredicate(wanted.words)),
+             filters, defaults);
 }
 
 } // namespace chronomender

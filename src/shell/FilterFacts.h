@@ -27,7 +27,8 @@ struct QuickFilter {
 
 /// The condition that a name or a camera holds the words.
 Predicate quickPredicate(const std::string &words);
-/// Filters again by what the last session was filtered by. Once, at the start.
+/// Reads the templates, and filters again by what the last session was filtered by. Once, at the
+/// start.
 void restoreFilter(FilterSourceController &filters, const UserDefaults &defaults);
 /// What the filters of the session are now.
 QuickFilter quickFilter(const FilterSourceController &filters, const UserDefaults &defaults);

@@ -43,6 +43,7 @@ constexpr WindowCommand commands[] = {
     {InvertSelection, Edit, "command_invertSelection", "Ctrl+I", NeedsItems},
     {Deselect, Edit, "command_deselect", "Ctrl+D", NeedsSelection},
     {Find, Edit, "command_find", "Ctrl+F", NeedsNothing, Lines::below},
+    {EditFilter, Edit, "command_filter", "Ctrl+Alt+F"},
     {ClearFilters, Edit, "command_clearFilters", "Ctrl+Shift+F", NeedsFilter},
 
     {MoveWithArrows, Items, "command_moveWithArrows", "Ctrl+M", change},

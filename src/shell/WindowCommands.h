@@ -30,6 +30,7 @@ enum class CommandId : std::uint8_t {
     InvertSelection,
     Deselect,
     Find,
+    EditFilter,
     ClearFilters,
     MoveWithArrows,
     ItemZones,

@@ -370,8 +370,9 @@ TEST_F(Story, EveryControlHasANameAndEveryActionKeys) {
     session().openPaths({m_disk.path("phone"), m_disk.path("canon")});
     waitForReading(2);
     expectNames(m_window.get());
-    for (const CommandId id : {CommandId::FolderZones, CommandId::RenameAll, CommandId::Preferences,
-                               CommandId::ErrorLog, CommandId::Shortcuts, CommandId::About}) {
+    for (const CommandId id :
+         {CommandId::FolderZones, CommandId::RenameAll, CommandId::EditFilter,
+          CommandId::Preferences, CommandId::ErrorLog, CommandId::Shortcuts, CommandId::About}) {
         m_window->run(id);
         QWidget *open = sheet();
         expectNames(open);

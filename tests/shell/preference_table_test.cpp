@@ -25,8 +25,8 @@ const std::set<std::string_view> placedElsewhere{
     "rename_keepAddOn1", "rename_keepAddOn2", "rename_keepAddOn3", "rename_restrictCounter",
     "sortedTemplatesSelectedIndex", "templateSelectedIndex", "textModTemplates_7",
     // filters
-    "areFiltersCombined", "isFilterActive", "isRatingFilterActive", "lastActiveFilterPredicate",
-    "ratingFilterSelectedOption",
+    "areFiltersCombined", "filterTemplates", "isFilterActive", "isRatingFilterActive",
+    "lastActiveFilterPredicate", "ratingFilterSelectedOption",
     // how the window looks
     "mainWindowGeometry", "mainWindowSplitters", "timelineThumbSize",
     // the questions of an import

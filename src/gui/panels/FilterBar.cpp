@@ -27,6 +27,7 @@ FilterBar::FilterBar(WindowSession &session, QWidget *parent)
       m_rating(new QComboBox),
       m_hidden(new QLabel),
       m_clear(new QPushButton(qText("filter_clear"))),
+      m_more(new QPushButton(qText("filter_more"))),
       m_typing(typingPause, [this] { apply(); }),
       m_refresh(refreshDelay, [this] { refresh(); }) {
     m_words->setClearButtonEnabled(true);
@@ -35,18 +36,21 @@ FilterBar::FilterBar(WindowSession &session, QWidget *parent)
     ratingTitle->setBuddy(m_rating);
     m_rating->addItems({qText("filter_all"), qText("filter_notRejected"), qText("filter_keepers")});
     m_rating->setAccessibleName(qText("filter_rating").remove(QLatin1Char('&')));
+    named(m_more, "filter_moreName")->setToolTip(qText("filter_moreName"));
     m_clear->setAccessibleName(qText("filter_clear").remove(QLatin1Char('&')));
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(fontMetrics().height() / 2, fontMetrics().height() / 4,
                                fontMetrics().height() / 2, fontMetrics().height() / 4);
     layout->addWidget(m_words, 1);
     for (QWidget *each : {static_cast<QWidget *>(ratingTitle), static_cast<QWidget *>(m_rating),
-                          static_cast<QWidget *>(m_hidden), static_cast<QWidget *>(m_clear)})
+                          static_cast<QWidget *>(m_more), static_cast<QWidget *>(m_hidden),
+                          static_cast<QWidget *>(m_clear)})
         layout->addWidget(each);
     connect(m_words, &QLineEdit::textEdited, this, [this] { m_typing.postpone(); });
     connect(m_words, &QLineEdit::returnPressed, this, [this] { m_typing.doNow(); });
     connect(m_rating, &QComboBox::activated, this, [this] { apply(); });
     connect(m_clear, &QPushButton::clicked, this, [this] { clear(); });
+    connect(m_more, &QPushButton::clicked, this, &FilterBar::editorWanted);
     connect(&session, &WindowSession::listChanged, this, [this] { m_refresh.request(); });
     restoreFilter(session.controller().filters(), session.defaults());
     refresh();
@@ -55,6 +59,11 @@ FilterBar::FilterBar(WindowSession &session, QWidget *parent)
 void FilterBar::focusWords() {
     m_words->setFocus(Qt::ShortcutFocusReason);
     m_words->selectAll();
+}
+
+void FilterBar::finishTyping() {
+    if (m_typing.isWaiting())
+        m_typing.doNow();
 }
 
 void FilterBar::keyPressEvent(QKeyEvent *event) {

@@ -25,6 +25,12 @@ public:
 
     /// To the words, for a command.
     void focusWords();
+    /// Filters by what is still being typed.
+    void finishTyping();
+
+Q_SIGNALS:
+    /// More is to be asked than words can say.
+    void editorWanted();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -38,7 +44,7 @@ private:
     QLineEdit *m_words = nullptr;
     QComboBox *m_rating = nullptr;
     QLabel *m_hidden = nullptr;
-    QPushButton *m_clear = nullptr;
+    QPushButton *m_clear = nullptr, *m_more = nullptr;
     QuickFilter m_shown; ///< what the session filters by
     Coalesced m_typing, m_refresh;
 };
