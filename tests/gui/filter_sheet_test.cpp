@@ -9,6 +9,7 @@
 #include "Texts.h"
 
 #include <QComboBox>
+#include <QDateEdit>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -101,6 +102,22 @@ TEST_F(FilterSheetTest, TwoRowsByKeyboardFilterAndComeBackAsATemplate) {
     EXPECT_TRUE(templates->hasFocus());
     EXPECT_EQ(templates->currentText(), QStringLiteral("Second day"));
     EXPECT_EQ(sheet->findChildren<FilterRowWidget *>().size(), 3); // one of them is to go
+}
+
+TEST_F(FilterSheetTest, ARangeBeginsWithAllDaysAndEndsWithItsLast) {
+    press(Qt::Key_End); // of the kinds
+    const auto days = sheet->findChildren<QDateEdit *>();
+    ASSERT_EQ(days.size(), 2);
+    EXPECT_EQ(days[0]->date(), QDate(2024, 10, 27));
+    EXPECT_EQ(days[1]->date(), QDate(2024, 10, 28));
+    days[1]->setFocus();
+    press(Qt::Key_End);
+    press(Qt::Key_Down);
+    ASSERT_TRUE(waitForCount(1));
+    EXPECT_THAT(names(), ElementsAre("IMG_1"));
+    press(Qt::Key_Down); // a day before the first one
+    press(Qt::Key_Return);
+    EXPECT_EQ(days[0]->date(), QDate(2024, 10, 26));
 }
 
 TEST_F(FilterSheetTest, ShowsTheRunningFilterAndKeepsWhatIsTypedLast) {

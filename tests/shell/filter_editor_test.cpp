@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "FilterEditor.h"
+#include "FilterFacts.h"
 #include "FilterSourceController.h"
 #include "FilterTemplateStore.h"
 #include "LittleItem.h"
@@ -132,7 +133,7 @@ TEST_F(FilterEditor, TemplatesAreKeptAndDamageLosesNothingElse) {
     const SourceViews views;
     FilterSourceController filters(defaults, zones, views, [](auto, auto) {});
     const auto names = [&] {
-        filters.allSources = storedFilterTemplates(UserDefaults(disk.path("preferences")));
+        restoreFilter(filters, UserDefaults(disk.path("preferences"))); // as at a start
         std::vector<std::string> all;
         for (const FilterTemplate &each : filters.updateSource())
             all.push_back(each.name + ": " + each.predicate);
