@@ -1480,6 +1480,9 @@ Beispiele:
     <message id="time_later">
         <translation>%1 später</translation>
     </message>
+    <message id="job_completing">
+        <translation>Kameras und Orte von %1 lesen</translation>
+    </message>
     <message id="job_reading">
         <translation>%1 wird gelesen</translation>
     </message>

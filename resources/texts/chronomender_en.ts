@@ -1480,6 +1480,9 @@ Examples:
     <message id="time_later">
         <translation>%1 later</translation>
     </message>
+    <message id="job_completing">
+        <translation>Reading cameras and places of %1</translation>
+    </message>
     <message id="job_reading">
         <translation>Reading %1</translation>
     </message>

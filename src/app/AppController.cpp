@@ -72,6 +72,11 @@ void AppController::startImport(ImportRequest request,
                              ImportOutcome outcome) { finished(std::move(outcome)); });
 }
 
+void AppController::completeFolder(const MySingleFolderPtr &folder,
+                                   std::function<void()> finished) {
+    m_importDriver.complete(folder, std::move(finished));
+}
+
 void AppController::setSourceViews(SourceViews *views) {
     m_views = views ? views : &m_noViews;
     m_filters = std::make_unique<FilterSourceController>(

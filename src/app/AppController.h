@@ -99,6 +99,9 @@ public:
     /// is told as skipped. Folders found inside become folders of the session behind their parent
     /// and are imported with the same choices; `finished` tells of all of them together.
     void startImport(ImportRequest request, std::function<void(ImportOutcome)> finished);
+    /// Reads late, of all items of the folder, what an import leaves out: what filters ask that
+    /// need late values. `finished` may come at once, where there is nothing to read.
+    void completeFolder(const MySingleFolderPtr &folder, std::function<void()> finished);
     /// Sorts the visible list again, and filters it.
     void buildNewSource();
     /// The views that show the visible list; without them the session has none. They outlive the

@@ -106,6 +106,11 @@ void ImportDriver::importEnded(const JobPtr &job, const ImportRequest &request,
     completeLate(request, items, [this, job] { runNext(job); });
 }
 
+void ImportDriver::complete(const MySingleFolderPtr &folder, std::function<void()> finished) {
+    completeLate({folder, {}, {}, CompletionScope::All, {}}, folder->sfPicDetails_fullArray,
+                 std::move(finished));
+}
+
 /// Behind their parent, in natural order, each folder once under whatever path.
 void ImportDriver::addSubfolders(const JobPtr &job, const ImportRequest &request,
                                  ImportOutcome &outcome) {

@@ -55,6 +55,8 @@ public:
 
     /// See AppController::startImport.
     void start(ImportRequest request, std::function<void(ImportOutcome)> finished);
+    /// See AppController::completeFolder.
+    void complete(const MySingleFolderPtr &folder, std::function<void()> finished);
     void waitForDone() { m_thread.waitForDone(); }
 
 private:

@@ -4,7 +4,6 @@
 #include "Texts.h"
 
 #include <QRegularExpression>
-#include <QTimer>
 
 #include <chrono>
 #include <utility>
@@ -31,6 +30,8 @@ ToolCheck::~ToolCheck() {
 }
 
 void ToolCheck::stop() {
+    m_patience.stop();
+    m_patience.disconnect();
     if (!m_process)
         return;
     m_process->disconnect();
@@ -56,9 +57,11 @@ void ToolCheck::check(const std::string &path, Answer answer) {
         if (error == QProcess::FailedToStart)
             finish({false, text("prefs_toolMissing")});
     });
-    QTimer::singleShot(longestWait, process, [finish] {
+    connect(&m_patience, &QTimer::timeout, this, [finish] {
         finish({false, text("prefs_toolSilent")});
     });
+    m_patience.setSingleShot(true);
+    m_patience.start(longestWait);
     process->setStandardErrorFile(QProcess::nullDevice());
     process->start(path.empty() ? QStringLiteral("exiftool") : QString::fromStdString(path),
                    {QStringLiteral("-ver")});

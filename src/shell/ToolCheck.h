@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QProcess>
 #include <QString>
+#include <QTimer>
 
 #include <functional>
 #include <string>
@@ -33,6 +34,7 @@ private:
     void stop();
 
     QProcess *m_process = nullptr;
+    QTimer m_patience;
 };
 
 } // namespace chronomender

@@ -68,6 +68,7 @@ void WindowSession::read(const MySingleFolderPtr &folder, const std::vector<std:
     const auto job = m_jobs.begin(JobKind::Import, text("job_reading", {folder->sfFolder}),
                                   [this] { m_controller->cancellation().request(); });
     m_reading[folder.get()] = folder.get();
+    m_completeFolders.erase(folder.get()); // it may get more items
     ++m_runningReads;
     ImportRequest request{
         folder, names, keyStates, CompletionScope::WhereCameraIsMissing,
@@ -90,17 +91,38 @@ void WindowSession::itemsReady(const MySingleFolderPtr &folder,
 
 void WindowSession::readingEnded(const MySingleFolderPtr &folder, const ImportOutcome &outcome) {
     std::erase_if(m_reading, [&](const auto &entry) { return entry.second == folder.get(); });
-    --m_runningReads;
     noteReading(outcome);
+    readEnded();
+    const std::size_t count = outcome.items.size();
+    tell(count == 1 ? text("status_read_one", {folder->sfFolder})
+                    : text("status_read", {numberText(count), folder->sfFolder}));
+}
+
+void WindowSession::readEnded() {
+    --m_runningReads;
     if (m_runningReads == 0 && m_saveFlow->isIdle())
         m_controller->cancellation().clear();
     m_controller->buildNewSource();
     tellEverything();
-    const std::size_t count = outcome.items.size();
-    tell(count == 1 ? text("status_read_one", {folder->sfFolder})
-                    : text("status_read", {numberText(count), folder->sfFolder}));
     if (m_runningReads == 0)
         tellReadingNotes();
+}
+
+/// A camera's serial number, a lens or a place in a file beside the photo is read when a filter
+/// asks for such things.
+void WindowSession::completeForFilter() {
+    if (!m_controller->filters().needsLateValues() || !m_saveFlow->isIdle())
+        return;
+    for (const MySingleFolderPtr &folder : folders())
+        if (!isBeingRead(*folder) && m_completeFolders.insert(folder.get()).second)
+            complete(folder);
+}
+
+void WindowSession::complete(const MySingleFolderPtr &folder) {
+    const auto job = m_jobs.begin(JobKind::Import, text("job_completing", {folder->sfFolder}),
+                                  [this] { m_controller->cancellation().request(); });
+    ++m_runningReads;
+    m_controller->completeFolder(folder, [this, job] { readEnded(); });
 }
 
 void WindowSession::noteReading(const ImportOutcome &outcome) {
@@ -139,6 +161,7 @@ void WindowSession::dropFolders(const std::vector<MySingleFolderPtr> &folders) {
     std::vector<MySinglePicPtr> pics;
     for (const MySingleFolderPtr &folder : folders) {
         gone.insert(folder.get());
+        m_completeFolders.erase(folder.get());
         for (const MySinglePicPtr &pic : folder->sfPicDetails_fullArray)
             for (const MySinglePicPtr &half : {pic, pic->group.bundleDependentImage})
                 if (half && gone.insert(half.get()).second)

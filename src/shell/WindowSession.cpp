@@ -75,6 +75,9 @@ WindowSession::~WindowSession() {
 }
 
 void WindowSession::connectParts() {
+    // Not while a list is built.
+    connect(this, &WindowSession::listChanged, this, &WindowSession::completeForFilter,
+            Qt::QueuedConnection);
     m_thumbnails->setChanged([this](const std::vector<std::uint32_t> &) {
         thumbnailsProgressed();
         Q_EMIT thumbsChanged();

@@ -19,6 +19,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace chronomender {
@@ -145,6 +146,9 @@ private:
               const KeyStates &keyStates);
     void itemsReady(const MySingleFolderPtr &folder, const std::vector<MySinglePicPtr> &items);
     void readingEnded(const MySingleFolderPtr &folder, const ImportOutcome &outcome);
+    void completeForFilter();
+    void complete(const MySingleFolderPtr &folder);
+    void readEnded();
     void noteReading(const ImportOutcome &outcome);
     void tellReadingNotes();
     void dropFolders(const std::vector<MySingleFolderPtr> &folders);
@@ -163,6 +167,8 @@ private:
     std::vector<MySingleFolderPtr> m_selectedFolders;
     /// Folders that are being read, each with the one whose reading found it.
     std::unordered_map<const MySingleFolder *, const MySingleFolder *> m_reading;
+    /// Of which everything was read that a filter can ask.
+    std::unordered_set<const MySingleFolder *> m_completeFolders;
     std::size_t m_runningReads = 0;
     const DateDrag *m_dateDrag = nullptr;
     std::vector<std::string> m_readingNotes; ///< told when the last reading has ended

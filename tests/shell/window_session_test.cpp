@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AlignRows.h"
+#include "FilterEditor.h"
+#include "FilterFacts.h"
 #include "LittleWindow.h"
 #include "Texts.h"
 #include "WindowCommands.h"
@@ -85,6 +87,21 @@ TEST_F(WindowSessionTest, OpensWhatIsDroppedAndTellsOfTheRest) {
     ASSERT_TRUE(session().mainPic());
     EXPECT_EQ(session().mainPic()->spBaseName(), "A1");
     EXPECT_EQ(session().selectedFolders().front()->sfFolder, "a");
+}
+
+TEST_F(WindowSessionTest, AFilterHasReadWhatItAsks) {
+    photo("before", "a.jpg", "2024:05:06 10:00:00");
+    photo("behind", "b.jpg", "2024:05:06 11:00:00");
+    open({folder("before")});
+    const auto isRead = [this](std::size_t index) {
+        return m_window.pics(index).at(0)->importState.wasLocationDataSearched;
+    };
+    EXPECT_FALSE(isRead(0)) << "reading takes longer with it";
+    filterBy(quickPredicate("Little"), session().controller().filters(), session().defaults());
+    waitUntil([&] { return isRead(0); });
+    open({folder("behind")});
+    waitUntil([&] { return isRead(1) && !session().jobs().isAnyRunning(); });
+    EXPECT_THAT(order(), ElementsAre("a", "b"));
 }
 
 TEST_F(WindowSessionTest, TenFoldersDroppedWhileAnImportRunsAllArrive) {
