@@ -6,6 +6,7 @@
 // screen: see scripts/screenshots.
 #include "Appearance.h"
 #include "Controls.h"
+#include "FilterEditor.h"
 #include "MainWindow.h"
 #include "StripView.h"
 #include "ZonesSheet.h"
@@ -56,6 +57,7 @@ public:
             {"saving", &Tour::showSaving, "Europe/Berlin", true},
             {"errors", &Tour::showErrors, "Europe/Berlin"},
             {"rename", &Tour::showRename},
+            {"filter", &Tour::showFilter},
             {"preferences", &Tour::showPreferences},
         };
         for (const auto &step : steps) {
@@ -203,6 +205,15 @@ private:
     void showRename() {
         open({"canon", "nikon", "phone"});
         m_window->run(CommandId::RenameAll);
+    }
+    void showFilter() {
+        open({"canon", "nikon", "phone"});
+        FilterCondition camera{FilterRowKind::CamAndFolder};
+        camera.text = "canon";
+        FilterCondition photos{FilterRowKind::MediaType, PredicateOperator::Equal};
+        filterBy(predicateOf({FilterConditions::Match::All, {camera, photos}}),
+                 session().controller().filters(), session().defaults());
+        m_window->run(CommandId::EditFilter);
     }
     void showPreferences() { m_window->run(CommandId::Preferences); }
 
