@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ActionSet.h"
 #include "AlignSheet.h"
-#include "Appearance.h"
 #include "Controls.h"
 #include "FilterBar.h"
 #include "FilterSheet.h"
@@ -148,10 +147,7 @@ void MainWindow::openZones(bool ofItems) {
 
 void MainWindow::openPreferences() {
     auto *sheet = new PreferencesSheet(*m_session, this);
-    connect(sheet, &PreferencesSheet::preferenceChanged, this, [this](const QString &key) {
-        if (key == QLatin1String("appearance"))
-            applyAppearance(
-                static_cast<Appearance>(m_session->defaults().integerForKey("appearance")));
+    connect(sheet, &PreferencesSheet::preferenceChanged, this, [this] {
         applyThumbnailPreferences();
         m_strips->refreshLook();
     });
